@@ -1,0 +1,5 @@
+#include "core/Single.h"
+#include "platform/Settings.h"
+#include <QString>
+#include <cmath>
+#include <math.h>

@@ -1,0 +1,3 @@
+#include "core/Single.h"
+#include "platform/forms/Form.h"
+#include <QSettings>

@@ -1,0 +1,3 @@
+#include "reports/Line.h"
+#include "screens/Shell.h"
+#include "shell/About.h"
