@@ -1,0 +1,18 @@
+#pragma once
+
+// The whole core: the state of the calculator, the relations of moist air, the solvers, and numbers as text.
+
+#include "core/AirSnapshot.h"
+#include "core/CoreMessage.h"
+#include "core/NumberLocale.h"
+#include "core/NumberPicture.h"
+#include "core/NumberText.h"
+#include "core/Relations.h"
+#include "core/RoundToScale.h"
+#include "core/RunTimeError.h"
+#include "core/Single.h"
+#include "core/Solvers.h"
+#include "core/StatePoint.h"
+#include "core/TaggedNumber.h"
+#include "core/UnitTables.h"
+#include "core/WetBulbSearch.h"

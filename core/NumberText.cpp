@@ -1,0 +1,189 @@
+#include "core/NumberText.h"
+
+#include "core/Decimal.h"
+#include "core/NumberLocale.h"
+#include "core/TaggedNumber.h"
+
+#include <algorithm>
+#include <charconv>
+#include <system_error>
+
+namespace {
+
+constexpr int SingleDigits = 7;
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+std::string_view WithoutBlanksAround(std::string_view text)
+{
+    constexpr std::string_view blanks = " \t";
+    const std::size_t first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+/// Turns a number in the locale's spelling into the plain one, "-123.45e-6", piece by piece.
+class NumberReader
+{
+public:
+    explicit NumberReader(std::string_view text) : rest_(text) {}
+
+    /// @throws RunTimeError type mismatch
+    std::string plainSpelling()
+    {
+        takeSign(true);
+        const bool integer = takeIntegerPart();
+        const bool fraction = takeFraction();
+        if (!integer && !fraction)
+            Raise(ErrorNumber::TypeMismatch);
+        takeExponent();
+        if (!rest_.empty())
+            Raise(ErrorNumber::TypeMismatch);
+        return plain_;
+    }
+
+private:
+    /// Drops what the text goes on with; an empty token never matches.
+    bool take(std::string_view token)
+    {
+        if (token.empty() || !rest_.starts_with(token))
+            return false;
+        rest_.remove_prefix(token.size());
+        return true;
+    }
+
+    void takeSign(bool keepMinus)
+    {
+        if (take("-"))
+            plain_ += '-';
+        else if (take("+") && !keepMinus)
+            plain_ += '+';
+    }
+
+    bool takeDigits()
+    {
+        const auto end = std::find_if_not(rest_.begin(), rest_.end(), IsDigit);
+        const auto count = static_cast<std::size_t>(end - rest_.begin());
+        plain_ += rest_.substr(0, count);
+        rest_.remove_prefix(count);
+        return count > 0;
+    }
+
+    /// Separators may stand anywhere after the first digit: nobody counts them off in threes while typing.
+    bool takeIntegerPart()
+    {
+        if (!takeDigits())
+            return false;
+        while (take(numberLocale.groupSeparator) || takeDigits()) {
+        }
+        return true;
+    }
+
+    bool takeFraction()
+    {
+        if (!take(numberLocale.decimalPoint))
+            return false;
+        plain_ += '.';
+        return takeDigits();
+    }
+
+    void takeExponent()
+    {
+        if (!take("e") && !take("E"))
+            return;
+        plain_ += 'e';
+        takeSign(false);
+        if (!takeDigits())
+            Raise(ErrorNumber::TypeMismatch);
+    }
+
+    std::string_view rest_;
+    std::string plain_;
+};
+
+/// Whether a number in the plain spelling, known to be too large or too small for a double, is too small.
+bool IsTooSmall(std::string_view plain)
+{
+    const std::size_t exponentAt = std::min(plain.find('e'), plain.size());
+    const std::string_view mantissa = plain.substr(0, exponentAt);
+    const auto pointAt = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto firstDigitAt = static_cast<long>(mantissa.find_first_of("123456789"));
+
+    long exponent = 0;
+    if (exponentAt < plain.size()) {
+        const std::string_view text = plain.substr(exponentAt + 1);
+        const char* first = text.data() + (text.front() == '+' ? 1 : 0);
+        const auto result = std::from_chars(first, text.data() + text.size(), exponent);
+        if (result.ec == std::errc::result_out_of_range)
+            return text.front() == '-';
+    }
+    return exponent + pointAt - firstDigitAt < 0;
+}
+
+bool EqualsIgnoringCase(std::string_view text, std::string_view lowerCase)
+{
+    return std::equal(text.begin(), text.end(), lowerCase.begin(), lowerCase.end(),
+                      [](char a, char b) { return LowerCase(a) == b; });
+}
+
+std::string PlainSpelling(const Decimal& value)
+{
+    const std::string integer = value.integerDigits();
+    const std::string fraction = value.fractionDigits();
+    std::string text = value.negative ? "-" : "";
+    text += integer.empty() ? "0" : integer;
+    if (!fraction.empty())
+        text += numberLocale.decimalPoint + fraction;
+    return text;
+}
+
+} // namespace
+
+double ParseDouble(std::string_view text)
+{
+    const std::string plain = NumberReader(WithoutBlanksAround(text)).plainSpelling();
+    double value = 0.0;
+    const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), value);
+    if (result.ec == std::errc::result_out_of_range) {
+        if (!IsTooSmall(plain))
+            Raise(ErrorNumber::Overflow);
+        return 0.0;
+    }
+    return value;
+}
+
+Boolean16 ParseBoolean(std::string_view text)
+{
+    if (EqualsIgnoringCase(text, "true"))
+        return True16;
+    if (EqualsIgnoringCase(text, "false"))
+        return False16;
+    return ParseDouble(text) == 0.0 ? False16 : True16;
+}
+
+std::string PlainText(Single value)
+{
+    Decimal decimal = Decimal::shortestOf(value);
+    if (decimal.digits.size() > SingleDigits) {
+        decimal = Decimal::of(value);
+        decimal.roundToDigits(SingleDigits);
+    }
+    return PlainSpelling(decimal);
+}
+
+std::string PlainText(double value) { return PlainSpelling(Decimal::of(value)); }
+
+std::string PlainText(const TaggedNumber& value)
+{
+    switch (value.kind()) {
+    case NumberKind::Text:
+        return value.text();
+    case NumberKind::Single:
+        return PlainText(value.asSingle());
+    default:
+        return PlainText(value.asDouble());
+    }
+}

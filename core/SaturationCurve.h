@@ -1,0 +1,46 @@
+#pragma once
+
+#include "core/Single.h"
+#include "core/StatePoint.h"
+
+/// The coefficients of one branch of the saturation pressure.
+struct SaturationCurve
+{
+    bool ice;
+    double c1, c2, c3, c4, c5, c6, c7; // c6 belongs to ice alone
+};
+
+// clang-format off
+constexpr SaturationCurve IceEnglish   {true,  -10214.165, -4.8932428, -0.0053765794, 1.9202377e-7,  3.5575832e-10, -9.0344688e-14, 4.1635019};
+constexpr SaturationCurve WaterEnglish {false, -10440.39,  -11.29465,  -0.027022355,  1.289036e-5,   -2.4780681e-9, 0.0,            6.5459673};
+constexpr SaturationCurve IceMetric    {true,  -5674.5359, 6.3925247,  -0.009677843,  6.22115701e-7, 2.0747825e-9,  -9.484024e-13,  4.1635019};
+constexpr SaturationCurve WaterMetric  {false, -5800.2206, 1.3914993,  -0.048640239,  4.1764768e-5,  -1.4452093e-8, 0.0,            6.5459673};
+// clang-format on
+
+/// The branch for an absolute temperature, or nullptr outside them all. The limits are singles: 0 deg C and
+/// 32 deg F, turned into absolute temperatures, are exactly the last ones over ice.
+inline const SaturationCurve* SaturationCurveAt(Single T)
+{
+    if (IsMetric()) {
+        if (!(T > 175.0F && T < 473.0F))
+            return nullptr;
+        return T <= 273.15F ? &IceMetric : &WaterMetric;
+    }
+    if (!(T > 311.0F && T < 851.67F))
+        return nullptr;
+    return T <= 491.67F ? &IceEnglish : &WaterEnglish;
+}
+
+/// The natural logarithm of the saturation pressure. Powers are products: a single has 24 bits, so its square
+/// is exact in a double and the others come within a bit of what the general power function gives. No bit of
+/// the pressure, rounded to single, differs.
+inline double LogSaturationPressure(const SaturationCurve& curve, Single T)
+{
+    const double t = T;
+    const double square = t * t;
+    double sum = (curve.c1 / t + curve.c2 + curve.c3 * t) + curve.c4 * square;
+    sum += curve.c5 * (square * t);
+    if (curve.ice)
+        sum += curve.c6 * (square * square);
+    return sum + curve.c7 * std::log(t);
+}

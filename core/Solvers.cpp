@@ -1,0 +1,159 @@
+#include "core/Solvers.h"
+
+#include "core/CoreMessage.h"
+#include "core/Relations.h"
+#include "core/StatePoint.h"
+#include "core/WetBulbSearch.h"
+
+namespace {
+
+// The steps that the solvers share. Each reads the state and writes its result into it at once.
+
+Single SaturationPressureAtDryBulb() { return SaturationPressure(ToAbsolute(StatePoint.Tdb)); }
+
+void FindGrains()
+{
+    if (!IsMetric())
+        StatePoint.Grains = 7000.0 * StatePoint.W;
+}
+
+void FindDegreeOfSaturation()
+{
+    StatePoint.Mu = DegreeOfSaturation(StatePoint.W.asSingle(), StatePoint.Ws.asSingle());
+}
+
+void FindSaturatedHumidityRatio()
+{
+    StatePoint.Ws = HumidityRatioFromVaporPressure(StatePoint.Pws.asSingle(), StatePoint.P.asSingle());
+}
+
+void FindRelativeHumidity()
+{
+    StatePoint.RH = RHFromDegreeOfSaturation(StatePoint.Mu.asSingle(), StatePoint.Pws.asSingle(),
+                                             StatePoint.P.asSingle());
+}
+
+void FindSpecificVolume(Single absolute)
+{
+    StatePoint.SpVol = SpecificVolumeOf(absolute, StatePoint.W.asSingle(), StatePoint.P.asSingle());
+}
+
+void FindEnthalpy() { StatePoint.h = EnthalpyOf(StatePoint.Tdb, StatePoint.W.asSingle()); }
+
+void FindVaporPressure()
+{
+    StatePoint.Pw = VaporPressureFromHumidityRatio(StatePoint.P.asSingle(), StatePoint.W.asSingle());
+}
+
+/// The regression wants kPa where the state holds Pa.
+void FindDewPoint()
+{
+    const Single pw = IsMetric() ? (StatePoint.Pw / 1000).asSingle() : StatePoint.Pw.asSingle();
+    StatePoint.td = DewPointFromVaporPressure(pw);
+}
+
+/// Air as good as saturated needs no search: its wet bulb is the dry bulb, less a hair, kept in double.
+void FindWetBulb()
+{
+    if (StatePoint.RH >= 0.999)
+        StatePoint.Twb = StatePoint.Tdb - 0.005;
+    else
+        StatePoint.Twb = SolveWetBulb(StatePoint.Tdb, StatePoint.W.asSingle(), StatePoint.P.asSingle());
+}
+
+/// Vapour pressure, saturation and relative humidity from a humidity ratio and TAbs.
+/// @return whether the air is above saturation
+bool FindHumidityFromRatio()
+{
+    FindVaporPressure();
+    StatePoint.Pws = SaturationPressure(StatePoint.TAbs);
+    FindSaturatedHumidityRatio();
+    FindDegreeOfSaturation();
+    FindRelativeHumidity();
+    return StatePoint.RH > 1.0;
+}
+
+} // namespace
+
+void SolveFromGrains()
+{
+    GrainsTooHigh = False16;
+    StatePoint.W = StatePoint.Grains / 7000.0;
+    StatePoint.TAbs = FahrenheitToRankine(StatePoint.Tdb);
+    if (FindHumidityFromRatio()) {
+        GrainsTooHigh = True16;
+        ShowCoreMessage("Humidity Ratio Input is too High, Try Again!");
+        return;
+    }
+    StatePoint.TAbs = FahrenheitToRankine(StatePoint.Tdb);
+    FindSpecificVolume(StatePoint.TAbs);
+    FindEnthalpy();
+    StatePoint.td = DewPointFromVaporPressure(StatePoint.Pw.asSingle()); // no division: psi in either mode
+    FindWetBulb();
+}
+
+void SolveFromW()
+{
+    HumidityRatioTooHigh = False16;
+    StatePoint.TAbs = ToAbsolute(StatePoint.Tdb);
+    if (FindHumidityFromRatio()) {
+        HumidityRatioTooHigh = True16;
+        ShowCoreMessage("Humidity Ratio Input is High, Try Again!");
+        return;
+    }
+    FindGrains();
+    FindSpecificVolume(StatePoint.TAbs);
+    FindEnthalpy();
+    FindDewPoint();
+    FindWetBulb();
+}
+
+void SolveFromWetBulb()
+{
+    StatePoint.PwsWet = SaturationPressure(ToAbsolute(StatePoint.Twb.asSingle()));
+    StatePoint.Pws = SaturationPressureAtDryBulb();
+    StatePoint.WsWet = HumidityRatioFromVaporPressure(StatePoint.PwsWet.asSingle(), StatePoint.P.asSingle());
+    StatePoint.W = HumidityRatioFromWetBulb(StatePoint.Twb.asSingle(), StatePoint.Tdb, StatePoint.WsWet);
+    FindGrains();
+    FindSaturatedHumidityRatio();
+    FindDegreeOfSaturation();
+    FindRelativeHumidity();
+    FindSpecificVolume(ToAbsolute(StatePoint.Tdb));
+    FindEnthalpy();
+    FindVaporPressure();
+    FindDewPoint();
+}
+
+void SolveFromDewPoint()
+{
+    StatePoint.PwsDew = SaturationPressure(ToAbsolute(StatePoint.td.asSingle()));
+    StatePoint.Pw = StatePoint.PwsDew;
+    StatePoint.W = HumidityRatioFromVaporPressure(StatePoint.PwsDew.asSingle(), StatePoint.P.asSingle());
+    StatePoint.Pws = SaturationPressureAtDryBulb();
+    FindSaturatedHumidityRatio();
+    FindDegreeOfSaturation();
+    FindGrains();
+    FindRelativeHumidity();
+    FindSpecificVolume(ToAbsolute(StatePoint.Tdb));
+    FindEnthalpy();
+    FindWetBulb();
+}
+
+void SolveFromRH()
+{
+    StatePoint.RH = StatePoint.RH / 100;
+    if (StatePoint.RH > 0.9999)
+        StatePoint.RH = 1.0;
+    if (StatePoint.RH < 0.001)
+        StatePoint.RH = 0.001;
+    StatePoint.Pws = SaturationPressureAtDryBulb();
+    StatePoint.Pw = VaporPressureFromRH(StatePoint.RH.asSingle(), StatePoint.Pws.asSingle());
+    StatePoint.W = HumidityRatioFromVaporPressure(StatePoint.Pw.asSingle(), StatePoint.P.asSingle());
+    FindSaturatedHumidityRatio();
+    FindDegreeOfSaturation();
+    FindGrains();
+    FindSpecificVolume(ToAbsolute(StatePoint.Tdb));
+    FindEnthalpy();
+    FindDewPoint();
+    FindWetBulb();
+}

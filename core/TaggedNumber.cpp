@@ -1,0 +1,74 @@
+#include "core/TaggedNumber.h"
+
+#include "core/CheckedArithmetic.h"
+#include "core/NumberText.h"
+
+#include <utility>
+
+namespace {
+
+constexpr double LeastInt16 = std::numeric_limits<std::int16_t>::min();
+constexpr double GreatestInt16 = std::numeric_limits<std::int16_t>::max();
+
+bool IsWide(NumberKind kind) { return kind == NumberKind::Double || kind == NumberKind::Text; }
+
+/// The kind that arithmetic on two numbers gives.
+NumberKind CommonKind(const TaggedNumber& left, const TaggedNumber& right)
+{
+    if (IsWide(left.kind()) || IsWide(right.kind()))
+        return NumberKind::Double;
+    if (left.kind() == NumberKind::Single || right.kind() == NumberKind::Single)
+        return NumberKind::Single;
+    return NumberKind::Int16;
+}
+
+/// Rounds a result, worked out in double, to its kind. Operands of the two narrow kinds have so few digits
+/// that rounding them twice gives what rounding once would.
+TaggedNumber Rounded(double value, NumberKind kind)
+{
+    switch (kind) {
+    case NumberKind::Int16:
+        return RoundToInt16(value);
+    case NumberKind::Single:
+        return RoundToSingle(value);
+    default:
+        return RequireFinite(value);
+    }
+}
+
+} // namespace
+
+TaggedNumber::TaggedNumber(int value) : value_(value)
+{
+    if (value < LeastInt16 || value > GreatestInt16)
+        Raise(ErrorNumber::Overflow);
+}
+
+TaggedNumber::TaggedNumber(std::string text) : kind_(NumberKind::Text), text_(std::move(text)) {}
+
+double TaggedNumber::numberInText() const { return ParseDouble(text_); }
+
+std::int16_t TaggedNumber::asInt16() const { return RoundToInt16(asDouble()); }
+
+TaggedNumber operator+(const TaggedNumber& left, const TaggedNumber& right)
+{
+    return Rounded(left.asDouble() + right.asDouble(), CommonKind(left, right));
+}
+
+TaggedNumber operator-(const TaggedNumber& left, const TaggedNumber& right)
+{
+    return Rounded(left.asDouble() - right.asDouble(), CommonKind(left, right));
+}
+
+TaggedNumber operator*(const TaggedNumber& left, const TaggedNumber& right)
+{
+    return Rounded(left.asDouble() * right.asDouble(), CommonKind(left, right));
+}
+
+TaggedNumber operator/(const TaggedNumber& left, const TaggedNumber& right)
+{
+    const NumberKind kind = CommonKind(left, right);
+    const double dividend = left.asDouble();
+    return Rounded(Quotient(dividend, right.asDouble()),
+                   kind == NumberKind::Int16 ? NumberKind::Double : kind);
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "core/CheckedArithmetic.h"
+#include "core/StatePoint.h"
+
+/// The interval that the wet bulb search halves, with its tests for the end. Its numbers are singles and are
+/// rounded each time they are stored.
+struct WetBulbBracket
+{
+    Single upper;
+    Single lower;
+    Single mid;
+    int count = 0;
+
+    explicit WetBulbBracket(Single tdb)
+        : upper(RoundToSingle(tdb - 0.005)),
+          lower(RoundToSingle(tdb - (IsMetric() ? 50.0 : 70.0))),
+          mid(midpoint())
+    {}
+
+    /// Takes the half in which the residuals change their sign.
+    /// @param product  its sign: of the residuals at mid and at lower, not 0
+    /// @return         whether the search ends with the new midpoint
+    /// @throws RunTimeError division by zero where the new midpoint is exactly 0
+    bool narrow(int product)
+    {
+        constexpr Single tolerance = 0.01F; // percent of the temperature
+        constexpr int mostSteps = 20;
+
+        if (product < 0)
+            upper = mid;
+        else
+            lower = mid;
+        const Single old = mid;
+        mid = midpoint();
+        const double step = Quotient(static_cast<double>(mid) - old, mid);
+        const Single error = RoundToSingle(std::fabs(step) * 100.0);
+        ++count;
+        return error <= tolerance || count > mostSteps;
+    }
+
+private:
+    Single midpoint() const { return RoundToSingle((static_cast<double>(lower) + upper) / 2.0); }
+};

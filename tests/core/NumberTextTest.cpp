@@ -1,0 +1,248 @@
+#include "tests/core/CoreTest.h"
+
+#include <clocale>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+#include <locale>
+#include <random>
+
+namespace {
+
+const NumberLocale German{",", "."};
+const NumberLocale French{",", "\u202F"};
+const NumberLocale Swiss{".", "\u2019"};
+
+std::vector<std::string> NoNumbers()
+{
+    return {"",    " ",     "abc",   "12a", "1 2",  "--1",   "+-1", "- 1",  ".",    "-",     "-.",      ",5",
+            ",",   "1.2.3", "1.2,3", "1e",  "1e+",  "1e1.5", "e5",  "1 e5", "0x10", "inf",   "-inf",    "nan",
+            "INF", "NaN",   "1f",    "1d5", "&H10", "$5",    "5%",  "(5)",  "5-",   "1_000", "infinity"};
+}
+
+} // namespace
+
+using NumberText = EnglishCore;
+
+TEST_F(NumberText, ReadsWhatAPersonTypes)
+{
+    EXPECT_EQ(ParseDouble("70"), 70.0);
+    EXPECT_EQ(ParseDouble("70.35"), 70.35);
+    EXPECT_EQ(ParseDouble("-40"), -40.0);
+    EXPECT_EQ(ParseDouble("+5"), 5.0);
+    EXPECT_EQ(ParseDouble("5."), 5.0);
+    EXPECT_EQ(ParseDouble(".5"), 0.5);
+    EXPECT_EQ(ParseDouble("-.5"), -0.5);
+    EXPECT_EQ(ParseDouble("007"), 7.0);
+    EXPECT_EQ(ParseDouble("1e3"), 1000.0);
+    EXPECT_EQ(ParseDouble("1.5E-3"), 0.0015);
+    EXPECT_EQ(ParseDouble("5.e+2"), 500.0);
+    EXPECT_EQ(ParseDouble("  70 "), 70.0);
+    EXPECT_EQ(ParseDouble("\t70\t"), 70.0);
+}
+
+TEST_F(NumberText, ReadsGroupSeparatorsAnywhereInFrontOfTheDecimalPoint)
+{
+    EXPECT_EQ(ParseDouble("1,234,567.8"), 1234567.8);
+    EXPECT_EQ(ParseDouble("1,2,3"), 123.0);
+    EXPECT_EQ(ParseDouble("1,,000"), 1000.0);
+    EXPECT_EQ(ParseDouble("12,.5"), 12.5);
+    EXPECT_EQ(ParseDouble("12,"), 12.0);
+    EXPECT_EQ(ParseDouble("1,2e3"), 12000.0);
+    EXPECT_EQ(ErrorOf([] { ParseDouble("1.234,5"); }), TypeMismatch);
+    EXPECT_EQ(ErrorOf([] { ParseDouble("1e3,0"); }), TypeMismatch);
+    EXPECT_EQ(ErrorOf([] { ParseDouble("-,5"); }), TypeMismatch);
+}
+
+TEST_F(NumberText, RefusesEverythingElseAsATypeMismatch)
+{
+    for (const std::string& text : NoNumbers())
+        EXPECT_EQ(ErrorOf([&] { ParseDouble(text); }), TypeMismatch) << '"' << text << '"';
+    EXPECT_EQ(ErrorOf([] { ParseDouble(std::string_view("1\0", 2)); }), TypeMismatch);
+}
+
+TEST_F(NumberText, ReadsTheUsersOwnSpelling)
+{
+    numberLocale = German;
+    EXPECT_EQ(ParseDouble("14,696"), 14.696);
+    EXPECT_EQ(ParseDouble("1.234.567,8"), 1234567.8);
+    EXPECT_EQ(ParseDouble("70.5"), 705.0); // the point only groups here
+    EXPECT_EQ(ErrorOf([] { ParseDouble("1,5,0"); }), TypeMismatch);
+
+    numberLocale = French;
+    EXPECT_EQ(ParseDouble("1\u202F234,5"), 1234.5);
+    EXPECT_EQ(ErrorOf([] { ParseDouble("1 234,5"); }), TypeMismatch);
+    EXPECT_EQ(ErrorOf([] { ParseDouble("1\u00A0234,5"); }), TypeMismatch);
+    EXPECT_EQ(ErrorOf([] { ParseDouble("1.5"); }), TypeMismatch);
+
+    numberLocale = Swiss;
+    EXPECT_EQ(ParseDouble("1\u2019234.5"), 1234.5);
+    EXPECT_EQ(ErrorOf([] { ParseDouble("1\xE2\x80"); }), TypeMismatch); // half a separator
+
+    numberLocale = {".", ""};
+    EXPECT_EQ(ParseDouble("1234.5"), 1234.5);
+    EXPECT_EQ(ErrorOf([] { ParseDouble("1,234.5"); }), TypeMismatch);
+}
+
+TEST_F(NumberText, TellsTooLargeFromTooSmall)
+{
+    EXPECT_EQ(ErrorOf([] { ParseDouble("1e400"); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { ParseDouble("-1e309"); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { ParseDouble("1e99999999999999999999"); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { ParseDouble(std::string(400, '9')); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { ParseDouble("0.0001e320"); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { ParseDouble("1.7976931348623159e308"); }), Overflow);
+    EXPECT_EQ(ParseDouble("1.7976931348623157e308"), std::numeric_limits<double>::max());
+
+    EXPECT_EQ(ParseDouble("1e-400"), 0.0);
+    EXPECT_EQ(ParseDouble("-1e-400"), 0.0);
+    EXPECT_EQ(ParseDouble("1e-99999999999999999999"), 0.0);
+    EXPECT_EQ(ParseDouble("0." + std::string(400, '0') + "1"), 0.0);
+    EXPECT_EQ(ParseDouble("1000e-400"), 0.0);
+    EXPECT_EQ(ParseDouble("4.9406564584124654e-324"), std::numeric_limits<double>::denorm_min());
+    EXPECT_EQ(ParseDouble("1e-310"), 1e-310);
+
+    EXPECT_EQ(ParseDouble("0e999"), 0.0);
+    EXPECT_EQ(ParseDouble("0e99999999999999999999"), 0.0);
+    EXPECT_EQ(ParseDouble("0." + std::string(400, '0') + "1e401"), 1.0);
+    EXPECT_EQ(ParseDouble("1" + std::string(400, '0') + "e-400"), 1.0);
+}
+
+TEST_F(NumberText, ReadsTheNearestDouble)
+{
+    std::mt19937_64 random(7);
+    for (int i = 0; i < 500000; ++i) {
+        std::string text = std::to_string(random());
+        text.insert(1 + random() % text.size(), 1, '.');
+        if (random() % 2 == 0) {
+            text += 'e';
+            text += std::to_string(static_cast<int>(random() % 560) - 280);
+        }
+        ASSERT_TRUE(SameBits(ParseDouble(text), std::strtod(text.c_str(), nullptr))) << text;
+    }
+}
+
+TEST_F(NumberText, ReadsBooleansOfTheStore)
+{
+    for (const char* text : {"True", "true", "TRUE", "-1", "1", "0.5", "1e-300"})
+        EXPECT_EQ(ParseBoolean(text), True16) << text;
+    for (const char* text : {"False", "false", "FALSE", "0", "-0", "0.000", "0e5"})
+        EXPECT_EQ(ParseBoolean(text), False16) << text;
+    for (const char* text : {"", "yes", "on", "T", "Truee", "Tru", "falsch"})
+        EXPECT_EQ(ErrorOf([&] { ParseBoolean(text); }), TypeMismatch) << text;
+    numberLocale = German;
+    EXPECT_EQ(ParseBoolean("0,5"), True16);
+}
+
+TEST_F(NumberText, ShowsAPlainNumberAsShortAsItCanBe)
+{
+    EXPECT_EQ(PlainText(14.696F), "14.696");
+    EXPECT_EQ(PlainText(101.325F), "101.325");
+    EXPECT_EQ(PlainText(0.1F), "0.1");
+    EXPECT_EQ(PlainText(0.1), "0.1");
+    EXPECT_EQ(PlainText(-0.5F), "-0.5");
+    EXPECT_EQ(PlainText(70.0F), "70");
+    EXPECT_EQ(PlainText(100000.0F), "100000");
+    EXPECT_EQ(PlainText(0.0F), "0");
+    EXPECT_EQ(PlainText(-0.0F), "0");
+    EXPECT_EQ(PlainText(-0.0), "0");
+}
+
+TEST_F(NumberText, ShowsNoMoreThanSevenDigitsOfASingleAndFifteenOfADouble)
+{
+    EXPECT_EQ(PlainText(1.0F / 3.0F), "0.3333333");
+    EXPECT_EQ(PlainText(2.0F / 3.0F), "0.6666667");
+    EXPECT_EQ(PlainText(16777216.0F), "16777220");
+    EXPECT_EQ(PlainText(1048576.5F), "1048577");
+    EXPECT_EQ(PlainText(9999999.5e3F), "10000000000");
+    EXPECT_EQ(PlainText(1.0 / 3.0), "0.333333333333333");
+    EXPECT_EQ(PlainText(0.1 + 0.2), "0.3");
+    EXPECT_EQ(PlainText(70.0F - 0.01), "69.99");
+    EXPECT_EQ(PlainText(123456789012345678.0), "123456789012346000");
+}
+
+TEST_F(NumberText, ShowsNoExponent)
+{
+    EXPECT_EQ(PlainText(0.00001), "0.00001");
+    EXPECT_EQ(PlainText(0.00001F), "0.00001");
+    EXPECT_EQ(PlainText(1e-10F), "0.0000000001");
+    EXPECT_EQ(PlainText(3e38F), "300000000000000000000000000000000000000");
+    EXPECT_EQ(PlainText(1e20), "100000000000000000000");
+    EXPECT_EQ(PlainText(std::numeric_limits<double>::denorm_min()),
+              "0." + std::string(323, '0') + "494065645841247");
+    EXPECT_EQ(PlainText(std::numeric_limits<double>::max()).size(), 309U);
+}
+
+TEST_F(NumberText, ShowsATaggedNumberByItsKind)
+{
+    EXPECT_EQ(PlainText(TaggedNumber(100)), "100");
+    EXPECT_EQ(PlainText(TaggedNumber(1.0F / 3.0F)), "0.3333333");
+    EXPECT_EQ(PlainText(TaggedNumber(1.0 / 3.0)), "0.333333333333333");
+    EXPECT_EQ(PlainText(TaggedNumber(" 1,000 cfm")), " 1,000 cfm");
+    EXPECT_EQ(PlainText(TaggedNumber("")), "");
+}
+
+TEST_F(NumberText, ShowsTheUsersDecimalPointAndNoGroups)
+{
+    numberLocale = German;
+    EXPECT_EQ(PlainText(14.696F), "14,696");
+    EXPECT_EQ(PlainText(1234567.0), "1234567");
+}
+
+TEST_F(NumberText, ReadsBackWhatItShows)
+{
+    for (const NumberLocale& locale : {NumberLocale{}, German, French, Swiss}) {
+        numberLocale = locale;
+        for (int hundredths = -50000; hundredths <= 50000; ++hundredths) {
+            const double value = hundredths / 100.0;
+            ASSERT_EQ(ParseDouble(PlainText(value)), value);
+            const Single single = RoundToSingle(value);
+            ASSERT_EQ(ParseSingle(PlainText(single)), single);
+        }
+    }
+}
+
+TEST_F(NumberText, ShowsTheDigitsThatAnIndependentConversionGives)
+{
+    std::mt19937_64 random(11);
+    const auto plain = [](std::string text) { // without an exponent: the values are of a middle size
+        while (text.find('.') != std::string::npos && (text.back() == '0' || text.back() == '.')) {
+            const bool point = text.back() == '.';
+            text.pop_back();
+            if (point)
+                break;
+        }
+        return text;
+    };
+    for (int i = 0; i < 300000; ++i) {
+        const double value = std::uniform_real_distribution<double>(1.0, 10.0)(random);
+        char text[40];
+        std::snprintf(text, sizeof text, "%.14f", value);
+        ASSERT_EQ(PlainText(value), plain(text));
+        const Single single = RoundToSingle(value);
+        const long long millionths = std::llround(static_cast<double>(single) * 1e6); // an exact product
+        std::snprintf(text, sizeof text, "%lld.%06lld", millionths / 1000000, millionths % 1000000);
+        ASSERT_EQ(PlainText(single), plain(text));
+    }
+}
+
+TEST_F(NumberText, IsDeafToTheLocaleOfTheProcess)
+{
+    struct Comma : std::numpunct<char>
+    {
+        char do_decimal_point() const override { return ','; }
+        char do_thousands_sep() const override { return '.'; }
+        std::string do_grouping() const override { return "\3"; }
+    };
+    const std::locale before = std::locale::global(std::locale(std::locale::classic(), new Comma));
+    const char* comma = std::setlocale(LC_ALL, "de_DE.UTF-8");
+    RecordProperty("decimal_comma_of_the_C_library", comma == nullptr ? "not installed here" : comma);
+
+    EXPECT_EQ(ParseDouble("1,234.5"), 1234.5);
+    EXPECT_EQ(PlainText(1234.5), "1234.5");
+    EXPECT_EQ(FormatNumber(1234.5, "#,##0.00"), "1,234.50");
+
+    std::setlocale(LC_ALL, "C");
+    std::locale::global(before);
+}

@@ -1,0 +1,283 @@
+// The wet bulb search against its plain form: millions of searches, results to the bit and failures by their
+// number.
+
+#include "core/PlainForms.h"
+#include "core/WetBulbBracket.h"
+#include "tests/core/CoreTest.h"
+#include "tests/core/Thoroughness.h"
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace {
+
+struct Air
+{
+    Single tdb, w, p;
+};
+
+/// What a search comes to: the bits of its result, or the number of its failure.
+struct Outcome
+{
+    Single result = 0.0F;
+    int error = 0;
+
+    bool operator==(const Outcome& other) const
+    {
+        return error == other.error && SameBits(result, other.result);
+    }
+};
+
+Outcome OutcomeOf(Single (*search)(Single, Single, Single), const Air& air)
+{
+    Outcome outcome;
+    outcome.error = ErrorOf([&] { outcome.result = search(air.tdb, air.w, air.p); });
+    return outcome;
+}
+
+class Searches : public EnglishCore
+{
+protected:
+    void compare(const Air& air)
+    {
+        const Outcome fast = OutcomeOf(SolveWetBulb, air);
+        const Outcome plain = OutcomeOf(PlainSolveWetBulb, air);
+        failures += plain.error != 0 ? 1 : 0;
+        if (!(fast == plain) && ++different <= 10)
+            ADD_FAILURE() << std::hexfloat << "tdb " << air.tdb << ", w " << air.w << ", p " << air.p << ": "
+                          << fast.result << " error " << fast.error << ", plain " << plain.result << " error "
+                          << plain.error;
+    }
+
+    template <typename Draw>
+    void compareRandom(int millions, Draw draw)
+    {
+        const int count = millions * 1000000 / OneOf("searches", 1, 50);
+        for (int i = 0; i < count; ++i)
+            compare(draw());
+        EXPECT_EQ(different, 0);
+    }
+
+    Single uniform(double least, double most)
+    {
+        return RoundToSingle(std::uniform_real_distribution<double>(least, most)(random));
+    }
+
+    /// Even over the orders of magnitude.
+    Single magnitude(double least, double most)
+    {
+        return RoundToSingle(
+            std::exp(std::uniform_real_distribution<double>(std::log(least), std::log(most))(random)));
+    }
+
+    Single anySingle()
+    {
+        while (true) {
+            const Single value = std::bit_cast<Single>(static_cast<std::uint32_t>(random()));
+            if (std::isfinite(value))
+                return value;
+        }
+    }
+
+    Single anySign(Single value) { return random() % 2 == 0 ? value : -value; }
+
+    /// Air as the screens let it in, up to a little above saturation.
+    Air ofScreens()
+    {
+        const Single tdb = IsMetric() ? uniform(-40, 50) : uniform(-40, 125);
+        const Single p = IsMetric() ? uniform(50000, 110000) : uniform(7, 16);
+        const Single ws = HumidityRatioFromVaporPressure(SaturationPressure(ToAbsolute(tdb)), p);
+        return {tdb, RoundToSingle(ws * uniform(0, 1.02)), p};
+    }
+
+    /// Air whose wet bulb lies about 0 degrees, where a search takes all its passes and ends between two
+    /// singles.
+    Air aboutZero()
+    {
+        const Single p = IsMetric() ? uniform(50000, 110000) : uniform(7, 16);
+        const Single wetBulb = anySign(magnitude(1e-9, 1.0));
+        const Single tdb = RoundToSingle(wetBulb + magnitude(0.005, 60.0));
+        const Single ws = HumidityRatioFromVaporPressure(SaturationPressure(ToAbsolute(wetBulb)), p);
+        return {tdb, HumidityRatioFromWetBulb(wetBulb, tdb, ws), p};
+    }
+
+    /// Air about the freezing point, where the saturation pressure steps from ice to water.
+    Air aboutFreezing()
+    {
+        const Single freezing = IsMetric() ? 0.0F : 32.0F;
+        const Single p = IsMetric() ? uniform(50000, 110000) : uniform(7, 16);
+        const Single wetBulb = RoundToSingle(freezing + anySign(magnitude(1e-7, 0.1)));
+        const Single tdb = RoundToSingle(wetBulb + magnitude(0.005, 60.0));
+        const Single ws = HumidityRatioFromVaporPressure(SaturationPressure(ToAbsolute(wetBulb)), p);
+        return {tdb, HumidityRatioFromWetBulb(wetBulb, tdb, ws), p};
+    }
+
+    /// Temperatures past both ends of the saturation pressure, humidities and pressures of every size.
+    Air farOut()
+    {
+        return {uniform(-600, 3000), anySign(magnitude(1e-30, 1e12)), anySign(magnitude(1e-30, 1e12))};
+    }
+
+    /// A pressure that a candidate's saturation pressure is about to meet.
+    Air boiling()
+    {
+        const Single tdb = IsMetric() ? uniform(-40, 200) : uniform(-40, 390);
+        const Single candidate = RoundToSingle(tdb - uniform(0, IsMetric() ? 50 : 70));
+        const Single p = SaturationPressure(ToAbsolute(candidate));
+        return {tdb, anySign(magnitude(1e-6, 1e6)), RoundToSingle(p * uniform(0.999, 1.02))};
+    }
+
+    std::mt19937_64 random{2024};
+    int failures = 0;
+    int different = 0;
+};
+
+class EnglishSearches : public Searches
+{};
+
+class MetricSearches : public Searches
+{
+protected:
+    MetricSearches() { UnitSystem = True16; }
+};
+
+const std::vector<Single>& Edges()
+{
+    using Limits = std::numeric_limits<Single>;
+    static const std::vector<Single> edges = [] {
+        std::vector<Single> values{0.0F};
+        for (const Single value : {Limits::denorm_min(),
+                                   Limits::min(),
+                                   1e-20F,
+                                   1e-9F,
+                                   0.001F,
+                                   0.005F,
+                                   0.0050000004F,
+                                   0.01F,
+                                   0.62198F,
+                                   1.0F,
+                                   14.696F,
+                                   20.0F,
+                                   25.0025F,
+                                   32.0F,
+                                   35.0025F,
+                                   50.0F,
+                                   50.00502F,
+                                   70.0F,
+                                   70.005F,
+                                   100.0F,
+                                   125.0F,
+                                   212.0F,
+                                   273.15F,
+                                   391.99F,
+                                   392.0F,
+                                   459.67F,
+                                   1093.0F,
+                                   1966.0F,
+                                   2091.7F,
+                                   2501.0F,
+                                   101325.0F,
+                                   1e9F,
+                                   1e20F,
+                                   Limits::max()}) {
+            values.push_back(value);
+            values.push_back(-value);
+        }
+        return values;
+    }();
+    return edges;
+}
+
+} // namespace
+
+TEST_F(EnglishSearches, AirOfTheScreensIsTheSame)
+{
+    compareRandom(3, [this] { return ofScreens(); });
+}
+TEST_F(MetricSearches, AirOfTheScreensIsTheSame)
+{
+    compareRandom(3, [this] { return ofScreens(); });
+}
+
+TEST_F(EnglishSearches, AirAboutZeroDegreesIsTheSame)
+{
+    compareRandom(1, [this] { return aboutZero(); });
+}
+TEST_F(MetricSearches, AirAboutZeroDegreesIsTheSame)
+{
+    compareRandom(1, [this] { return aboutZero(); });
+}
+
+TEST_F(EnglishSearches, AirAboutFreezingIsTheSame)
+{
+    compareRandom(1, [this] { return aboutFreezing(); });
+}
+TEST_F(MetricSearches, AirAboutFreezingIsTheSame)
+{
+    compareRandom(1, [this] { return aboutFreezing(); });
+}
+
+TEST_F(EnglishSearches, AirFarOutIsTheSame)
+{
+    compareRandom(1, [this] { return farOut(); });
+}
+TEST_F(MetricSearches, AirFarOutIsTheSame)
+{
+    compareRandom(1, [this] { return farOut(); });
+}
+
+TEST_F(EnglishSearches, BoilingAirIsTheSame)
+{
+    compareRandom(1, [this] { return boiling(); });
+}
+TEST_F(MetricSearches, BoilingAirIsTheSame)
+{
+    compareRandom(1, [this] { return boiling(); });
+}
+
+TEST_F(EnglishSearches, AnyThreeSinglesAreTheSame)
+{
+    compareRandom(1, [this] { return Air{anySingle(), anySingle(), anySingle()}; });
+}
+
+TEST_F(MetricSearches, AnyThreeSinglesAreTheSame)
+{
+    compareRandom(1, [this] { return Air{anySingle(), anySingle(), anySingle()}; });
+}
+
+TEST_F(Searches, FailAlikeAtEveryEdge)
+{
+    for (const Boolean16 mode : {False16, True16}) {
+        UnitSystem = mode;
+        for (const Single tdb : Edges()) {
+            for (const Single w : Edges()) {
+                for (const Single p : Edges())
+                    compare({tdb, w, p});
+            }
+        }
+    }
+    EXPECT_EQ(different, 0);
+    EXPECT_GT(failures, 100); // or the edges were none
+}
+
+// At exactly the pressure of a candidate the search divides by zero, on the pass that tries it and not
+// before.
+TEST_F(Searches, FailAlikeWhereACandidateBoils)
+{
+    for (const Boolean16 mode : {False16, True16}) {
+        UnitSystem = mode;
+        for (int degrees = -20; degrees <= 120; ++degrees) {
+            const Single tdb = static_cast<Single>(degrees);
+            WetBulbBracket bracket(tdb);
+            compare({tdb, 0.01F, SaturationPressure(ToAbsolute(bracket.lower))});
+            for (int pass = 0; pass < 12; ++pass) {
+                compare({tdb, 0.01F, SaturationPressure(ToAbsolute(bracket.mid))});
+                compare({tdb, -0.01F, SaturationPressure(ToAbsolute(bracket.mid))});
+                bracket.narrow(degrees % 2 == 0 ? 1 : -1);
+            }
+        }
+    }
+    EXPECT_EQ(different, 0);
+    EXPECT_GT(failures, 500);
+}

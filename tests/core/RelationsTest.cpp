@@ -1,0 +1,293 @@
+#include "tests/core/CoreTest.h"
+
+#include <cmath>
+
+using EnglishRelations = EnglishCore;
+using MetricRelations = MetricCore;
+
+TEST_F(EnglishRelations, AbsoluteTemperatureIsInDegreesRankine)
+{
+    EXPECT_EQ(ToAbsolute(-40.0F), 419.67F);
+    EXPECT_EQ(ToAbsolute(32.0F), 491.67F);
+    EXPECT_EQ(FahrenheitToRankine(70.0F), 529.67F);
+    EXPECT_EQ(CelsiusToKelvin(-40.0F), 233.15F);
+}
+
+TEST_F(MetricRelations, AbsoluteTemperatureIsInKelvin)
+{
+    EXPECT_EQ(ToAbsolute(-40.0F), 233.15F);
+    EXPECT_EQ(ToAbsolute(0.0F), 273.15F);
+    EXPECT_EQ(FahrenheitToRankine(70.0F), 529.67F); // its own scale in either mode
+}
+
+TEST_F(MetricRelations, AnyUnitSystemButZeroIsMetric)
+{
+    UnitSystem = 1;
+    EXPECT_EQ(ToAbsolute(0.0F), 273.15F);
+}
+
+TEST_F(EnglishRelations, SaturationPressureMatchesItsPublishedValues)
+{
+    EXPECT_NEAR(SaturationPressure(491.67F), 0.08864F, 0.000006F);
+    EXPECT_NEAR(SaturationPressure(527.67F), 0.33922F, 0.000006F);
+}
+
+TEST_F(MetricRelations, SaturationPressureMatchesItsPublishedValues)
+{
+    EXPECT_NEAR(SaturationPressure(273.15F), 611.15F, 0.005F);
+    EXPECT_NEAR(SaturationPressure(293.15F), 2338.8F, 0.05F);
+}
+
+TEST_F(EnglishRelations, SaturationPressureIsZeroOutsideItsRange)
+{
+    EXPECT_EQ(SaturationPressure(311.0F), 0.0F);
+    EXPECT_GT(SaturationPressure(std::nextafter(311.0F, 400.0F)), 0.0F);
+    EXPECT_EQ(SaturationPressure(851.67F), 0.0F);
+    EXPECT_GT(SaturationPressure(std::nextafter(851.67F, 0.0F)), 0.0F);
+    EXPECT_EQ(SaturationPressure(0.0F), 0.0F);
+    EXPECT_EQ(SaturationPressure(-500.0F), 0.0F);
+    EXPECT_EQ(SaturationPressure(1e30F), 0.0F);
+}
+
+TEST_F(MetricRelations, SaturationPressureIsZeroOutsideItsRange)
+{
+    EXPECT_EQ(SaturationPressure(175.0F), 0.0F);
+    EXPECT_GT(SaturationPressure(std::nextafter(175.0F, 400.0F)), 0.0F);
+    EXPECT_EQ(SaturationPressure(473.0F), 0.0F);
+    EXPECT_GT(SaturationPressure(std::nextafter(473.0F, 0.0F)), 0.0F);
+}
+
+// The two branches differ by a step at their limit, which tells which one was taken there.
+TEST_F(EnglishRelations, FreezingPointIsTakenOverIce)
+{
+    const Single limit = ToAbsolute(32.0F);
+    const double slopeBelow = SaturationPressure(limit) - SaturationPressure(std::nextafter(limit, 0.0F));
+    const double slopeAbove = SaturationPressure(std::nextafter(limit, 1e3F)) - SaturationPressure(limit);
+    const double iceAtLimit =
+        std::exp(-10214.165 / limit - 4.8932428 - 0.0053765794 * limit + 1.9202377e-7 * std::pow(limit, 2) +
+                 3.5575832e-10 * std::pow(limit, 3) - 9.0344688e-14 * std::pow(limit, 4) +
+                 4.1635019 * std::log(limit));
+    EXPECT_EQ(SaturationPressure(limit), static_cast<Single>(iceAtLimit));
+    EXPECT_GT(slopeBelow, 0.0);
+    EXPECT_NE(slopeBelow, slopeAbove);
+}
+
+TEST_F(MetricRelations, FreezingPointIsTakenOverIce)
+{
+    const Single limit = ToAbsolute(0.0F);
+    const double t = limit;
+    const double ice =
+        std::exp(-5674.5359 / t + 6.3925247 - 0.009677843 * t + 6.22115701e-7 * t * t +
+                 2.0747825e-9 * t * t * t - 9.484024e-13 * t * t * t * t + 4.1635019 * std::log(t));
+    const double water = std::exp(-5800.2206 / t + 1.3914993 - 0.048640239 * t + 4.1764768e-5 * t * t -
+                                  1.4452093e-8 * t * t * t + 6.5459673 * std::log(t));
+    EXPECT_FLOAT_EQ(SaturationPressure(limit), static_cast<Single>(ice));
+    EXPECT_GT(std::fabs(water - ice), 0.01);
+    EXPECT_NEAR(SaturationPressure(limit), ice, 0.001);
+    EXPECT_NEAR(SaturationPressure(std::nextafter(limit, 300.0F)), water, 0.005);
+}
+
+TEST_F(EnglishRelations, HumidityRatioIsNegativeWhereTheVapourPressureExceedsThePressure)
+{
+    EXPECT_EQ(HumidityRatioFromVaporPressure(15.0F, 14.0F), static_cast<Single>(15.0 * 0.62198 / -1.0));
+    EXPECT_EQ(HumidityRatioFromVaporPressure(0.0F, 14.0F), 0.0F);
+}
+
+TEST_F(EnglishRelations, HumidityRatioFaultsWhereTheVapourPressureIsThePressure)
+{
+    EXPECT_EQ(ErrorOf([] { HumidityRatioFromVaporPressure(14.696F, 14.696F); }), DivisionByZero);
+    EXPECT_EQ(ErrorOf([] { HumidityRatioFromVaporPressure(0.0F, 0.0F); }), DivisionByZero);
+}
+
+TEST_F(EnglishRelations, EveryVanishingDivisorFaults)
+{
+    EXPECT_EQ(ErrorOf([] { DegreeOfSaturation(0.01F, 0.0F); }), DivisionByZero);
+    EXPECT_EQ(ErrorOf([] { DegreeOfSaturation(0.0F, 0.0F); }), DivisionByZero);
+    EXPECT_EQ(ErrorOf([] { SpecificVolumeOf(530.0F, 0.01F, 0.0F); }), DivisionByZero);
+    EXPECT_EQ(ErrorOf([] { RHFromDegreeOfSaturation(0.5F, 0.3F, 0.0F); }), DivisionByZero);
+    // (1 - mu) pws / P is 1: the outer divisor vanishes
+    EXPECT_EQ(ErrorOf([] { RHFromDegreeOfSaturation(0.5F, 2.0F, 1.0F); }), DivisionByZero);
+    EXPECT_EQ(ErrorOf([] { RHFromDegreeOfSaturation(0.0F, 1.0F, 1.0F); }), DivisionByZero);
+}
+
+// The quotient pws / P is infinite here and its reciprocal would be a harmless 0: the fault must not get
+// lost.
+TEST_F(EnglishRelations, AFaultHiddenInsideAnExpressionIsReported)
+{
+    EXPECT_EQ(ErrorOf([] { RHFromDegreeOfSaturation(0.5F, 1.0F, 0.0F); }), DivisionByZero);
+    EXPECT_EQ(ErrorOf([] { RHFromDegreeOfSaturation(1.0F, 0.0F, 0.0F); }), DivisionByZero);
+    EXPECT_EQ(ErrorOf([] { RHFromDegreeOfSaturation(1.0F, 1.0F, -0.0F); }), DivisionByZero);
+}
+
+TEST_F(EnglishRelations, AResultTooLargeForASingleFaults)
+{
+    constexpr Single huge = 3e38F;
+    EXPECT_EQ(ErrorOf([] { VaporPressureFromRH(huge, 2.0F); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { DegreeOfSaturation(huge, 0.5F); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { EnthalpyOf(huge, 10.0F); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { DryBulbFromEnthalpy(huge, 0.0F); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { SpecificVolumeOf(huge, 1.0F, 1e-3F); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { HumidityRatioFromWetBulb(1092.9F, 0.0F, huge); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { VaporPressureFromHumidityRatio(huge, -0.62F); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { RHFromDegreeOfSaturation(huge, 2.0F, 1.0F); }),
+              0); // both grow: the quotient is tame
+    EXPECT_EQ(ErrorOf([] { RHFromDegreeOfSaturation(huge, 0.0F, 1.0F); }), 0);
+    EXPECT_EQ(ErrorOf([] { DewPointFromVaporPressure(huge); }), Overflow); // on the way to kPa
+}
+
+TEST_F(MetricRelations, AResultTooLargeForASingleFaults)
+{
+    constexpr Single huge = 3e38F;
+    EXPECT_EQ(ErrorOf([] { EnthalpyOf(huge, 10.0F); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { DryBulbFromEnthalpy(huge, -0.5F); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { SpecificVolumeOf(huge, 1.0F, 1.0F); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { DewPointFromVaporPressure(huge); }), 0);
+}
+
+TEST_F(EnglishRelations, AHumidityRatioNextToItsPoleIsNoFault)
+{
+    const Single below = std::nextafter(14.696F, 0.0F);
+    EXPECT_GT(HumidityRatioFromVaporPressure(below, 14.696F), 9e6F);
+    EXPECT_LT(HumidityRatioFromVaporPressure(14.696F, below), -9e6F);
+}
+
+TEST_F(EnglishRelations, UnderflowIsNoFault)
+{
+    EXPECT_EQ(VaporPressureFromRH(1e-30F, 1e-30F), 0.0F);
+    EXPECT_EQ(DegreeOfSaturation(1e-30F, 1e30F), 0.0F);
+}
+
+TEST_F(EnglishRelations, RelativeHumidityFollowsItsDefinition)
+{
+    EXPECT_EQ(VaporPressureFromRH(0.5F, 0.36F), static_cast<Single>(0.5 * static_cast<double>(0.36F)));
+    EXPECT_EQ(RHFromDegreeOfSaturation(1.0F, 0.36F, 14.7F), 1.0F);
+    EXPECT_EQ(RHFromDegreeOfSaturation(0.0F, 0.36F, 14.7F), 0.0F);
+    const double mu = 0.25F;
+    const double ratio = static_cast<double>(0.36F) / static_cast<double>(14.7F);
+    EXPECT_EQ(RHFromDegreeOfSaturation(0.25F, 0.36F, 14.7F),
+              static_cast<Single>(mu / (1.0 - (1.0 - mu) * ratio)));
+}
+
+TEST_F(EnglishRelations, SpecificVolumeTakesItsGasConstantAsASingle)
+{
+    EXPECT_EQ(SpecificVolumeOf(530.0F, 0.0F, 14.0F),
+              static_cast<Single>(530.0 * 1545.3199462890625 / (14.0 * 28.9645 * 144.0)));
+    EXPECT_NEAR(SpecificVolumeOf(536.67F, 0.0F, 14.696F), 13.525, 0.01);
+}
+
+TEST_F(MetricRelations, SpecificVolumeTakesItsGasConstantAsASingle)
+{
+    EXPECT_EQ(SpecificVolumeOf(300.0F, 0.0F, 100000.0F),
+              static_cast<Single>(300.0 * 8314.41015625 / (100000.0 * 28.9645)));
+    EXPECT_NEAR(SpecificVolumeOf(298.15F, 0.0F, 101325.0F), 0.8443, 0.001);
+}
+
+TEST_F(EnglishRelations, EnthalpyOfDryAirAtZeroIsZero)
+{
+    EXPECT_EQ(EnthalpyOf(0.0F, 0.0F), 0.0F);
+    EXPECT_EQ(EnthalpyOf(70.0F, 0.0F), static_cast<Single>(70.0 * 0.24));
+    EXPECT_EQ(EnthalpyOf(0.0F, 1.0F), 1061.0F);
+}
+
+TEST_F(MetricRelations, EnthalpyOfDryAirAtZeroIsZero)
+{
+    EXPECT_EQ(EnthalpyOf(0.0F, 0.0F), 0.0F);
+    EXPECT_EQ(EnthalpyOf(20.0F, 0.0F), 20.0F);
+    EXPECT_EQ(EnthalpyOf(0.0F, 1.0F), 2501.0F);
+}
+
+TEST_F(EnglishRelations, DryBulbFromEnthalpyUndoesTheEnthalpy)
+{
+    for (int t = -40; t <= 125; ++t) {
+        const Single h = EnthalpyOf(static_cast<Single>(t), 0.008F);
+        EXPECT_NEAR(DryBulbFromEnthalpy(h, 0.008F), t, 2e-5);
+    }
+}
+
+TEST_F(MetricRelations, DryBulbFromEnthalpyUndoesTheEnthalpy)
+{
+    for (int t = -40; t <= 125; ++t) {
+        const Single h = EnthalpyOf(static_cast<Single>(t), 0.008F);
+        EXPECT_NEAR(DryBulbFromEnthalpy(h, 0.008F), t, 2e-5);
+    }
+}
+
+TEST_F(EnglishRelations, WetBulbBalanceTakesTheLatentHeatOf1093)
+{
+    EXPECT_EQ(HumidityRatioFromWetBulb(0.0F, 0.0F, 0.5F), 0.5F);
+    const double expected =
+        ((1093.0 - 0.556 * 65.0) * 0.01F - (100.0 - 65.0) * 0.24) / (100.0 * 0.444 + 1093.0 - 65.0);
+    EXPECT_EQ(HumidityRatioFromWetBulb(65.0F, 100.0F, 0.01F), static_cast<Single>(expected));
+}
+
+TEST_F(MetricRelations, WetBulbBalanceTakesTheLatentHeatOf2501)
+{
+    const double expected =
+        ((2501.0 - 2.381 * 20.0) * 0.01F - (40.0 - 20.0)) / (40.0 * 1.805 + 2501.0 - 20.0 * 4.186);
+    EXPECT_EQ(HumidityRatioFromWetBulb(20.0F, 40.0F, 0.01F), static_cast<Single>(expected));
+}
+
+TEST_F(EnglishRelations, AWetBulbFarBelowTheDryBulbGivesANegativeHumidityRatio)
+{
+    EXPECT_LT(HumidityRatioFromWetBulb(30.0F, 100.0F, 0.003F), 0.0F);
+}
+
+TEST_F(EnglishRelations, VapourPressureAndHumidityRatioAreInverse)
+{
+    for (const Single pw : {0.01F, 0.1F, 0.5F, 2.0F}) {
+        const Single W = HumidityRatioFromVaporPressure(pw, 14.696F);
+        EXPECT_NEAR(VaporPressureFromHumidityRatio(14.696F, W), pw, pw * 2e-7);
+    }
+}
+
+TEST_F(MetricRelations, DewPointWantsKiloPascal)
+{
+    EXPECT_NEAR(DewPointFromVaporPressure(2.3388F), 20.01, 0.01);
+    EXPECT_NEAR(DewPointFromVaporPressure(2338.8F), 210.0, 1.0); // the mistake of passing Pa is not noticed
+}
+
+TEST_F(EnglishRelations, DewPointConvertsPsiAndFahrenheit)
+{
+    const Single kiloPascal = RoundToSingle(0.33922F * 6.8947333);
+    const Single english = DewPointFromVaporPressure(0.33922F);
+    UnitSystem = True16;
+    EXPECT_EQ(english, RoundToSingle(DewPointFromVaporPressure(kiloPascal) * 1.8 + 32.0));
+    EXPECT_NEAR(english, 68.0, 0.1);
+}
+
+TEST_F(EnglishRelations, DewPointRefusesADryOrNegativePressure)
+{
+    EXPECT_EQ(ErrorOf([] { DewPointFromVaporPressure(0.0F); }), InvalidArgument);
+    EXPECT_EQ(ErrorOf([] { DewPointFromVaporPressure(-0.1F); }), InvalidArgument);
+}
+
+TEST_F(MetricRelations, DewPointRefusesADryOrNegativePressure)
+{
+    EXPECT_EQ(ErrorOf([] { DewPointFromVaporPressure(0.0F); }), InvalidArgument);
+    EXPECT_EQ(ErrorOf([] { DewPointFromVaporPressure(-100.0F); }), InvalidArgument);
+}
+
+// The first regression ends a little above 0 and the second goes on below, without smoothing.
+TEST_F(MetricRelations, DewPointJumpsWhereItsRegressionsMeet)
+{
+    const auto first = [](Single pw) {
+        const double a = RoundToSingle(std::log(static_cast<double>(pw)));
+        return RoundToSingle(a * a * 0.7389 + (a * 14.526 + 6.54) + a * a * a * 0.09486 +
+                             std::pow(pw, 0.1984) * 0.4569);
+    };
+    const auto second = [](Single pw) {
+        const double a = RoundToSingle(std::log(static_cast<double>(pw)));
+        return RoundToSingle(a * a * 0.4959 + (a * 12.608 + 6.09));
+    };
+    Single low = 0.5F;
+    Single high = 0.7F;
+    while (std::nextafter(low, 1.0F) < high) {
+        const Single middle = (low + high) / 2;
+        (first(middle) < 0.0F ? low : high) = middle;
+    }
+    EXPECT_GE(first(high), 0.0F);
+    EXPECT_EQ(DewPointFromVaporPressure(high), first(high));
+    EXPECT_EQ(DewPointFromVaporPressure(low), second(low));
+    EXPECT_NE(first(low), second(low));
+    EXPECT_GT(std::fabs(DewPointFromVaporPressure(high) - DewPointFromVaporPressure(low)), 0.001F);
+}

@@ -1,0 +1,41 @@
+#include "tests/core/CoreTest.h"
+
+TEST(RoundToScale, RoundsADewPointToTenths)
+{
+    EXPECT_EQ(RoundToScale(50.5678F, 10), 50.6F);
+    EXPECT_EQ(RoundToScale(-3.14F, 10), -3.1F);
+    EXPECT_EQ(RoundToScale(50, 10), 50.0F);
+    EXPECT_EQ(RoundToScale(0, 10), 0.0F);
+}
+
+TEST(RoundToScale, RoundsHalvesToEven)
+{
+    EXPECT_EQ(RoundToScale(50.25F, 10), 50.2F); // 502.5
+    EXPECT_EQ(RoundToScale(50.75F, 10), 50.8F); // 507.5
+    EXPECT_EQ(RoundToScale(-0.25F, 10), -0.2F);
+}
+
+TEST(RoundToScale, MultipliesByTheKindsOfItsOperands)
+{
+    // As a single the product is 30.5 exactly, a half that goes to 30; as a double it lies above and goes
+    // to 31.
+    constexpr Single value = 3.05F;
+    ASSERT_EQ(value * 10.0F, 30.5F);
+    ASSERT_NE(static_cast<double>(value) * 10.0, 30.5);
+    EXPECT_EQ(RoundToScale(value, 10), 3.0F);
+    EXPECT_EQ(RoundToScale(3.0500001, 10), 3.1F);
+}
+
+TEST(RoundToScale, OverflowsBeyond16Bits)
+{
+    EXPECT_EQ(RoundToScale(3276.7F, 10), 3276.7F);
+    EXPECT_EQ(ErrorOf([] { RoundToScale(3276.8F, 10); }), Overflow);
+    EXPECT_EQ(RoundToScale(-3276.8F, 10), -3276.8F);
+    EXPECT_EQ(ErrorOf([] { RoundToScale(-3276.9F, 10); }), Overflow);
+    EXPECT_EQ(ErrorOf([] { RoundToScale(4000, 10); }), Overflow);
+}
+
+TEST(RoundToScale, FaultsForAScaleOfZero)
+{
+    EXPECT_EQ(ErrorOf([] { RoundToScale(50.0F, 0); }), DivisionByZero);
+}
