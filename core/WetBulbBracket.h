@@ -19,15 +19,15 @@ struct WetBulbBracket
     {}
 
     /// Takes the half in which the residuals change their sign.
-    /// @param product  its sign: of the residuals at mid and at lower, not 0
+    /// @param product  of the residuals at mid and at lower, not 0
     /// @return         whether the search ends with the new midpoint
     /// @throws RunTimeError division by zero where the new midpoint is exactly 0
-    bool narrow(int product)
+    bool narrow(Single product)
     {
         constexpr Single tolerance = 0.01F; // percent of the temperature
         constexpr int mostSteps = 20;
 
-        if (product < 0)
+        if (product < 0.0F)
             upper = mid;
         else
             lower = mid;

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/forms/Control.h"
+
+/// A push button. An ampersand in its caption marks the access key, which moves the focus to it and
+/// presses it.
+class Button : public Control
+{
+public:
+    Button(Form& owner, const std::string& name, const std::string& caption = {});
+
+    void onClick(Handler handler) { click = std::move(handler); }
+
+    void setCaption(const std::string& caption);
+    std::string caption() const;
+    /// Presses the button as the user does.
+    void press();
+    void showAsDefault();
+
+private:
+    Handler click;
+};

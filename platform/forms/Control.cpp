@@ -1,0 +1,68 @@
+#include "platform/forms/Control.h"
+
+#include <QPalette>
+#include <QWidget>
+
+namespace {
+
+QColor toQt(Colour colour) { return {colour.red, colour.green, colour.blue}; }
+
+Colour fromQt(const QColor& colour)
+{
+    return {static_cast<std::uint8_t>(colour.red()), static_cast<std::uint8_t>(colour.green()),
+            static_cast<std::uint8_t>(colour.blue())};
+}
+
+/// Black or white; the desktop's text colour may be either.
+QColor readableOn(const QColor& back) { return qGray(back.rgb()) > 127 ? Qt::black : Qt::white; }
+
+} // namespace
+
+Control::Control(Form& owner, QWidget* widget, const std::string& name) : form(owner), theWidget(widget)
+{
+    theWidget->setObjectName(QString::fromStdString(name));
+}
+
+void Control::setEnabled(bool enabled) { theWidget->setEnabled(enabled); }
+bool Control::isEnabled() const { return theWidget->isEnabled(); }
+void Control::setVisible(bool visible) { theWidget->setVisible(visible); }
+void Control::takeFocus() { theWidget->setFocus(Qt::OtherFocusReason); }
+
+void Control::place(Twips left, Twips top, Twips width, Twips height)
+{
+    theWidget->setGeometry(toPixels(left), toPixels(top), toPixels(width), toPixels(height));
+}
+
+void Control::setBackColour(Colour colour)
+{
+    QPalette palette = theWidget->palette();
+    palette.setColor(theWidget->backgroundRole(), toQt(colour));
+    if (!hasOwnForeColour)
+        palette.setColor(theWidget->foregroundRole(), readableOn(toQt(colour)));
+    theWidget->setPalette(palette);
+    theWidget->setAutoFillBackground(true);
+}
+
+void Control::setForeColour(Colour colour)
+{
+    QPalette palette = theWidget->palette();
+    palette.setColor(theWidget->foregroundRole(), toQt(colour));
+    theWidget->setPalette(palette);
+    hasOwnForeColour = true;
+}
+
+Colour Control::backColour() const { return fromQt(theWidget->palette().color(theWidget->backgroundRole())); }
+Colour Control::foreColour() const { return fromQt(theWidget->palette().color(theWidget->foregroundRole())); }
+
+void Control::setToolTip(const std::string& tip) { theWidget->setToolTip(QString::fromStdString(tip)); }
+
+void Control::setAccessibleName(const std::string& name)
+{
+    theWidget->setAccessibleName(QString::fromStdString(name));
+}
+
+void Control::raise(const Handler& handler)
+{
+    if (handler)
+        runHandler(form, handler);
+}

@@ -1,0 +1,46 @@
+#include "platform/forms/DropDownList.h"
+
+#include "platform/forms/Form.h"
+
+#include <QComboBox>
+#include <QSignalBlocker>
+
+namespace {
+QComboBox* asCombo(const DropDownList* list) { return static_cast<QComboBox*>(list->widget()); }
+} // namespace
+
+DropDownList::DropDownList(Form& owner, const std::string& name)
+    : Control(owner, new QComboBox(owner.area()), name)
+{
+    QComboBox* const combo = asCombo(this);
+    QObject::connect(combo, &QComboBox::currentIndexChanged, combo, [this] {
+        raisedByChange = true;
+        raise(click);
+    });
+    // A choice by the user arrives as a change of the index and then as an activation, or, where the entry
+    // was chosen already, as an activation alone.
+    QObject::connect(combo, &QComboBox::activated, combo, [this] {
+        if (!raisedByChange)
+            raise(click);
+        raisedByChange = false;
+    });
+}
+
+void DropDownList::addItem(const std::string& entry)
+{
+    const QSignalBlocker noClick(asCombo(this)); // the toolkit selects the first entry by itself
+    const int chosen = asCombo(this)->currentIndex();
+    asCombo(this)->addItem(QString::fromStdString(entry));
+    asCombo(this)->setCurrentIndex(chosen);
+}
+
+void DropDownList::select(int index)
+{
+    {
+        const QSignalBlocker noClick(asCombo(this));
+        asCombo(this)->setCurrentIndex(index);
+    }
+    raise(click);
+}
+
+std::string DropDownList::text() const { return asCombo(this)->currentText().toStdString(); }

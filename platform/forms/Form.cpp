@@ -1,0 +1,145 @@
+#include "platform/forms/Form.h"
+
+#include "platform/forms/Button.h"
+#include "platform/forms/FormWindow.h"
+#include "platform/forms/Menu.h"
+
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QPalette>
+#include <QScreen>
+#include <QWindow>
+
+#include <stdexcept>
+
+Twips Screen::width() { return toTwips(QGuiApplication::primaryScreen()->geometry().width()); }
+Twips Screen::height() { return toTwips(QGuiApplication::primaryScreen()->geometry().height()); }
+
+Form::Form(const std::string& name, FormKind kind) : frame(new FormWindow(*this, kind == FormKind::Dialog))
+{
+    frame->setObjectName(QString::fromStdString(name));
+}
+
+Form::~Form() { delete frame; }
+
+void Form::load()
+{
+    runHandler(*this, [this] { Form_Load(); });
+}
+
+void Form::showWindow()
+{
+    const bool wasVisible = frame->isVisible();
+    frame->show();
+    frame->raise();
+    frame->activateWindow();
+    if (!wasVisible)
+        runHandler(*this, [this] { Form_Activate(); });
+}
+
+void Form::Show()
+{
+    if (unloading)
+        return;
+    frame->setWindowModality(Qt::NonModal);
+    showWindow();
+}
+
+void Form::ShowModal()
+{
+    if (unloading || wait != nullptr)
+        return;
+    QWindow* const caller = QGuiApplication::focusWindow();
+    frame->setWindowModality(Qt::ApplicationModal);
+    frame->winId(); // makes the native window, which the caller's is to stay behind
+    frame->windowHandle()->setTransientParent(caller);
+
+    QEventLoop loop;
+    wait = &loop;
+    showWindow();
+    if (wait == &loop) // the handler of the showing may have hidden it again
+        loop.exec();
+}
+
+void Form::Hide()
+{
+    frame->hide();
+    endWait();
+}
+
+void Form::endWait()
+{
+    if (wait != nullptr)
+        wait->quit();
+    wait = nullptr;
+}
+
+void Form::Unload(CloseReason reason)
+{
+    if (unloading)
+        return;
+    unloading = true;
+    const RunningHandler running(*this);
+    runHandler(*this, [this, reason] { Form_QueryUnload(reason); });
+    runHandler(*this, [this] { Form_Unload(); });
+    Hide();
+    FormRegistry::retire(*this);
+}
+
+void Form::setCaption(const std::string& caption) { frame->setWindowTitle(QString::fromStdString(caption)); }
+void Form::setBackColour(Colour colour)
+{
+    QPalette palette = area()->palette();
+    palette.setColor(QPalette::Window, QColor(colour.red, colour.green, colour.blue));
+    palette.setColor(QPalette::WindowText, Qt::black);
+    area()->setPalette(palette);
+    area()->setAutoFillBackground(true);
+}
+
+std::string Form::caption() const { return frame->windowTitle().toStdString(); }
+
+void Form::setSize(Twips width, Twips height) { frame->setLeastSize({toPixels(width), toPixels(height)}); }
+
+void Form::fitToControls() { setSize(0, 0); }
+void Form::moveTo(Twips left, Twips top) { frame->move(toPixels(left), toPixels(top)); }
+Twips Form::width() const { return toTwips(frame->width()); }
+Twips Form::height() const { return toTwips(frame->height()); }
+bool Form::isVisible() const { return frame->isVisible(); }
+
+void Form::setDefaultButton(Button& button)
+{
+    defaultButton = &button;
+    button.showAsDefault();
+}
+
+bool Form::pressDefaultButton()
+{
+    if (defaultButton == nullptr || !defaultButton->isEnabled())
+        return false;
+    defaultButton->press();
+    return true;
+}
+
+void Form::addToMenuBar(Menu& menu) { frame->menuBar()->addMenu(menu.menu()); }
+void Form::addToMenuBar(MenuCommand& command) { frame->menuBar()->addAction(command.action()); }
+
+QWidget* Form::control(std::string_view name) const
+{
+    const QString wanted = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    auto* const found = frame->findChild<QWidget*>(wanted);
+    if (found == nullptr)
+        throw std::logic_error("no control of the name " + std::string(name));
+    return found;
+}
+
+QWidget* Form::window() const { return frame; }
+QWidget* Form::area() const { return frame->centralWidget(); }
+
+Form::RunningHandler::RunningHandler(Form& owner) : form(owner) { ++form.runningHandlers; }
+
+Form::RunningHandler::~RunningHandler()
+{
+    --form.runningHandlers;
+    FormRegistry::destroyIfIdle(form);
+}

@@ -1,0 +1,23 @@
+#include "platform/forms/Frame.h"
+
+#include "platform/forms/Form.h"
+
+#include <QGroupBox>
+
+namespace {
+QGroupBox* asGroup(const Frame* frame) { return static_cast<QGroupBox*>(frame->widget()); }
+} // namespace
+
+Frame::Frame(Form& owner, const std::string& name, const std::string& caption)
+    : Control(owner, new QGroupBox(owner.area()), name)
+{
+    setCaption(caption);
+}
+
+void Frame::setCaption(const std::string& caption)
+{
+    asGroup(this)->setTitle(QString::fromStdString(caption));
+}
+std::string Frame::caption() const { return asGroup(this)->title().toStdString(); }
+
+void Frame::setBold() { asGroup(this)->setStyleSheet("QGroupBox { font-weight: bold; }"); }

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/forms/Control.h"
+
+/// A frame with a caption around a group of controls; its layout is set on its widget.
+class Frame : public Control
+{
+public:
+    Frame(Form& owner, const std::string& name, const std::string& caption = {});
+
+    void setCaption(const std::string& caption);
+    std::string caption() const;
+    /// Sets the caption in bold; the controls inside keep their own weight.
+    void setBold();
+};

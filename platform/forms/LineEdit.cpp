@@ -1,0 +1,133 @@
+#include "platform/forms/LineEdit.h"
+
+#include "platform/forms/Form.h"
+#include "platform/forms/TextField.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+bool isEnter(const QKeyEvent& event) { return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter; }
+
+bool movesSelectsOrCopies(const QKeyEvent& event)
+{
+    constexpr QKeySequence::StandardKey harmless[] = {
+        QKeySequence::Copy,
+        QKeySequence::SelectAll,
+        QKeySequence::MoveToNextChar,
+        QKeySequence::SelectNextChar,
+        QKeySequence::MoveToPreviousChar,
+        QKeySequence::SelectPreviousChar,
+        QKeySequence::MoveToNextWord,
+        QKeySequence::SelectNextWord,
+        QKeySequence::MoveToPreviousWord,
+        QKeySequence::Deselect,
+        QKeySequence::SelectPreviousWord,
+        QKeySequence::MoveToStartOfLine,
+        QKeySequence::MoveToEndOfLine,
+        QKeySequence::SelectStartOfLine,
+        QKeySequence::SelectEndOfLine,
+        QKeySequence::MoveToStartOfBlock,
+        QKeySequence::MoveToEndOfBlock,
+        QKeySequence::SelectStartOfBlock,
+        QKeySequence::SelectEndOfBlock,
+    };
+    return std::any_of(std::begin(harmless), std::end(harmless),
+                       [&event](auto key) { return event.matches(key); });
+}
+
+/// The character of a key, or 0 for a key that is no character and edits nothing. Tab comes before, in
+/// event().
+int characterOf(const QKeyEvent& event)
+{
+    if (event.key() == Qt::Key_Tab)
+        return 0;
+    if (event.matches(QKeySequence::Paste))
+        return Key::Paste;
+    if (event.matches(QKeySequence::Cut))
+        return Key::Cut;
+    if (event.key() == Qt::Key_Delete)
+        return Key::Delete;
+    return event.text().isEmpty() ? 0 : event.text().front().unicode();
+}
+
+} // namespace
+
+LineEdit::LineEdit(QWidget* parent, TextField& owner) : QLineEdit(parent), field(owner) {}
+
+bool LineEdit::event(QEvent* event)
+{
+    // The toolkit moves the focus on Tab before the key reaches keyPressEvent.
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Tab) {
+        const QWidget* const focusBefore = window()->focusWidget();
+        if (field.swallows(Key::Tab) || window()->focusWidget() != focusBefore)
+            return true;
+    }
+    return QLineEdit::event(event);
+}
+
+void LineEdit::keyPressEvent(QKeyEvent* event)
+{
+    if (isEnter(*event)) {
+        if (!field.owner().pressDefaultButton())
+            field.swallows(Key::Enter); // it edits nothing either way
+        return;
+    }
+    const int character = movesSelectsOrCopies(*event) ? 0 : characterOf(*event);
+    if (character != 0 && field.swallows(character))
+        return;
+    QLineEdit::keyPressEvent(event);
+}
+
+void LineEdit::inputMethodEvent(QInputMethodEvent* event)
+{
+    const QString typed = event->commitString() + event->preeditString();
+    const bool edits = !typed.isEmpty() || event->replacementLength() > 0;
+    if (!edits || !field.swallows(typed.isEmpty() ? Key::Delete : typed.front().unicode()))
+        QLineEdit::inputMethodEvent(event);
+}
+
+void LineEdit::mousePressEvent(QMouseEvent* event)
+{
+    pressed = true;
+    field.raise(field.mouseDown);
+    QLineEdit::mousePressEvent(event);
+}
+
+void LineEdit::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool pastes = event->button() == Qt::MiddleButton;
+    if (!pastes || !field.swallows(Key::Paste))
+        QLineEdit::mouseReleaseEvent(event);
+    const bool clicked =
+        pressed && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint());
+    pressed = false;
+    if (clicked)
+        field.raise(field.click);
+}
+
+void LineEdit::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    pressed = false; // the first of the two presses has raised the Click
+    QLineEdit::mouseDoubleClickEvent(event);
+}
+
+void LineEdit::contextMenuEvent(QContextMenuEvent* event)
+{
+    // A field that swallows its keys offers what a read-only one does.
+    setReadOnly(field.swallows(Key::Paste));
+    const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+    setReadOnly(false);
+    menu->exec(event->globalPos());
+}
+
+void LineEdit::dropEvent(QDropEvent* event)
+{
+    if (!field.swallows(Key::Paste))
+        QLineEdit::dropEvent(event);
+}

@@ -1,0 +1,46 @@
+#include "platform/forms/Menu.h"
+
+#include "platform/forms/Form.h"
+
+#include <QAction>
+#include <QMenu>
+
+MenuCommand::MenuCommand(Form& owner, const std::string& name, const std::string& caption)
+    : form(owner), theAction(new QAction(QString::fromStdString(caption), owner.window()))
+{
+    theAction->setObjectName(QString::fromStdString(name));
+    theAction->setMenuRole(QAction::NoRole);
+    QObject::connect(theAction, &QAction::triggered, theAction, [this] {
+        if (click)
+            runHandler(form, click);
+    });
+}
+
+void MenuCommand::enable() { theAction->setEnabled(true); }
+void MenuCommand::disable() { theAction->setEnabled(false); }
+void MenuCommand::show() { theAction->setVisible(true); }
+void MenuCommand::hide() { theAction->setVisible(false); }
+void MenuCommand::setShortcut(const std::string& keys)
+{
+    theAction->setShortcut(QKeySequence(QString::fromStdString(keys)));
+}
+
+MenuSeparator::MenuSeparator(Form& owner, const std::string& name) : theAction(new QAction(owner.window()))
+{
+    theAction->setObjectName(QString::fromStdString(name));
+    theAction->setSeparator(true);
+}
+
+Menu::Menu(Form& owner, const std::string& name, const std::string& caption)
+    : theMenu(new QMenu(QString::fromStdString(caption), owner.window()))
+{
+    theMenu->setObjectName(QString::fromStdString(name));
+    theMenu->menuAction()->setObjectName(QString::fromStdString(name));
+}
+
+void Menu::add(MenuCommand& entry) { theMenu->addAction(entry.action()); }
+void Menu::add(MenuSeparator& separator) { theMenu->addAction(separator.action()); }
+void Menu::enable() { theMenu->menuAction()->setEnabled(true); }
+void Menu::disable() { theMenu->menuAction()->setEnabled(false); }
+void Menu::show() { theMenu->menuAction()->setVisible(true); }
+void Menu::hide() { theMenu->menuAction()->setVisible(false); }

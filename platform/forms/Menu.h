@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/forms/Dispatcher.h"
+
+#include <string>
+
+class Form;
+class QAction;
+class QMenu;
+
+/// An entry of a menu, or a command that stands on the menu bar by itself.
+class MenuCommand
+{
+public:
+    MenuCommand(Form& owner, const std::string& name, const std::string& caption);
+
+    void onClick(Handler handler) { click = std::move(handler); }
+
+    void enable();
+    void disable();
+    void show();
+    void hide();
+    void setShortcut(const std::string& keys);
+
+    QAction* action() const { return theAction; }
+
+private:
+    Form& form;
+    QAction* theAction;
+    Handler click;
+};
+
+/// A line between entries.
+class MenuSeparator
+{
+public:
+    MenuSeparator(Form& owner, const std::string& name);
+    QAction* action() const { return theAction; }
+
+private:
+    QAction* theAction;
+};
+
+/// A menu that drops down from the menu bar.
+class Menu
+{
+public:
+    Menu(Form& owner, const std::string& name, const std::string& caption);
+
+    void add(MenuCommand& entry);
+    void add(MenuSeparator& separator);
+
+    void enable();
+    void disable();
+    void show();
+    void hide();
+
+    QMenu* menu() const { return theMenu; }
+
+private:
+    QMenu* theMenu;
+};
