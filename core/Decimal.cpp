@@ -16,7 +16,7 @@ constexpr std::size_t ScientificLength = 32; // sign, digits, point and exponent
 
 Decimal Decimal::of(double value)
 {
-    std::array<char, ScientificLength> text;
+    std::array<char, ScientificLength> text{};
     const auto end = std::to_chars(text.data(), text.data() + text.size(), RequireFinite(value),
                                    std::chars_format::scientific, DoubleDigits - 1);
     return fromScientific({text.data(), end.ptr});
@@ -25,7 +25,7 @@ Decimal Decimal::of(double value)
 Decimal Decimal::shortestOf(Single value)
 {
     RequireFinite(value);
-    std::array<char, ScientificLength> text;
+    std::array<char, ScientificLength> text{};
     const auto end =
         std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::scientific);
     return fromScientific({text.data(), end.ptr});

@@ -13,8 +13,8 @@ Single WetBulbResidual(Single candidate, Single tdb, Single p, Single w)
 }
 
 // The plain form works out two residuals on every pass. The one at the lower end is known here from the pass
-// that moved that end. The first pass works out the lower one first, as the plain form does, so that a failure
-// is the same one too.
+// that moved that end. The first pass works out the lower one first, as the plain form does, so that a
+// failure is the same one too.
 Single SolveWetBulb(Single tdb, Single w, Single p)
 {
     WetBulbBracket bracket(tdb);

@@ -20,7 +20,7 @@ TEST_F(Snapshot, FreezesEveryFieldAsASingle)
     for (TaggedNumber* field : {&state.td, &state.Pw, &state.Twb})
         *field = next += 1.0F;
     state.Tdb = next += 1.0F;
-    state.P = next += 1.0F;
+    state.P = next + 1.0F;
     state.TAbs = 999.0F;
 
     const AirSnapshot snapshot = AirSnapshot::of(state, 1);

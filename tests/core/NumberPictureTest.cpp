@@ -149,7 +149,8 @@ TEST_F(NumberPicture, RefusesAPictureItDoesNotKnow)
 // Every number of up to five decimals in the range of the screens, against rounding in whole numbers.
 TEST_F(NumberPicture, RoundsEveryDecimalAsOneWouldOnPaper)
 {
-    // 0.00000 to 125.00000: every fifth, so every half of a place. The sample's step meets the halves as well.
+    // 0.00000 to 125.00000: every fifth, so every half of a place. The sample's step meets the halves as
+    // well.
     for (int n = 0; n <= 12500000; n += 5 * OneOf("numbers", 1, 20)) {
         const double value = n / 100000.0;
         const int hundredths = (n + 500) / 1000;

@@ -17,7 +17,7 @@ long ExpectSameOver(Single first, Single last, std::uint32_t step, Single (*fast
     long compared = 0;
     long different = 0;
     for (std::uint32_t bits = BitsOf(first); bits <= BitsOf(last); bits += step) {
-        const Single argument = std::bit_cast<Single>(bits);
+        const auto argument = std::bit_cast<Single>(bits);
         ++compared;
         if (!SameBits(fast(argument), plain(argument)) && ++different <= 10)
             ADD_FAILURE() << std::hexfloat << argument << ": " << fast(argument) << ", plain "

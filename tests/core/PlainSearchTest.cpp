@@ -74,7 +74,7 @@ protected:
     Single anySingle()
     {
         while (true) {
-            const Single value = std::bit_cast<Single>(static_cast<std::uint32_t>(random()));
+            const auto value = std::bit_cast<Single>(static_cast<std::uint32_t>(random()));
             if (std::isfinite(value))
                 return value;
         }
@@ -268,7 +268,7 @@ TEST_F(Searches, FailAlikeWhereACandidateBoils)
     for (const Boolean16 mode : {False16, True16}) {
         UnitSystem = mode;
         for (int degrees = -20; degrees <= 120; ++degrees) {
-            const Single tdb = static_cast<Single>(degrees);
+            const auto tdb = static_cast<Single>(degrees);
             WetBulbBracket bracket(tdb);
             compare({tdb, 0.01F, SaturationPressure(ToAbsolute(bracket.lower))});
             for (int pass = 0; pass < 12; ++pass) {

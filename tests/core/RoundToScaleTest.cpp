@@ -17,13 +17,13 @@ TEST(RoundToScale, RoundsHalvesToEven)
 
 TEST(RoundToScale, MultipliesByTheKindsOfItsOperands)
 {
-    // As a single the product is 30.5 exactly, a half that goes to 30; as a double it lies above and goes
-    // to 31.
-    constexpr Single value = 3.05F;
-    ASSERT_EQ(value * 10.0F, 30.5F);
-    ASSERT_NE(static_cast<double>(value) * 10.0, 30.5);
-    EXPECT_EQ(RoundToScale(value, 10), 3.0F);
-    EXPECT_EQ(RoundToScale(3.0500001, 10), 3.1F);
+    // As a single the product is 33.5 exactly, a half that goes to 34; as a double it lies below and goes
+    // to 33.
+    constexpr Single value = 3.35F;
+    ASSERT_EQ(value * 10.0F, 33.5F);
+    ASSERT_LT(static_cast<double>(value) * 10.0, 33.5);
+    EXPECT_EQ(RoundToScale(value, 10), 3.4F);
+    EXPECT_EQ(RoundToScale(static_cast<double>(value), 10), 3.3F);
 }
 
 TEST(RoundToScale, OverflowsBeyond16Bits)

@@ -140,6 +140,21 @@ TEST_F(EnglishSolvers, TakeTheDryBulbLessAHairForSaturatedAir)
     EXPECT_EQ(StatePoint.Twb.kind(), NumberKind::Single);
 }
 
+// A rounding to single would carry each of the lower two over its limit.
+TEST_F(EnglishSolvers, CompareAHumidityAsItIsHeld)
+{
+    SetAir(70.0F, 14.696F);
+    StatePoint.RH = 99.89999999999999; // of which the hundredth is just below 0.999
+    SolveFromRH();
+    EXPECT_EQ(StatePoint.Twb.kind(), NumberKind::Single);
+    StatePoint.RH = 99.9; // and here just above
+    SolveFromRH();
+    EXPECT_EQ(StatePoint.Twb.kind(), NumberKind::Double);
+    StatePoint.RH = 99.989999; // above the single 0.9999, below the double
+    SolveFromRH();
+    EXPECT_EQ(StatePoint.RH.asDouble(), 99.989999 / 100.0);
+}
+
 TEST_F(EnglishSolvers, ADewPointAHairBelowTheDryBulbIsAlmostSaturated)
 {
     SetAir(70.0F, 14.696F);

@@ -74,6 +74,17 @@ TEST_F(EnglishWetBulb, ReturnsTheNewestMidpoint)
     EXPECT_EQ(bracket.upper, second);
 }
 
+TEST_F(EnglishWetBulb, EndsWhereAStepIsExactlyItsTolerance)
+{
+    WetBulbBracket bracket(70.0F);
+    bracket.lower = 9999.0F;
+    bracket.mid = 10001.0F;
+    EXPECT_TRUE(bracket.narrow(-1)); // to 10000, a step of 0.01 percent
+    bracket.lower = 9998.0F;
+    bracket.mid = 10002.0F;
+    EXPECT_FALSE(bracket.narrow(-1));
+}
+
 TEST_F(MetricWetBulb, SearchesFrom50DegreesBelow)
 {
     const WetBulbBracket bracket(20.0F);

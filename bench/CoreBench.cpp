@@ -1,0 +1,140 @@
+// What a moist-air state costs: a full state from each of the five items in both unit modes, the wet bulb
+// search beside its plain form, and a floor under both.
+
+#include "core/MainMod.h"
+#include "core/PlainForms.h"
+#include "core/WetBulbBracket.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+#include <random>
+#include <vector>
+
+namespace {
+
+constexpr int SampleSize = 4096; // enough that no branch of a search can be learnt by heart
+
+/// Solved states over the comfortable range of the screens.
+std::vector<MoistAirState> Sample()
+{
+    std::mt19937 random(1);
+    std::uniform_real_distribution<Single> dryBulb(IsMetric() ? 0.0F : 35.0F, IsMetric() ? 45.0F : 115.0F);
+    std::uniform_real_distribution<Single> percent(5.0F, 95.0F);
+    std::vector<MoistAirState> states;
+    for (int i = 0; i < SampleSize; ++i) {
+        StatePoint = {};
+        StatePoint.Tdb = dryBulb(random);
+        StatePoint.P = IsMetric() ? 101325.0F : 14.696F;
+        StatePoint.RH = percent(random);
+        SolveFromRH();
+        states.push_back(StatePoint);
+    }
+    return states;
+}
+
+void SetMode(benchmark::State& state)
+{
+    UnitSystem = state.range(0) != 0 ? True16 : False16;
+    state.SetLabel(IsMetric() ? "Metric" : "English");
+}
+
+/// A full state from one item, given as it stands in a solved state.
+void SolveFrom(benchmark::State& state, TaggedNumber MoistAirState::*item, void (*solve)())
+{
+    SetMode(state);
+    std::vector<MoistAirState> states = Sample();
+    if (item == &MoistAirState::RH) {
+        for (MoistAirState& each : states)
+            each.RH = (each.RH * 100).asSingle();
+    }
+    std::size_t i = 0;
+    for ([[maybe_unused]] auto _ : state) {
+        const MoistAirState& given = states[i++ % SampleSize];
+        StatePoint.Tdb = given.Tdb;
+        StatePoint.*item = (given.*item).asSingle();
+        solve();
+        benchmark::DoNotOptimize(StatePoint);
+    }
+}
+
+void Search(benchmark::State& state, Single (*search)(Single, Single, Single))
+{
+    SetMode(state);
+    const std::vector<MoistAirState> states = Sample();
+    std::size_t i = 0;
+    for ([[maybe_unused]] auto _ : state) {
+        const MoistAirState& air = states[i++ % SampleSize];
+        benchmark::DoNotOptimize(search(air.Tdb, air.W.asSingle(), air.P.asSingle()));
+    }
+}
+
+/// One pair of calls that no state can do without: ln T and the exp of the saturation pressure.
+struct Pair
+{
+    double absolute;
+    double logPressure;
+};
+
+Pair PairAt(Single t)
+{
+    const Single absolute = ToAbsolute(t);
+    return {static_cast<double>(absolute), std::log(static_cast<double>(SaturationPressure(absolute)))};
+}
+
+/// The pairs of a state from RH: the dry bulb's, the dew point's logarithm and power, and one for each new
+/// residual.
+std::vector<Pair> PairsOf(const MoistAirState& air)
+{
+    const Single w = air.W.asSingle();
+    const Single p = air.P.asSingle();
+    std::vector<Pair> pairs{PairAt(air.Tdb), {air.Pw.asDouble(), -1.0}};
+    WetBulbBracket bracket(air.Tdb);
+    Single lowerResidual = WetBulbResidual(bracket.lower, air.Tdb, p, w);
+    pairs.push_back(PairAt(bracket.lower));
+    while (true) {
+        const Single residual = WetBulbResidual(bracket.mid, air.Tdb, p, w);
+        pairs.push_back(PairAt(bracket.mid));
+        const Single product = residual * lowerResidual;
+        if (product > 0.0F)
+            lowerResidual = residual;
+        if (product == 0.0F || bracket.narrow(product < 0.0F ? -1 : 1))
+            return pairs;
+    }
+}
+
+/// Nothing but the calls. Each waits for the one before it, as the next candidate of a bisection waits for
+/// the sign of the last: the added multiple of the last result is 0, but the processor has to have it first.
+void Floor(benchmark::State& state)
+{
+    SetMode(state);
+    std::vector<std::vector<Pair>> sample;
+    double residuals = 0.0;
+    for (const MoistAirState& air : Sample()) {
+        sample.push_back(PairsOf(air));
+        residuals += static_cast<double>(sample.back().size() - 2) / SampleSize;
+    }
+    std::size_t i = 0;
+    double last = 0.0;
+    for ([[maybe_unused]] auto _ : state) {
+        for (const Pair& pair : sample[i++ % SampleSize]) {
+            const double logarithm = std::log(pair.absolute + last * 0.0);
+            last = std::exp(pair.logPressure + logarithm * 0.0);
+        }
+        benchmark::DoNotOptimize(last);
+    }
+    state.counters["residuals"] = residuals;
+}
+
+} // namespace
+
+BENCHMARK_CAPTURE(SolveFrom, Grains, &MoistAirState::Grains, SolveFromGrains)->Arg(0); // English alone
+BENCHMARK_CAPTURE(SolveFrom, W, &MoistAirState::W, SolveFromW)->Arg(0)->Arg(1);
+BENCHMARK_CAPTURE(SolveFrom, WetBulb, &MoistAirState::Twb, SolveFromWetBulb)->Arg(0)->Arg(1);
+BENCHMARK_CAPTURE(SolveFrom, DewPoint, &MoistAirState::td, SolveFromDewPoint)->Arg(0)->Arg(1);
+BENCHMARK_CAPTURE(SolveFrom, RH, &MoistAirState::RH, SolveFromRH)->Arg(0)->Arg(1);
+BENCHMARK(Floor)->Arg(0)->Arg(1);
+BENCHMARK_CAPTURE(Search, Fast, SolveWetBulb)->Arg(0)->Arg(1);
+BENCHMARK_CAPTURE(Search, Plain, PlainSolveWetBulb)->Arg(0)->Arg(1);
+
+BENCHMARK_MAIN();

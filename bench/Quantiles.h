@@ -1,0 +1,19 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+/// The value below which the given part of the measurements lies, e.g. 0.5 for the median, interpolated
+/// between neighbours. There must be at least one.
+inline double quantile(std::vector<double> measurements, double part)
+{
+    std::sort(measurements.begin(), measurements.end());
+    const double place = part * static_cast<double>(measurements.size() - 1);
+    const auto below = static_cast<std::size_t>(place);
+    const auto above = std::min(below + 1, measurements.size() - 1);
+    return measurements[below] +
+           (measurements[above] - measurements[below]) * (place - static_cast<double>(below));
+}
+
+inline double median(const std::vector<double>& measurements) { return quantile(measurements, 0.5); }

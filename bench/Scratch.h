@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+/// A folder of its own for the settings, while it lives: no measurement depends on the user's, or writes
+/// them.
+class ScratchSettings
+{
+public:
+    ScratchSettings()
+    {
+        if (mkdtemp(folder.data()) == nullptr)
+            throw std::runtime_error("cannot make " + folder);
+        for (const char* variable : {"XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+            setenv(variable, folder.c_str(), 1);
+    }
+    ~ScratchSettings()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(folder, ignored);
+    }
+    ScratchSettings(const ScratchSettings&) = delete;
+    ScratchSettings& operator=(const ScratchSettings&) = delete;
+
+private:
+    std::string folder = (std::filesystem::temp_directory_path() / "dunmoor-bench-XXXXXX").string();
+};
+
+/// Where there is no display, windows are painted into memory alone.
+inline void useOffscreenWithoutDisplay()
+{
+    if (std::getenv("DISPLAY") == nullptr && std::getenv("WAYLAND_DISPLAY") == nullptr)
+        setenv("QT_QPA_PLATFORM", "offscreen", 1);
+}
+
+/// What windows are shown on, for the heading of the figures.
+inline const char* displayInUse()
+{
+    const char* const platform = std::getenv("QT_QPA_PLATFORM");
+    return platform == nullptr ? "the desktop" : platform;
+}

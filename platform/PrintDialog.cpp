@@ -1,0 +1,186 @@
+#include "platform/PrintDialog.h"
+
+#include "platform/Printer.h"
+#include "platform/forms/Form.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QEvent>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QPrintDialog>
+#include <QPrintEngine>
+#include <QStandardPaths>
+
+namespace {
+
+std::string upperCase(const std::string& name)
+{
+    return QString::fromStdString(name).toUpper().toStdString();
+}
+
+/// Options of the print system that have no setting of their own (several pages a sheet, a cover sheet, what
+/// one model alone can do). The toolkit keeps them in its print engine under this key.
+constexpr auto printSystemOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
+
+/// Takes the page range away. The toolkit shows it whatever its options say; below a widget that is never
+/// shown it can't.
+void leaveOutPageRange(QPrintDialog& dialog)
+{
+    auto* const shelf = new QWidget(&dialog);
+    shelf->hide();
+    if (auto* const range = dialog.findChild<QWidget*>("gbPrintRange"))
+        range->setParent(shelf);
+}
+
+/// Where the toolkit proposes a folder alone for the file printer, proposes a file.
+void proposeFile(QPrintDialog& dialog)
+{
+    auto* const file = dialog.findChild<QLineEdit*>("filename");
+    if (file == nullptr || !QFileInfo(file->text()).isDir())
+        return;
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QDir folder(QFileInfo(documents).isDir() ? documents : QDir::homePath());
+    file->setText(folder.filePath("Dunmoor.pdf"));
+}
+
+/// Brings the settings of the current printer to the device of the dialog.
+void copySettings(Printer& current, QPrinter& device)
+{
+    QPrinter& source = current.device();
+    device.setPageLayout(source.pageLayout());
+    device.setPaperSource(source.paperSource());
+    device.setCopyCount(source.copyCount());
+    device.setDuplex(source.duplex());
+    device.setColorMode(source.colorMode());
+    device.setResolution(source.resolution());
+    device.setCollateCopies(source.collateCopies());
+    device.setPageOrder(source.pageOrder());
+    device.printEngine()->setProperty(printSystemOptions, source.printEngine()->property(printSystemOptions));
+}
+
+/// A device of its own for the dialog, which may change it while it is open.
+std::unique_ptr<QPrinter> deviceForDialog(Printer& current)
+{
+    std::unique_ptr<QPrinter> device = OpenDevice(current.deviceName());
+    if (current.deviceName() == FilePrinter && !current.port().empty())
+        device->setOutputFileName(QString::fromStdString(current.port()));
+    copySettings(current, *device);
+    return device;
+}
+
+/// Watches for the page of properties that the dialog opens on the user's demand. The toolkit starts it on
+/// the paper that the printer offers; it is put on the paper in force.
+class PropertiesWatch : public QObject
+{
+public:
+    explicit PropertiesWatch(const QPageSize& paperInForce) : paper(paperInForce)
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool wereConfirmed() const { return confirmed; }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show && !confirmed && object->objectName() == "pageSetup")
+            start(*static_cast<QWidget*>(object));
+        return false;
+    }
+
+private:
+    void start(QWidget& page)
+    {
+        auto* const sizes = page.findChild<QComboBox*>("pageSizeCombo");
+        if (sizes != nullptr && sizes->findText(paper.name()) >= 0)
+            sizes->setCurrentIndex(sizes->findText(paper.name()));
+        if (auto* const dialog = qobject_cast<QDialog*>(page.window()))
+            connect(dialog, &QDialog::accepted, this, [this] { confirmed = true; });
+    }
+
+    QPageSize paper;
+    bool confirmed = false;
+};
+
+/// On confirmation the toolkit puts all properties back to what the printer offers, when the user has not
+/// confirmed any there. They stay as they were.
+void keepProperties(Printer& current, QPrinter& chosen)
+{
+    if (DeviceName(chosen) != current.deviceName())
+        return;
+    QPrinter& source = current.device();
+    chosen.setPageLayout(source.pageLayout());
+    chosen.setPaperSource(source.paperSource());
+    if (current.deviceName() != FilePrinter) // whose colours stand on the dialog itself
+        chosen.setColorMode(source.colorMode());
+    chosen.printEngine()->setProperty(printSystemOptions, source.printEngine()->property(printSystemOptions));
+}
+
+void chooseDevice(Printer& current, const QPrinter& chosen)
+{
+    const std::string name = upperCase(DeviceName(chosen));
+    if (current.deviceName() == name)
+        return;
+    if (const auto printer = PrinterToGoOverTo(PrinterNames(), name))
+        current.changeDevice(*printer);
+}
+
+void chooseSettings(Printer& current, const QPrinter& chosen)
+{
+    current.setCopies(chosen.copyCount());
+    current.setDuplex(chosen.duplex());
+    current.setOrientation(chosen.pageLayout().orientation());
+    current.setPaperSize(chosen.pageLayout().pageSize());
+    current.setPrintQuality(chosen.resolution());
+    current.setColorMode(chosen.colorMode());
+    current.setPaperBin(chosen.paperSource());
+}
+
+/// What this dialog offers beyond the settings that every printer has.
+void chooseExtras(Printer& current, const QPrinter& chosen)
+{
+    if (current.isPrinting())
+        return;
+    current.setPort(chosen.outputFileName().toStdString());
+    current.device().setPageMargins(chosen.pageLayout().margins(), chosen.pageLayout().units());
+    current.device().setCollateCopies(chosen.collateCopies());
+    current.device().setPageOrder(chosen.pageOrder());
+    current.device().printEngine()->setProperty(printSystemOptions,
+                                                chosen.printEngine()->property(printSystemOptions));
+}
+
+} // namespace
+
+std::optional<std::string> PrinterToGoOverTo(const std::vector<std::string>& printers,
+                                             const std::string& upperCaseName)
+{
+    std::optional<std::string> last;
+    for (const std::string& printer : printers) {
+        if (upperCase(printer) == upperCaseName)
+            last = printer;
+    }
+    return last;
+}
+
+bool ShowPrintDialog(const Form& owner)
+{
+    Printer& current = CurrentPrinter();
+    const std::unique_ptr<QPrinter> device = deviceForDialog(current);
+    QPrintDialog dialog(device.get(), owner.window());
+    dialog.setObjectName("PrintDialog");
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies |
+                      QAbstractPrintDialog::PrintShowPageSize);
+    leaveOutPageRange(dialog);
+    proposeFile(dialog);
+    const PropertiesWatch properties(current.paperSize());
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    if (!properties.wereConfirmed())
+        keepProperties(current, *device);
+
+    chooseDevice(current, *device);
+    chooseSettings(current, *device);
+    chooseExtras(current, *device);
+    return true;
+}

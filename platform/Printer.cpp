@@ -1,0 +1,232 @@
+#include "platform/Printer.h"
+
+#include <QApplication>
+#include <QFontInfo>
+#include <QLocale>
+#include <QPainter>
+#include <QPrinterInfo>
+#include <QTextLayout>
+
+namespace {
+
+constexpr double MarginInMillimetres = 15.0;
+
+/// The desktop's font, with its size in points.
+QFont desktopFont()
+{
+    QFont font = QApplication::font();
+    font.setPointSize(QFontInfo(font).pointSize());
+    // The least there is, too little to see. It keeps the toolkit from drawing "fi" as one glyph, which
+    // whoever looks for "Specific" in a PDF file would not find.
+    font.setLetterSpacing(QFont::AbsoluteSpacing, 1.0 / 64);
+    return font;
+}
+
+QPageSize::PageSizeId usualPaper()
+{
+    const bool american = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+    return american ? QPageSize::Letter : QPageSize::A4;
+}
+
+/// Breaks a text into lines that fit a width, between words where that is possible.
+void breakIntoLines(QTextLayout& layout, double width)
+{
+    QTextOption wrapping;
+    wrapping.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(wrapping);
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLeadingIncluded(true);
+        line.setLineWidth(width);
+    }
+    layout.endLayout();
+}
+
+std::unique_ptr<Printer> currentPrinter;
+
+} // namespace
+
+std::unique_ptr<QPrinter> OpenDevice(const std::string& name)
+{
+    auto device = name == FilePrinter
+                      ? std::make_unique<QPrinter>(QPrinter::HighResolution)
+                      : std::make_unique<QPrinter>(QPrinterInfo::printerInfo(QString::fromStdString(name)),
+                                                   QPrinter::HighResolution);
+    if (name == FilePrinter) {
+        device->setOutputFormat(QPrinter::PdfFormat);
+        device->setPageSize(QPageSize(usualPaper()));
+    }
+    device->setDocName(QCoreApplication::applicationName());
+    device->setCreator(QCoreApplication::applicationName());
+    constexpr double margin = MarginInMillimetres;
+    device->setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
+    return device;
+}
+
+std::string DeviceName(const QPrinter& device)
+{
+    return device.outputFormat() == QPrinter::PdfFormat ? FilePrinter : device.printerName().toStdString();
+}
+
+std::vector<std::string> PrinterNames()
+{
+    std::vector<std::string> names;
+    for (const QString& name : QPrinterInfo::availablePrinterNames())
+        names.push_back(name.toStdString());
+    names.push_back(FilePrinter);
+    return names;
+}
+
+Printer& CurrentPrinter()
+{
+    if (currentPrinter == nullptr) {
+        const std::string systemDefault = QPrinterInfo::defaultPrinterName().toStdString();
+        currentPrinter =
+            std::make_unique<Printer>(systemDefault.empty() ? PrinterNames().front() : systemDefault);
+        qAddPostRoutine([] { currentPrinter.reset(); }); // devices must be gone before the toolkit is
+    }
+    return *currentPrinter;
+}
+
+Printer::Printer(const std::string& device) : device_(OpenDevice(device)), font_(desktopFont()) {}
+Printer::~Printer() { dropDocument(); }
+
+void Printer::changeDevice(const std::string& device)
+{
+    if (!isPrinting())
+        device_ = OpenDevice(device);
+}
+
+std::string Printer::deviceName() const { return DeviceName(*device_); }
+
+std::string Printer::driverName() const { return QPrinterInfo(*device_).makeAndModel().toStdString(); }
+
+std::string Printer::port() const
+{
+    return (deviceName() == FilePrinter ? device_->outputFileName() : QPrinterInfo(*device_).location())
+        .toStdString();
+}
+
+int Printer::pageWidth() const { return device_->width(); }
+
+void Printer::setPort(const std::string& file)
+{
+    if (!isPrinting() && deviceName() == FilePrinter) {
+        device_->setOutputFileName(QString::fromStdString(file));
+        device_->setOutputFormat(QPrinter::PdfFormat); // whatever the name ends with
+    }
+}
+
+void Printer::setOrientation(QPageLayout::Orientation orientation)
+{
+    if (!isPrinting())
+        device_->setPageOrientation(orientation);
+}
+
+void Printer::setPaperSize(const QPageSize& size)
+{
+    if (!isPrinting())
+        device_->setPageSize(size);
+}
+
+void Printer::setPaperBin(QPrinter::PaperSource bin)
+{
+    if (!isPrinting())
+        device_->setPaperSource(bin);
+}
+
+void Printer::setCopies(int copies)
+{
+    if (!isPrinting())
+        device_->setCopyCount(copies);
+}
+
+void Printer::setDuplex(QPrinter::DuplexMode mode)
+{
+    if (!isPrinting())
+        device_->setDuplex(mode);
+}
+
+void Printer::setPrintQuality(int dotsPerInch)
+{
+    if (!isPrinting())
+        device_->setResolution(dotsPerInch);
+}
+
+void Printer::setColorMode(QPrinter::ColorMode mode)
+{
+    if (!isPrinting())
+        device_->setColorMode(mode);
+}
+
+PrinterFont Printer::font() const
+{
+    return {.name = font_.family().toStdString(), .size = font_.pointSize(), .bold = font_.bold()};
+}
+
+void Printer::setFont(const PrinterFont& font)
+{
+    // Liberation Sans is as wide as Arial, letter by letter, and free.
+    QStringList families{QString::fromStdString(font.name)};
+    if (font.name == "Arial")
+        families << "Liberation Sans";
+    font_.setFamilies(families);
+    font_.setPointSize(font.size);
+    font_.setBold(font.bold);
+}
+
+bool Printer::printLine(const std::string& line)
+{
+    if (!isPrinting() && !beginDocument())
+        return false;
+
+    QTextLayout layout(QString::fromStdString(line), font_, device_.get());
+    breakIntoLines(layout, painter->viewport().width());
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        QTextLine part = layout.lineAt(i);
+        if (!makeRoomFor(part.height()))
+            return false;
+        part.setPosition({0, usedHeight});
+        part.draw(painter.get(), {0, 0});
+        usedHeight += part.height();
+    }
+    return true;
+}
+
+bool Printer::endDocument()
+{
+    if (!isPrinting())
+        return true;
+    const bool ended = painter->end();
+    painter.reset();
+    return ended;
+}
+
+bool Printer::beginDocument()
+{
+    if (deviceName() == FilePrinter && port().empty())
+        return false;
+    painter = std::make_unique<QPainter>();
+    usedHeight = 0;
+    if (!painter->begin(device_.get()))
+        painter.reset();
+    return isPrinting();
+}
+
+bool Printer::makeRoomFor(double height)
+{
+    if (usedHeight == 0 || usedHeight + height <= painter->viewport().height())
+        return true;
+    usedHeight = 0;
+    return device_->newPage();
+}
+
+void Printer::dropDocument()
+{
+    if (!isPrinting())
+        return;
+    // Ending the painter or destroying the device would send the document off, and the toolkit's abort does
+    // so too. So they stay as they are until the process is gone.
+    static auto* const unfinished = new std::vector<std::pair<QPainter*, QPrinter*>>;
+    unfinished->emplace_back(painter.release(), device_.release());
+}

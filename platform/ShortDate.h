@@ -1,0 +1,6 @@
+#pragma once
+
+#include <string>
+
+/// Today in the short form of the user's locale, without the time.
+std::string ShortDate();

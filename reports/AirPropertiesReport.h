@@ -1,0 +1,36 @@
+#pragma once
+
+#include "reports/ReportWriter.h"
+
+#include <string>
+
+class Form;
+
+/// What stands in the fields of the air properties calculator.
+struct AirPropertiesTexts
+{
+    std::string txtTdb;
+    std::string txtTwb;
+    std::string txttd;
+    std::string txtRH;
+    std::string txtW;
+    std::string txtGrains;
+    std::string txtSpVol;
+    std::string txth;
+};
+
+/// How the relative humidity is read and divided by 100: printing does it in single, saving in double, which
+/// can only differ at the very edge of a rounding.
+enum class PercentReading
+{
+    InSingle,
+    InDouble,
+};
+
+/// Writes the field texts, each through a number picture. Only txtRH has to be a number.
+/// @throws RunTimeError type mismatch, overflow, from txtRH; the lines before it are written
+void WriteAirPropertiesReport(ReportWriter& report, const AirPropertiesTexts& fields, PercentReading reading);
+
+/// The calculator's two commands (see PrintFrame.h, SaveFrame.h).
+void PrintAirProperties(const Form& owner, const AirPropertiesTexts& fields);
+void SaveAirProperties(const Form& owner, const AirPropertiesTexts& fields);

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "reports/ReportWriter.h"
+
+class Form;
+
+/// Writes the outside air, the return air and the mixture, a block each, from their snapshots as they stand.
+/// @throws RunTimeError as WriteAirBlock
+void WriteMixedAirReport(ReportWriter& report);
+
+/// The two commands of both mixed air screens (see PrintFrame.h, SaveFrame.h).
+void PrintMixedAir(const Form& owner);
+void SaveMixedAir(const Form& owner);

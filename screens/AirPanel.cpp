@@ -1,0 +1,139 @@
+#include "screens/AirPanel.h"
+
+#include "core/MainMod.h"
+#include "core/NumberPicture.h"
+#include "core/NumberText.h"
+#include "screens/Shell.h"
+
+#include <QWidget>
+
+AirPanel::AirPanel(const std::string& name, const PanelRules& panelRules)
+    : Form(name, FormKind::Screen), rules(panelRules)
+{
+    connectHandlers();
+    layOutRows();
+}
+
+void AirPanel::connectHandlers()
+{
+    txtTwb.onChange([this] { txtTwb_Change(); });
+    txttd.onChange([this] { txttd_Change(); });
+    if (rules.allItemsTellChanges) {
+        txtRH.onChange([this] { txtRH_Change(); });
+        txtW.onChange([this] { txtW_Change(); });
+        txtGrains.onChange([this] { txtGrains_Change(); });
+    }
+    txtTwb.onClick([this] { txtTwb_Click(); });
+    txttd.onClick([this] { txttd_Click(); });
+    txtRH.onClick([this] { txtRH_Click(); });
+    txtW.onClick([this] { txtW_Click(); });
+    txtGrains.onClick([this] { txtGrains_Click(); });
+    txtTdb.onClick([this] { txtTdb_Click(); });
+    if (rules.hasEntryShortcuts) {
+        txtTdb.onKeyPress([this](int& key) { txtTdb_KeyPress(key); });
+        txtGrains.onMouseDown([this] { txtGrains_MouseDown(); });
+        txtRH.onMouseDown([this] { txtRH_MouseDown(); });
+    }
+    txth.onKeyPress([this](int& key) { txth_KeyPress(key); });
+    txtSpVol.onKeyPress([this](int& key) { txtSpVol_KeyPress(key); });
+    btnCALCULATE.onClick([this] { btnCALCULATE_Click(); });
+}
+
+void AirPanel::setEnabled(const ButtonNames& buttons, bool enabled)
+{
+    for (const std::string_view button : buttons) {
+        if (!button.empty())
+            control(button)->setEnabled(enabled);
+    }
+}
+
+void AirPanel::itemChanged(const char* selector)
+{
+    btnCALCULATE.enable();
+    setEnabled(rules.offOnChange, false);
+    HumiditySelector = selector;
+}
+
+void AirPanel::txtTwb_Change() { itemChanged("Wetbulb"); }
+void AirPanel::txttd_Change() { itemChanged("Dew Point"); }
+void AirPanel::txtRH_Change() { itemChanged("Rel"); }
+void AirPanel::txtW_Change() { itemChanged("W"); }
+void AirPanel::txtGrains_Change() { itemChanged("Grains"); }
+
+void AirPanel::itemClicked(std::initializer_list<TextField*> othersInOrder, const char* selector)
+{
+    btnCALCULATE.enable();
+    setEnabled(rules.offOnClick, false);
+    for (TextField* other : othersInOrder)
+        other->clear();
+    txth.clear();
+    txtSpVol.clear();
+    HumiditySelector = selector; // last: the emptying has selected the other items
+}
+
+void AirPanel::txtTwb_Click() { itemClicked({&txtGrains, &txttd, &txtRH, &txtW}, "Wetbulb"); }
+void AirPanel::txttd_Click() { itemClicked({&txtGrains, &txtTwb, &txtRH, &txtW}, "Dew Point"); }
+void AirPanel::txtRH_Click() { itemClicked({&txtGrains, &txtTwb, &txttd, &txtW}, "Rel"); }
+void AirPanel::txtW_Click() { itemClicked({&txtRH, &txtTwb, &txtGrains, &txttd}, "W"); }
+void AirPanel::txtGrains_Click() { itemClicked({&txtRH, &txtTwb, &txttd, &txtW}, "Grains"); }
+
+void AirPanel::txtGrains_MouseDown() { HumiditySelector = "Grains"; }
+void AirPanel::txtRH_MouseDown() { HumiditySelector = "Rel"; }
+
+void AirPanel::txtTdb_Click()
+{
+    if (rules.clickEmptiesTdb)
+        txtTdb.clear();
+    txth.clear();
+    txtSpVol.clear();
+}
+
+void AirPanel::txtTdb_KeyPress(int& key)
+{
+    if (key == Key::Enter)
+        txtTwb.takeFocus();
+}
+
+void AirPanel::Form_QueryUnload(CloseReason reason)
+{
+    if (reason == CloseReason::ControlMenu) {
+        Unload();
+        ShowMainForm();
+    }
+}
+
+void AirPanel::Form_Unload()
+{
+    Unload();
+    ShowMainForm();
+}
+
+void AirPanel::mnuExit_Click()
+{
+    Unload();
+    ShowMainForm();
+}
+
+void AirPanel::mnuMain1_Click()
+{
+    Unload();
+    ShowMainForm();
+}
+
+void AirPanel::txth_KeyPress(int& key) { key = Key::Swallowed; }
+void AirPanel::txtSpVol_KeyPress(int& key) { key = Key::Swallowed; }
+
+void AirPanel::Results2Form()
+{
+    if (IsMetric())
+        txtW.setText(FormatNumber(StatePoint.W * 1000, "#0.00"));
+    else
+        txtW.setText(FormatNumber(StatePoint.W, "#0.00000"));
+    txtTwb.setText(FormatNumber(StatePoint.Twb, "#0.0"));
+    txtRH.setText(FormatNumber(StatePoint.RH * 100, "#0.0"));
+    txtSpVol.setText(FormatNumber(StatePoint.SpVol, "#0.000"));
+    txth.setText(FormatNumber(StatePoint.h, "#0.00"));
+    txttd.setText(FormatNumber(StatePoint.td, "#0.0"));
+    if (!IsMetric())
+        txtGrains.setText(FormatNumber(StatePoint.Grains, "#0.0"));
+}

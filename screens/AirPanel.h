@@ -1,0 +1,122 @@
+#pragma once
+
+#include "platform/forms/Button.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Frame.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/TextField.h"
+#include "screens/PanelRules.h"
+
+#include <initializer_list>
+
+/// The air-state panel that the calculators share: a dry bulb, the pressure, one of five humidity items, and
+/// the button that solves the whole state and writes it back into the same fields.
+///
+/// What differs between the calculators is data: see PanelRules.h.
+class AirPanel : public Form
+{
+    const PanelRules& rules; // first: the controls take their captions from it
+
+protected:
+    AirPanel(const std::string& name, const PanelRules& panelRules);
+
+    void Form_QueryUnload(CloseReason reason) override;
+    void Form_Unload() override;
+
+    // Exit doesn't leave the application: like Main Menu it goes back to the main menu.
+    void mnuExit_Click();
+    void mnuMain1_Click();
+
+    /// Gives the form its size and its place on the screen.
+    void placeScreen();
+    /// Lays the buttons out in Frame5, from the top.
+    void layOutActions(std::initializer_list<Button*> buttons);
+    /// Lays out the panel's frames, and a further one under the actions, if there is any.
+    void layOutFrames(QWidget& container, Frame* underActions = nullptr);
+
+    /// Sets all captions of the unit system in force, shows the pressure and puts the warnings back.
+    void RepaintForm();
+    /// Writes the state into the fields. Each text that changes selects its own humidity item.
+    void Results2Form();
+
+    /// What follows results that were shown; not called where the solver refused.
+    virtual void afterResults() {}
+    /// What RepaintForm sets on this form besides.
+    virtual void repaintExtras() {}
+
+    Frame Frame5{*this, "Frame5", rules.actions};
+    Frame Frame3{*this, "Frame3"};
+    Frame Frame2{*this, "Frame2", rules.dryBulbFrame};
+    Frame Frame1{*this, "Frame1", "Enter One of These 5 Items, Click \"Calculate Properties\""};
+
+    Label lblTdb1{*this, rules.labels.tdb.name, rules.labels.tdb.caption};
+    TextField txtTdb{*this, "txtTdb"};
+    Label lblTdb2{*this, "lblTdb2"};
+    Label lblP1{*this, rules.labels.pressure.name, rules.labels.pressure.caption};
+    Label txtP{*this, "txtP"}; // a label: the pressure is changed in the options alone
+    Label lblP2{*this, "lblP2"};
+
+    Label lblTwb1{*this, rules.labels.wetBulb.name, rules.labels.wetBulb.caption};
+    TextField txtTwb{*this, "txtTwb"};
+    Label lblTwb2{*this, "lblTwb2"};
+    Label lblDewPt1{*this, rules.labels.dewPoint.name, rules.labels.dewPoint.caption};
+    TextField txttd{*this, "txttd"};
+    Label lblDewPt2{*this, "lblDewPt2"};
+    Label lblRH1{*this, rules.labels.relativeHumidity.name, rules.labels.relativeHumidity.caption};
+    TextField txtRH{*this, "txtRH"};
+    Label lblRH2{*this, "lblRH2"};
+    Label lblW1{*this, rules.labels.humidityRatio.name, rules.labels.humidityRatio.caption};
+    TextField txtW{*this, "txtW"};
+    Label lblW2{*this, "lblW2"};
+    Label lblGrains1{*this, rules.labels.grains.name, rules.labels.grains.caption};
+    TextField txtGrains{*this, "txtGrains"};
+    Label lblGrains2{*this, "lblGrains2"};
+
+    Label lblEnthalpy1{*this, rules.labels.enthalpy.name, rules.labels.enthalpy.caption};
+    TextField txth{*this, "txth"};
+    Label lblEnthalpy2{*this, "lblEnthalpy2"};
+    Label lblSpVol1{*this, rules.labels.specificVolume.name, rules.labels.specificVolume.caption};
+    TextField txtSpVol{*this, "txtSpVol"};
+    Label lblSpVol2{*this, "lblSpVol2"};
+
+    Button btnCALCULATE{*this, "btnCALCULATE", "Calculate Properties"};
+
+private:
+    void connectHandlers();
+    void layOutRows();
+    void nameFields();
+
+    void txtTwb_Change();
+    void txttd_Change();
+    void txtRH_Change();
+    void txtW_Change();
+    void txtGrains_Change();
+    void txtTwb_Click();
+    void txttd_Click();
+    void txtRH_Click();
+    void txtW_Click();
+    void txtGrains_Click();
+    void txtGrains_MouseDown();
+    void txtRH_MouseDown();
+    void txtTdb_Click();
+    void txtTdb_KeyPress(int& key);
+    void txth_KeyPress(int& key);
+    void txtSpVol_KeyPress(int& key);
+    void btnCALCULATE_Click();
+
+    void itemChanged(const char* selector);
+    void itemClicked(std::initializer_list<TextField*> othersInOrder, const char* selector);
+
+    void calculate();
+    void finishCalculation();
+    void refuseInput();
+    void showResults();
+    void readPressure();
+    bool solveSelectedItem();
+    void solveWetBulbItem();
+    void solveDewPointItem();
+    void solveRelativeHumidityItem();
+    void solveHumidityRatioItem();
+    void solveGrainsItem();
+    void setEnabled(const ButtonNames& buttons, bool enabled);
+};

@@ -1,0 +1,162 @@
+// The calculation of the air-state panel: ranges, clips with their warnings, and the solver of the item.
+
+#include "core/MainMod.h"
+#include "core/NumberText.h"
+#include "core/RunTimeError.h"
+#include "platform/forms/MsgBox.h"
+#include "screens/AirPanel.h"
+
+#include <QWidget>
+
+namespace {
+
+constexpr Single lowestTdb = -40.0F;
+constexpr Single highestTdb = 125.0F;
+constexpr Single highestMetricTdb = 50.0F;
+
+/// Puts a clipped item's text into its field and says so beside it.
+void showClip(TextField& field, const std::string& text, Label& unit, const char* warning)
+{
+    field.setText(text);
+    unit.setBackColour(Colours::Red);
+    unit.setForeColour(Colours::White);
+    unit.setCaption(warning);
+}
+
+} // namespace
+
+void AirPanel::btnCALCULATE_Click()
+{
+    try {
+        calculate();
+    } catch (const RunTimeError&) {
+        refuseInput();
+    }
+}
+
+void AirPanel::refuseInput()
+{
+    btnCALCULATE.disable();
+    MsgBox("Input Out of Range, Try Again!", " ERROR");
+}
+
+void AirPanel::calculate()
+{
+    RepaintForm();
+    setEnabled(rules.offAtCalculation, false);
+    StatePoint.Tdb = ParseSingle(txtTdb.text());
+    if (StatePoint.Tdb < lowestTdb || StatePoint.Tdb > highestTdb) {
+        btnCALCULATE.disable();
+        MsgBox("Temperature Input Out of Range, Try Again!", " ERROR");
+        return;
+    }
+    readPressure();
+    // From above 50 up to 125 degrees Metric refuses with the other message.
+    if (IsMetric() && rules.limitsMetricTdb && StatePoint.Tdb > highestMetricTdb) {
+        refuseInput();
+        return;
+    }
+    if (solveSelectedItem())
+        finishCalculation();
+}
+
+/// Runs after a refused humidity ratio as well, so that the user can go on with the refused state.
+void AirPanel::finishCalculation()
+{
+    setEnabled(rules.offAfterwards, false);
+    setEnabled(rules.onAfterwards, true);
+    if (!rules.focusAfterwards.empty())
+        control(rules.focusAfterwards)->setFocus();
+}
+
+void AirPanel::showResults()
+{
+    Results2Form();
+    afterResults();
+}
+
+void AirPanel::readPressure()
+{
+    const Single shown = ParseSingle(txtP.caption());
+    StatePoint.P = IsMetric() ? RoundToSingle(shown * 1000.0) : shown;
+}
+
+/// False where no item is selected: then nothing is done.
+bool AirPanel::solveSelectedItem()
+{
+    if (HumiditySelector == "Wetbulb")
+        solveWetBulbItem();
+    else if (HumiditySelector == "Dew Point")
+        solveDewPointItem();
+    else if (HumiditySelector == "Rel")
+        solveRelativeHumidityItem();
+    else if (HumiditySelector == "W")
+        solveHumidityRatioItem();
+    else if (HumiditySelector == "Grains")
+        solveGrainsItem();
+    else
+        return false;
+    return true;
+}
+
+void AirPanel::solveWetBulbItem()
+{
+    StatePoint.Twb = ParseSingle(txtTwb.text());
+    if (StatePoint.Twb >= StatePoint.Tdb) {
+        StatePoint.Twb = StatePoint.Tdb - rules.wetBulbClip.value(IsMetric());
+        showClip(txtTwb, PlainText(StatePoint.Twb), lblTwb2, " Twb clipped at Tdb");
+    }
+    SolveFromWetBulb();
+    showResults();
+}
+
+void AirPanel::solveDewPointItem()
+{
+    StatePoint.td = ParseSingle(txttd.text());
+    if (StatePoint.td >= StatePoint.Tdb) {
+        StatePoint.td = StatePoint.Tdb - rules.dewPointClip.value(IsMetric());
+        showClip(txttd, PlainText(StatePoint.td), lblDewPt2, " Dew Pt. clipped at Tdb");
+    }
+    SolveFromDewPoint();
+    showResults();
+}
+
+void AirPanel::solveRelativeHumidityItem()
+{
+    StatePoint.RH = ParseSingle(txtRH.text());
+    if (StatePoint.RH > 100.0) {
+        StatePoint.RH = 100;
+        showClip(txtRH, "100", lblRH2, " RH clipped at 100%");
+    }
+    if (StatePoint.RH <= 0.0) {
+        StatePoint.RH = 0.1;
+        showClip(txtRH, PlainText(StatePoint.RH), lblRH2, " RH clipped at 0.1%");
+    }
+    SolveFromRH();
+    showResults();
+}
+
+void AirPanel::solveHumidityRatioItem()
+{
+    const Single shown = ParseSingle(txtW.text());
+    StatePoint.W = IsMetric() ? RoundToSingle(shown / 1000.0) : shown;
+    if (StatePoint.W <= 0.00001) { // kg/kg in Metric too, and the text is that figure
+        StatePoint.W = 0.00001;
+        showClip(txtW, PlainText(StatePoint.W), lblW2, " W clipped at 0.00001");
+    }
+    SolveFromW();
+    if (HumidityRatioTooHigh == 0)
+        showResults();
+}
+
+void AirPanel::solveGrainsItem()
+{
+    StatePoint.Grains = ParseSingle(txtGrains.text());
+    if (StatePoint.Grains <= 0.1) {
+        StatePoint.Grains = 0.1;
+        showClip(txtGrains, PlainText(StatePoint.Grains), lblGrains2, " grains clipped at 0.1");
+    }
+    SolveFromGrains();
+    if (GrainsTooHigh == 0)
+        showResults();
+}

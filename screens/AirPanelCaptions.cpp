@@ -1,0 +1,105 @@
+// How the air-state panel looks: its captions and colours by unit system, its rows, its spoken names.
+
+#include "core/MainMod.h"
+#include "core/NumberText.h"
+#include "screens/AirPanel.h"
+#include "screens/Rows.h"
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+#include <QWidget>
+
+void AirPanel::RepaintForm()
+{
+    const bool isMetric = IsMetric();
+    for (Label* degrees : {&lblTdb2, &lblTwb2, &lblDewPt2})
+        degrees->setCaption(isMetric ? " Deg. C" : " Deg. F");
+    setCaption(std::string(isMetric ? rules.captionMetric : rules.captionEnglish));
+    lblW2.setCaption(isMetric ? std::string(rules.metricHumidityUnit) : " lb. water/lb. dry air");
+    if (isMetric)
+        lblGrains1.setCaption("  ");
+    lblGrains2.setCaption(isMetric ? "  " : " grains");
+    txtGrains.setEnabled(!isMetric);
+    txtGrains.setBackColour(isMetric ? Colours::Grey : Colours::LightGreen);
+    lblSpVol2.setCaption(isMetric ? " m3/kg dry air" : " ft3/lb.");
+    lblEnthalpy2.setCaption(isMetric ? " kJ/kg" : " Btu/lb.");
+    lblP2.setCaption(isMetric ? " kPa" : " psi");
+    txtP.setCaption(PlainText(BaroPressure));
+    repaintExtras();
+    lblRH2.setCaption(" %");
+    for (Label* warning : {&lblTwb2, &lblRH2, &lblDewPt2, &lblW2, &lblGrains2}) {
+        warning->setBackColour(Colours::Grey);
+        warning->setForeColour(Colours::Black);
+    }
+    nameFields();
+}
+
+void AirPanel::layOutRows()
+{
+    layOutInFrame(Frame2, {{lblTdb1, txtTdb, lblTdb2}, {lblP1, txtP, lblP2}});
+    layOutInFrame(Frame1, {{lblTwb1, txtTwb, lblTwb2},
+                           {lblDewPt1, txttd, lblDewPt2},
+                           {lblRH1, txtRH, lblRH2},
+                           {lblW1, txtW, lblW2},
+                           {lblGrains1, txtGrains, lblGrains2}});
+    layOutInFrame(Frame3, {{lblEnthalpy1, txth, lblEnthalpy2}, {lblSpVol1, txtSpVol, lblSpVol2}});
+    for (Label* unit : {&lblTdb2, &lblP2, &lblEnthalpy2, &lblSpVol2}) {
+        unit->setBackColour(Colours::Grey);
+        unit->setForeColour(Colours::Black);
+    }
+    txtP.setBoxed();
+    for (TextField* field : {&txtTdb, &txtTwb, &txttd, &txtRH, &txtW, &txtGrains, &txth, &txtSpVol})
+        field->alignRight();
+    txth.leaveTabOrder();
+    txtSpVol.leaveTabOrder();
+}
+
+void AirPanel::placeScreen()
+{
+    setSize(8000, 6600);
+    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 4);
+}
+
+void AirPanel::layOutActions(std::initializer_list<Button*> buttons)
+{
+    auto* const actions = new QVBoxLayout(Frame5.widget());
+    actions->setContentsMargins(14, 14, 14, 14);
+    actions->setSpacing(12);
+    for (Button* button : buttons) {
+        button->widget()->setMinimumHeight(button->widget()->fontMetrics().height() * 2);
+        actions->addWidget(button->widget());
+    }
+    actions->addStretch();
+}
+
+void AirPanel::layOutFrames(QWidget& container, Frame* underActions)
+{
+    auto* const side = new QVBoxLayout;
+    side->setSpacing(14);
+    side->addWidget(Frame5.widget(), 1);
+    if (underActions != nullptr)
+        side->addWidget(underActions->widget());
+
+    auto* const grid = new QGridLayout(&container);
+    grid->setContentsMargins(16, 16, 16, 16);
+    grid->setSpacing(14);
+    grid->addWidget(Frame2.widget(), 0, 0);
+    grid->addWidget(Frame1.widget(), 1, 0);
+    grid->addWidget(Frame3.widget(), 2, 0);
+    grid->addLayout(side, 0, 1, 4, 1);
+    grid->setColumnStretch(0, 1);
+    grid->setRowStretch(3, 1);
+}
+
+void AirPanel::nameFields()
+{
+    nameWithUnit(txtTdb, "Dry bulb temperature", lblTdb2);
+    nameWithUnit(txtP, "Barometric pressure " + txtP.caption(), lblP2);
+    nameWithUnit(txtTwb, "Wet bulb temperature", lblTwb2);
+    nameWithUnit(txttd, "Dew point temperature", lblDewPt2);
+    nameWithUnit(txtRH, "Relative humidity", lblRH2);
+    nameWithUnit(txtW, "Humidity ratio W", lblW2);
+    nameWithUnit(txtGrains, "Humidity ratio in grains", lblGrains2);
+    nameWithUnit(txth, "Enthalpy", lblEnthalpy2);
+    nameWithUnit(txtSpVol, "Specific volume", lblSpVol2);
+}

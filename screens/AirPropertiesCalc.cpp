@@ -1,0 +1,67 @@
+#include "screens/AirPropertiesCalc.h"
+
+#include "core/MainMod.h"
+#include "platform/Desktop.h"
+
+#include <QVBoxLayout>
+#include <QWidget>
+
+AirPropertiesCalc::AirPropertiesCalc() : AirPanel("AirPropertiesCalc", airPropertiesCalc)
+{
+    setCaption("Air Properties Calculator");
+    layOut();
+    buildMenus();
+}
+
+void AirPropertiesCalc::layOut()
+{
+    layOutActions({&btnCALCULATE});
+    layOutFrames(*Frame4.widget());
+    auto* const whole = new QVBoxLayout(area());
+    whole->addWidget(Frame4.widget());
+}
+
+void AirPropertiesCalc::buildMenus()
+{
+    mnuFile.add(mnuPrintDialog);
+    mnuFile.add(mnuSave);
+    mnuFile.add(mnusep2);
+    mnuFile.add(mnuExit);
+    mnuHelp1.add(mnuHelpAirPropCalc);
+    mnuHelp1.add(mnuHSearch);
+    mnuHelp1.add(mnuAbout);
+    addToMenuBar(mnuFile);
+    addToMenuBar(mnuMain1);
+    addToMenuBar(mnuHelp1);
+
+    mnuPrintDialog.onClick([this] { mnuPrintDialog_Click(); });
+    mnuSave.onClick([this] { mnuSave_Click(); });
+    mnuExit.onClick([this] { mnuExit_Click(); });
+    mnuMain1.onClick([this] { mnuMain1_Click(); });
+    for (MenuCommand* later : {&mnuHelpAirPropCalc, &mnuHSearch, &mnuAbout})
+        later->disable(); // until there are a help file and an about box
+}
+
+void AirPropertiesCalc::Form_Load()
+{
+    MakeCurrentDirectory(ApplicationFolder()); // the help file is opened by its bare name
+    placeScreen();
+    ClearStatePoint();
+    btnCALCULATE.disable();
+    RepaintForm();
+}
+
+AirPropertiesTexts AirPropertiesCalc::texts() const
+{
+    return {.txtTdb = txtTdb.text(),
+            .txtTwb = txtTwb.text(),
+            .txttd = txttd.text(),
+            .txtRH = txtRH.text(),
+            .txtW = txtW.text(),
+            .txtGrains = txtGrains.text(),
+            .txtSpVol = txtSpVol.text(),
+            .txth = txth.text()};
+}
+
+void AirPropertiesCalc::mnuPrintDialog_Click() { PrintAirProperties(*this, texts()); }
+void AirPropertiesCalc::mnuSave_Click() { SaveAirProperties(*this, texts()); }

@@ -1,0 +1,144 @@
+#include "screens/CoolingLoad1.h"
+
+#include "core/CoolingLoads.h"
+#include "core/MainMod.h"
+#include "platform/forms/Forms.h"
+#include "reports/CoolingReport.h"
+#include "screens/CoolingLoad2.h"
+#include "screens/CoolingLoad3.h"
+#include "screens/Rows.h"
+#include "screens/cfmForm.h"
+
+#include <QVBoxLayout>
+#include <QWidget>
+
+CoolingLoad1::CoolingLoad1() : AirPanel("CoolingLoad1", coolingLoad1)
+{
+    setCaption("Cooling Load Calculation (Adiabatic)");
+    layOut();
+    buildMenus();
+    setDefaultButton(btnCALCULATE);
+    btnSaveEA.onClick([this] { btnSaveEA_Click(); });
+    btnSetLA.onClick([this] { btnSetLA_Click(); });
+    btnCalcLoad.onClick([this] { btnCalcLoad_Click(); });
+}
+
+void CoolingLoad1::layOut()
+{
+    for (Frame* emphasised : {&Frame6, &Frame2, &Frame1})
+        emphasised->setBold();
+    auto* const panel = new QWidget(area());
+    layOutActions({&btnCALCULATE, &btnSaveEA, &btnSetLA, &btnCalcLoad});
+    layOutFrames(*panel);
+    auto* const whole = new QVBoxLayout(area());
+    whole->addWidget(Frame6.widget());
+    whole->addWidget(panel, 1);
+    showAsBanner(Frame6);
+}
+
+void CoolingLoad1::buildMenus()
+{
+    mnuFile.add(mnuPrintDialog);
+    mnuFile.add(mnuSave);
+    mnuFile.add(mnusep2);
+    mnuFile.add(mnuExit);
+    mnuHelp1.add(mnuHelpCooling);
+    mnuHelp1.add(mnuHSearch);
+    mnuHelp1.add(mnuAbout);
+    addToMenuBar(mnuFile);
+    addToMenuBar(mnuMain1);
+    addToMenuBar(mnuHelp1);
+
+    mnuPrintDialog.onClick([this] { mnuPrintDialog_Click(); });
+    mnuSave.onClick([this] { mnuSave_Click(); });
+    mnuExit.onClick([this] { mnuExit_Click(); });
+    mnuMain1.onClick([this] { mnuMain1_Click(); });
+    mnuHelpCooling.setShortcut("F1");
+    for (MenuCommand* later : {&mnuHelpCooling, &mnuHSearch, &mnuAbout})
+        later->disable(); // until there are a help file and an about box
+}
+
+// The state isn't cleared: this screen opens on whatever the last one left.
+void CoolingLoad1::Form_Load()
+{
+    placeScreen();
+    for (Button* button : {&btnCALCULATE, &btnSaveEA, &btnSetLA, &btnCalcLoad})
+        button->disable();
+    LeavingAirAccepted = False16;
+    RepaintForm();
+}
+
+void CoolingLoad1::btnSaveEA_Click()
+{
+    form<cfmForm>().ShowModal();
+    CoolingEnteringAir = AirSnapshot::of(StatePoint, AirVolume);
+    CoolingEnteringAir.td = RoundToScale(StatePoint.td, 10); // of all snapshots this dew point alone
+    for (Button* button : {&btnCALCULATE, &btnSaveEA, &btnCalcLoad})
+        button->disable();
+    btnSetLA.enable();
+    btnSetLA.takeFocus();
+    Frame6.setCaption("Verify Entering Air Conditions ... then click Set Leaving Air");
+}
+
+void CoolingLoad1::btnSetLA_Click()
+{
+    form<CoolingLoad2>().ShowModal();
+    if (LeavingAirAccepted == False16)
+        return;
+    showLeavingEntry();
+    if (LeavingWetBulbGiven == False16)
+        SolveFromW(); // a refusal is not looked at
+    else
+        SolveFromWetBulb();
+    Results2Form();
+    if (!txtTdb.isEmpty() && !txtW.isEmpty())
+        keepLeavingAir();
+}
+
+void CoolingLoad1::showLeavingEntry()
+{
+    const bool hasWetBulb = LeavingWetBulbGiven != False16;
+    StatePoint.Tdb = CoolingLeavingAir.Tdb;
+    txtTdb.setText(PlainText(StatePoint.Tdb));
+    if (hasWetBulb) {
+        StatePoint.Twb = CoolingLeavingAir.Twb;
+        txtTwb.setText(PlainText(StatePoint.Twb));
+    } else {
+        StatePoint.W = CoolingLeavingAir.W;
+        txtW.setText(PlainText(StatePoint.W));
+    }
+    StatePoint.P = CoolingLeavingAir.P;
+    txtP.setCaption(PlainText(StatePoint.P)); // in Metric Pa beside " kPa", until the next repaint
+    txtRH.clear();
+    (hasWetBulb ? txtW : txtTwb).clear();
+    txtGrains.clear();
+    txttd.clear();
+    txth.clear();
+    txtSpVol.clear();
+}
+
+void CoolingLoad1::keepLeavingAir()
+{
+    CoolingLeavingAir = AirSnapshot::of(StatePoint, AirVolume);
+    Frame6.setCaption("Cooling Coil Leaving Air Conditions:");
+    Frame1.setCaption(""); // nothing gives these two back
+    Frame2.setCaption("");
+    for (Button* button : {&btnCALCULATE, &btnSaveEA, &btnSetLA})
+        button->disable();
+    btnCalcLoad.enable();
+    btnCalcLoad.takeFocus();
+}
+
+void CoolingLoad1::btnCalcLoad_Click()
+{
+    CalculateCoolingLoads();
+    btnCalcLoad.disable();
+    auto& summary = form<CoolingLoad3>();
+    summary.txtBTU[1].setText(FormatNumber(SensibleLoad, "#,###.#"));
+    summary.txtBTU[2].setText(FormatNumber(LatentLoad, "#,###.#"));
+    summary.txtBTU[0].setText(FormatNumber(TotalLoad, "#,###.#"));
+    summary.ShowModal();
+}
+
+void CoolingLoad1::mnuPrintDialog_Click() { PrintCooling(*this); }
+void CoolingLoad1::mnuSave_Click() { SaveCooling(*this); }

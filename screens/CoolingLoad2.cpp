@@ -1,0 +1,156 @@
+#include "screens/CoolingLoad2.h"
+
+#include "core/CoolingLoads.h"
+#include "core/MainMod.h"
+#include "screens/Rows.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QWidget>
+
+CoolingLoad2::CoolingLoad2() : Form("CoolingLoad2", FormKind::Dialog)
+{
+    setCaption("Cooling Leaving Air Temp");
+    layOut();
+    txtLATdb.onChange([this] { txtLATdb_Change(); });
+    txtLATdb.onKeyPress([this](int& key) { txtLATdb_KeyPress(key); });
+    btnOK.onClick([this] { btnOK_Click(); });
+    btnCancel.onClick([this] { btnCancel_Click(); });
+}
+
+void CoolingLoad2::layOut()
+{
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(10);
+    buttons->addStretch();
+    buttons->addWidget(btnOK.widget());
+    buttons->addWidget(btnCancel.widget());
+
+    Label1.setWrapped();
+    Label1.widget()->setMinimumHeight(Label1.widget()->fontMetrics().height() * 2);
+    auto* const grid = new QGridLayout(area());
+    grid->setContentsMargins(20, 20, 20, 20);
+    grid->setVerticalSpacing(12);
+    grid->setHorizontalSpacing(12);
+    grid->addWidget(Label1.widget(), 0, 0, 1, 3);
+    grid->addWidget(Label2.widget(), 1, 0);
+    grid->addWidget(txtLATdb.widget(), 1, 1);
+    grid->addWidget(Label3.widget(), 1, 2);
+    grid->addWidget(Label4.widget(), 2, 0);
+    grid->addWidget(txtLATwb.widget(), 2, 1);
+    grid->addWidget(Label5.widget(), 2, 2);
+    grid->setColumnMinimumWidth(1, Label1.widget()->fontMetrics().averageCharWidth() * 16);
+    grid->setColumnMinimumWidth(2, Label1.widget()->fontMetrics().averageCharWidth() * 20);
+    grid->setRowMinimumHeight(3, 8);
+    grid->addLayout(buttons, 4, 0, 1, 3);
+    txtLATdb.alignRight();
+    txtLATwb.alignRight();
+    Label2.describe(txtLATdb);
+    Label4.describe(txtLATwb);
+}
+
+// The dialog's right edge meets that of the calculator behind it.
+void CoolingLoad2::Form_Load()
+{
+    fitToControls();
+    moveTo(Screen::width() / 2 + 8000 / 2 - width(), Screen::height() / 4 + 6600 / 2 - height() + 500);
+}
+
+void CoolingLoad2::Form_Activate()
+{
+    for (Label* unit : {&Label3, &Label5})
+        unit->setCaption(IsMetric() ? "° C" : "° F");
+    nameWithUnit(txtLATdb, "Leaving air dry bulb", Label3);
+    nameWithUnit(txtLATwb, "Leaving air wet bulb", Label5);
+}
+
+// By the close box neither flag changes, so that a former acceptance counts once more.
+void CoolingLoad2::Form_QueryUnload(CloseReason reason)
+{
+    if (reason == CloseReason::ControlMenu)
+        Unload();
+}
+
+void CoolingLoad2::txtLATdb_Change()
+{
+    if (txtLATdb.isEmpty())
+        txtLATwb.clear();
+}
+
+/// Above the dew point no wet bulb is needed. At it none is needed either, but the focus stays.
+void CoolingLoad2::txtLATdb_KeyPress(int& key)
+{
+    if (key != Key::Enter && key != Key::Tab)
+        return;
+    if (ParseSingle(txtLATdb.text()) > CoolingEnteringAir.td)
+        btnOK.takeFocus();
+}
+
+void CoolingLoad2::refuse(const char* message)
+{
+    Label1.setCaption(message);
+    LeavingAirAccepted = False16;
+    LeavingWetBulbGiven = False16;
+}
+
+void CoolingLoad2::btnOK_Click()
+{
+    if (txtLATdb.isEmpty()) {
+        LeavingAirAccepted = False16;
+        LeavingWetBulbGiven = False16;
+        return;
+    }
+    const Single d = ParseSingle(txtLATdb.text());
+    const Single w = ParseSingle(txtLATwb.text()); // 0 counts as blank
+    const Single T = CoolingEnteringAir.Tdb;
+    const Single D = CoolingEnteringAir.td;
+
+    if (d >= T)
+        refuse("Leaving Air Temperature must be less than the Entering Air Temperature");
+    else if (d < D && d > -40 && w == 0)
+        refuse("Since the L.A.T. Dry Bulb is less than the Dew Point, you must enter a L.A.T. Wet Bulb.");
+    else if (d >= D && d < T && w == 0)
+        acceptDry(d);
+    else if (d >= D && d < T)
+        acceptWet(d, w, ToAbsolute);
+    else if (d < D && d > -40)
+        acceptWet(d, w, FahrenheitToRankine); // in Metric too; the solver works these values out again
+    // Below the dew point and at or below -40 nothing happens, and nothing is said.
+}
+
+void CoolingLoad2::acceptDry(Single dryBulb)
+{
+    StatePoint.Tdb = dryBulb;
+    CoolingLeavingAir.Tdb = StatePoint.Tdb;
+    StatePoint.W = CoolingEnteringAir.W;
+    CoolingLeavingAir.W = CoolingEnteringAir.W;
+    StatePoint.P = CoolingEnteringAir.P;
+    CoolingLeavingAir.P = CoolingEnteringAir.P;
+    LeavingAirAccepted = True16;
+    LeavingWetBulbGiven = False16;
+    Unload();
+}
+
+void CoolingLoad2::acceptWet(Single dryBulb, Single wetBulb, Single (*toAbsolute)(Single))
+{
+    StatePoint.Tdb = dryBulb;
+    StatePoint.Twb = wetBulb;
+    CoolingLeavingAir.Twb = wetBulb;
+    CoolingLeavingAir.Tdb = dryBulb;
+    StatePoint.P = CoolingEnteringAir.P;
+    CoolingLeavingAir.P = CoolingEnteringAir.P;
+    StatePoint.PwsWet = SaturationPressure(toAbsolute(wetBulb));
+    StatePoint.Pws = SaturationPressure(toAbsolute(dryBulb));
+    StatePoint.WsWet = HumidityRatioFromVaporPressure(StatePoint.PwsWet.asSingle(), StatePoint.P.asSingle());
+    StatePoint.W = HumidityRatioFromWetBulb(wetBulb, dryBulb, StatePoint.WsWet);
+    CoolingLeavingAir.W = StatePoint.W.asSingle();
+    LeavingAirAccepted = True16;
+    LeavingWetBulbGiven = True16;
+    Unload();
+}
+
+void CoolingLoad2::btnCancel_Click()
+{
+    LeavingAirAccepted = False16;
+    Unload();
+}

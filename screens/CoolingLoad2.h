@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/forms/Button.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/TextField.h"
+
+/// The dialog that asks for the air leaving a cooling coil. It sorts the entry against the entering air into
+/// refused, dry or wet, and leaves its verdict and its numbers to the calculator behind it.
+class CoolingLoad2 : public Form
+{
+public:
+    CoolingLoad2();
+
+protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_QueryUnload(CloseReason reason) override;
+
+private:
+    void layOut();
+
+    void txtLATdb_Change();
+    void txtLATdb_KeyPress(int& key);
+    void btnOK_Click();
+    void btnCancel_Click();
+
+    void refuse(const char* message);
+    void acceptDry(float dryBulb);
+    void acceptWet(float dryBulb, float wetBulb, float (*toAbsolute)(float));
+
+    Label Label1{*this, "Label1",
+                 "Enter the desired Cooling Leaving Air Temperature, then Enter or Tab key:"};
+    Label Label2{*this, "Label2", " L.A.T.(dry bulb):"};
+    TextField txtLATdb{*this, "txtLATdb"};
+    Label Label3{*this, "Label3"};
+    Label Label4{*this, "Label4", " L.A.T.(wet bulb):"};
+    TextField txtLATwb{*this, "txtLATwb"};
+    Label Label5{*this, "Label5"};
+    Button btnOK{*this, "btnOK", "OK"};
+    Button btnCancel{*this, "btnCancel", "CANCEL"};
+};

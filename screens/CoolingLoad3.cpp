@@ -1,0 +1,102 @@
+#include "screens/CoolingLoad3.h"
+
+#include "core/MainMod.h"
+#include "platform/forms/Forms.h"
+#include "screens/CoolingLoad1.h"
+#include "screens/Rows.h"
+
+#include <QGridLayout>
+#include <QWidget>
+
+CoolingLoad3::CoolingLoad3() : Form("CoolingLoad3", FormKind::Dialog)
+{
+    setCaption("Dunmoor  -  Cooling Load Calculation");
+    layOut();
+    Command1.onClick([this] { Command1_Click(); });
+}
+
+void CoolingLoad3::layOut()
+{
+    enum Column
+    {
+        Words,
+        Sign,
+        Value,
+        Unit,
+        Factor
+    };
+    auto* const grid = new QGridLayout(area());
+    grid->setContentsMargins(24, 24, 24, 20);
+    grid->setVerticalSpacing(12);
+    grid->setHorizontalSpacing(12);
+    const auto addRow = [grid](int row, Label& before, Column column, TextField& field, Label& unit) {
+        before.alignRight();
+        field.alignRight();
+        before.describe(field);
+        grid->addWidget(before.widget(), row, column);
+        grid->addWidget(field.widget(), row, Value);
+        grid->addWidget(unit.widget(), row, Unit);
+    };
+    addRow(0, Label2, Words, txtcfm1, lblcfm1);
+    grid->setRowMinimumHeight(1, 10);
+    addRow(2, Label1, Words, txtBTU[1], lblBTU[1]);
+    grid->addWidget(Label3.widget(), 2, Factor);
+    addRow(3, Label4, Sign, txtBTU[2], lblBTU[2]);
+    grid->addWidget(Line1.widget(), 4, Sign, 1, Unit - Sign + 1);
+    addRow(5, Label5, Sign, txtBTU[0], lblBTU[0]);
+    grid->setRowMinimumHeight(6, 10);
+    grid->addWidget(Command1.widget(), 7, Value);
+    grid->setColumnMinimumWidth(Value, Label1.widget()->fontMetrics().averageCharWidth() * 18);
+    for (Label* sign : {&Label4, &Label5})
+        sign->setPointSize(12);
+    setTabOrder({&txtcfm1, &txtBTU[1], &txtBTU[2], &txtBTU[0], &Command1});
+}
+
+/// Tab goes down the sum, not along the indexes of its fields.
+void CoolingLoad3::setTabOrder(std::initializer_list<Control*> fromTheTop)
+{
+    const Control* before = nullptr;
+    for (const Control* next : fromTheTop) {
+        if (before != nullptr)
+            QWidget::setTabOrder(before->widget(), next->widget());
+        before = next;
+    }
+}
+
+void CoolingLoad3::Form_Load()
+{
+    setBackColour(Colours::LightGrey);
+    RepaintCooling3();
+    fitToControls();
+    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 4);
+    txtcfm1.setText(FormatNumber(AirVolume, "#,###.0#")); // as held: the text of the dialog, or 0
+}
+
+void CoolingLoad3::RepaintCooling3()
+{
+    const bool isMetric = IsMetric();
+    setCaption(isMetric ? " Cooling Load Summary - (Metric / SI Units)"
+                        : " Cooling Load Summary - (English Units)");
+    lblcfm1.setCaption(isMetric ? " cubic meter per hour " : " CFM ");
+    lblBTU[1].setCaption(isMetric ? " kW Sensible " : " BTU Sensible ");
+    lblBTU[2].setCaption(isMetric ? " kW Latent " : " BTU Latent ");
+    lblBTU[0].setCaption(isMetric ? " kW Total " : " BTU Total ");
+    Label3.setCaption(isMetric ? " @ 1.2072 kWh /m3 deg C " : " @ 1.08 BTU per CFM deg F ");
+    nameWithUnit(txtcfm1, "Air volume", lblcfm1);
+    nameWithUnit(txtBTU[1], "Sensible load", lblBTU[1]);
+    nameWithUnit(txtBTU[2], "Latent load", lblBTU[2]);
+    nameWithUnit(txtBTU[0], "Total load", lblBTU[0]);
+}
+
+void CoolingLoad3::Command1_Click()
+{
+    Unload();
+    form<CoolingLoad1>().Show();
+}
+
+void CoolingLoad3::Form_QueryUnload(CloseReason reason)
+{
+    Unload();
+    if (reason == CloseReason::ControlMenu)
+        form<CoolingLoad1>().Show();
+}

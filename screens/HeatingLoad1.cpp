@@ -1,0 +1,137 @@
+#include "screens/HeatingLoad1.h"
+
+#include "core/HeatingLoads.h"
+#include "core/MainMod.h"
+#include "platform/forms/Forms.h"
+#include "reports/HeatingReport.h"
+#include "screens/HeatingLoad2.h"
+#include "screens/Rows.h"
+#include "screens/cfmForm.h"
+
+#include <QVBoxLayout>
+#include <QWidget>
+
+HeatingLoad1::HeatingLoad1() : AirPanel("HeatingLoad1", heatingLoad1)
+{
+    setCaption("Heating Coil Load Calculation");
+    layOut();
+    buildMenus();
+    btnSaveEnteringAir.onClick([this] { btnSaveEnteringAir_Click(); });
+    btnInputLeavingAir.onClick([this] { btnInputLeavingAir_Click(); });
+    txtAirVolume.onChange([this] { txtAirVolume_Change(); });
+    txtHeatLoad.onKeyPress([this](int& key) { txtHeatLoad_KeyPress(key); });
+}
+
+void HeatingLoad1::layOut()
+{
+    auto* const panel = new QWidget(area());
+    layOutActions({&btnCALCULATE, &btnSaveEnteringAir, &btnInputLeavingAir});
+    layOutPairs(Frame4, {{txtAirVolume, lblAirVolume}, {txtHeatLoad, lblHeatLoad}});
+    layOutFrames(*panel, &Frame4);
+    auto* const whole = new QVBoxLayout(area());
+    whole->addWidget(Frame6.widget());
+    whole->addWidget(panel, 1);
+    showAsBanner(Frame6);
+    for (TextField* field : {&txtAirVolume, &txtHeatLoad}) {
+        field->setBackColour(Colours::LightCyan);
+        field->setForeColour(Colours::Black);
+        field->leaveTabOrder();
+    }
+    for (TextField* field : {&txth, &txtSpVol}) {
+        field->setBackColour(Colours::LightYellow);
+        field->setForeColour(Colours::Black);
+    }
+    nameWithUnit(txtAirVolume, "Air volume", lblAirVolume);
+    nameWithUnit(txtHeatLoad, "Heating load", lblHeatLoad);
+}
+
+void HeatingLoad1::buildMenus()
+{
+    mnuFile.add(mnuPrintDialog);
+    mnuFile.add(mnuSave);
+    mnuFile.add(mnuFiledash2);
+    mnuFile.add(mnuExit);
+    mnuHelp1.add(mnuHelpHeat);
+    mnuHelp1.add(mnuHSearch);
+    mnuHelp1.add(mnuAbout);
+    addToMenuBar(mnuFile);
+    addToMenuBar(mnuMain1);
+    addToMenuBar(mnuHelp1);
+
+    mnuPrintDialog.onClick([this] { mnuPrintDialog_Click(); });
+    mnuSave.onClick([this] { mnuSave_Click(); });
+    mnuExit.onClick([this] { mnuExit_Click(); });
+    mnuMain1.onClick([this] { mnuMain1_Click(); });
+    for (MenuCommand* later : {&mnuHelpHeat, &mnuHSearch, &mnuAbout})
+        later->disable(); // until there are a help file and an about box
+}
+
+void HeatingLoad1::Form_Load()
+{
+    ClearStatePoint();
+    placeScreen();
+    form<cfmForm>();
+    for (Button* button : {&btnCALCULATE, &btnSaveEnteringAir, &btnInputLeavingAir})
+        button->disable();
+    RepaintForm();
+}
+
+// It turns nothing off: the entering air can be saved again with another volume.
+void HeatingLoad1::btnSaveEnteringAir_Click()
+{
+    form<cfmForm>().ShowModal();
+    txtAirVolume.setText(PlainText(AirVolume));
+    HeatingEnteringAir = AirSnapshot::of(StatePoint, AirVolume);
+    lblAirVolume.setCaption(IsMetric() ? " cubic meter per hour " : " CFM air flow ");
+    nameWithUnit(txtAirVolume, "Air volume", lblAirVolume);
+    txtAirVolume.show();
+}
+
+// An edit reaches the leaving air and the mixed air's record, never the entering air or the load.
+void HeatingLoad1::txtAirVolume_Change()
+{
+    if (txtAirVolume.isEmpty())
+        return;
+    AirVolume = txtAirVolume.text();
+    MixedOutsideAir.AirVolume = AirVolume.asSingle();
+}
+
+void HeatingLoad1::txtHeatLoad_KeyPress(int& key) { key = Key::Swallowed; }
+
+// Runs on where the dialog was closed by its box: then Metric divides the load once more.
+void HeatingLoad1::btnInputLeavingAir_Click()
+{
+    if (txtTdb.isEmpty())
+        txtTdb.setText("0");
+    if (txtTwb.isEmpty())
+        txtTwb.setText("0");
+    form<HeatingLoad2>().ShowModal();
+    SolveFromW(); // a refusal is not looked at
+    if (!txtTdb.isEmpty() && !txtW.isEmpty())
+        HeatingLeavingAir = AirSnapshot::of(StatePoint, AirVolume);
+    showLoad();
+}
+
+void HeatingLoad1::showLoad()
+{
+    if (IsMetric()) {
+        lblHeatLoad.setCaption(" kW Heating Load ");
+        HeatingLoadValue = HeatingLoadValue / 3600;
+        HeatingLoadSingle = HeatingLoadValue.asSingle();
+        txtHeatLoad.setText(FormatNumber(HeatingLoadValue, "#,###.##"));
+    } else {
+        HeatingLoadSingle = HeatingLoadValue.asSingle();
+        lblHeatLoad.setCaption(" BTU Heating Load ");
+        txtHeatLoad.setText(FormatNumber(HeatingLoadValue, "#,###"));
+    }
+    nameWithUnit(txtHeatLoad, "Heating load", lblHeatLoad);
+}
+
+void HeatingLoad1::showLeavingEntry(Single tdb, Single w)
+{
+    txtTdb.setText(PlainText(tdb));
+    txtW.setText(PlainText(w)); // in Metric kg/kg, where the next calculation reads g/kg
+}
+
+void HeatingLoad1::mnuPrintDialog_Click() { PrintHeating(*this); }
+void HeatingLoad1::mnuSave_Click() { SaveHeating(*this); }

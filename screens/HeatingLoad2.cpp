@@ -1,0 +1,62 @@
+#include "screens/HeatingLoad2.h"
+
+#include "core/HeatingLoads.h"
+#include "core/MainMod.h"
+#include "platform/forms/Forms.h"
+#include "screens/HeatingLoad1.h"
+#include "screens/Rows.h"
+
+#include <QGridLayout>
+#include <QWidget>
+
+HeatingLoad2::HeatingLoad2() : Form("HeatingLoad2", FormKind::Dialog)
+{
+    setCaption("Leaving Air Temp");
+    layOut();
+    btnOK.onClick([this] { btnOK_Click(); });
+}
+
+void HeatingLoad2::layOut()
+{
+    auto* const grid = new QGridLayout(area());
+    grid->setContentsMargins(24, 24, 24, 20);
+    grid->setVerticalSpacing(10);
+    grid->setHorizontalSpacing(12);
+    grid->addWidget(Label1.widget(), 0, 0, 1, 3);
+    grid->addWidget(Label3.widget(), 1, 0);
+    grid->addWidget(txtHeatLAT.widget(), 1, 1);
+    grid->addWidget(Label2.widget(), 1, 2);
+    grid->setColumnMinimumWidth(1, Label1.widget()->fontMetrics().averageCharWidth() * 14);
+    grid->setRowMinimumHeight(2, 12);
+    grid->addWidget(btnOK.widget(), 3, 2);
+    txtHeatLAT.alignRight();
+    txtHeatLAT.setBackColour(Colours::LightYellow);
+    txtHeatLAT.setForeColour(Colours::Black);
+    Label3.describe(txtHeatLAT);
+    nameWithUnit(txtHeatLAT, "Leaving air temperature", Label2);
+}
+
+void HeatingLoad2::Form_Load()
+{
+    fitToControls();
+    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 4);
+}
+
+void HeatingLoad2::Form_QueryUnload(CloseReason reason)
+{
+    if (reason == CloseReason::ControlMenu)
+        Unload();
+}
+
+// With no entering air saved the mass flow divides by zero, and nothing guards against it.
+void HeatingLoad2::btnOK_Click()
+{
+    HeatingLeavingAir.W = HeatingEnteringAir.W; // the coil adds no moisture
+    const TaggedNumber massFlow = HeatingMassFlow();
+    HeatingLeavingAir.Tdb = ParseSingle(txtHeatLAT.text());
+    CalculateHeatingLoad(massFlow);
+    form<HeatingLoad1>().showLeavingEntry(HeatingLeavingAir.Tdb, HeatingLeavingAir.W);
+    StatePoint.Tdb = HeatingLeavingAir.Tdb;
+    StatePoint.W = HeatingLeavingAir.W;
+    Unload();
+}

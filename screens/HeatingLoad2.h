@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/forms/Button.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/TextField.h"
+
+/// The dialog that asks for the temperature of the air leaving a heating coil, and finds the load.
+class HeatingLoad2 : public Form
+{
+public:
+    HeatingLoad2();
+
+protected:
+    void Form_Load() override;
+    void Form_QueryUnload(CloseReason reason) override;
+
+private:
+    void layOut();
+    void btnOK_Click();
+
+    Label Label1{*this, "Label1", "Enter the desired Heating Coil"};
+    Label Label3{*this, "Label3", " Leaving Air Temperature:"};
+    TextField txtHeatLAT{*this, "txtHeatLAT"};
+    Label Label2{*this, "Label2", "degrees"}; // in both unit systems
+    Button btnOK{*this, "btnOK", "OK"};
+};

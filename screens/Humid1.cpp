@@ -1,0 +1,102 @@
+#include "screens/Humid1.h"
+
+#include "core/MainMod.h"
+#include "platform/forms/Forms.h"
+#include "reports/HumidityReport.h"
+#include "screens/Rows.h"
+#include "screens/Shell.h"
+#include "screens/humid2.h"
+
+#include <QVBoxLayout>
+#include <QWidget>
+
+Humid1::Humid1() : AirPanel("Humid1", humid1)
+{
+    setCaption("Humidifier Calculation");
+    layOut();
+    buildMenus();
+    btnHumidityDesired.onClick([this] { btnHumidityDesired_Click(); });
+}
+
+void Humid1::layOut()
+{
+    auto* const panel = new QWidget(area());
+    layOutActions({&btnCALCULATE, &btnHumidityDesired});
+    layOutFrames(*panel);
+    auto* const whole = new QVBoxLayout(area());
+    whole->addWidget(Frame6.widget());
+    whole->addWidget(panel, 1);
+    showAsBanner(Frame6);
+}
+
+void Humid1::buildMenus()
+{
+    mnuFile.add(mnuPrintDialog);
+    mnuFile.add(mnuSave);
+    mnuFile.add(mnuFiledash2);
+    mnuFile.add(mnuExit);
+    mnuHelp1.add(mnuHelpHumidity);
+    mnuHelp1.add(mnuHSearch);
+    mnuHelp1.add(mnuAbout);
+    addToMenuBar(mnuFile);
+    addToMenuBar(mnuMain1);
+    addToMenuBar(mnuHelp1);
+
+    mnuPrintDialog.onClick([this] { mnuPrintDialog_Click(); });
+    mnuSave.onClick([this] { mnuSave_Click(); });
+    mnuExit.onClick([this] { mnuExit_Click(); });
+    mnuMain1.onClick([this] { mnuMain1_Click(); });
+    for (MenuCommand* later : {&mnuHelpHumidity, &mnuHSearch, &mnuAbout})
+        later->disable(); // until there are a help file and an about box
+}
+
+void Humid1::Form_Load()
+{
+    ClearStatePoint();
+    placeScreen();
+    RepaintForm();
+    btnCALCULATE.disable();
+    btnHumidityDesired.disable();
+    form<humid2>();
+}
+
+void Humid1::afterResults() { SaveOutsideAir(); }
+
+/// All fields but the air volume, which this calculator never sets.
+void Humid1::SaveOutsideAir() { HumidOutsideAir = AirSnapshot::of(StatePoint, HumidOutsideAir.AirVolume); }
+
+void Humid1::btnHumidityDesired_Click() { form<humid2>().ShowModal(); }
+
+// The close box unloads the two forms in the other order than the menus do.
+void Humid1::Form_QueryUnload(CloseReason reason)
+{
+    if (reason == CloseReason::ControlMenu) {
+        form<humid2>().Unload();
+        Unload();
+        ShowMainForm();
+    }
+}
+
+void Humid1::mnuExit_Click()
+{
+    Unload();
+    form<humid2>().Unload();
+    ShowMainForm();
+}
+
+void Humid1::mnuMain1_Click()
+{
+    Unload();
+    form<humid2>().Unload();
+    ShowMainForm();
+}
+
+void Humid1::mnuPrintDialog_Click()
+{
+    PrintHumidity(*this, [] { return form<humid2>().texts(); });
+}
+
+void Humid1::mnuSave_Click()
+{
+    SaveHumidity(*this, [] { return form<humid2>().texts(); });
+}

@@ -1,0 +1,100 @@
+#include "screens/MixedAir.h"
+
+#include "core/MainMod.h"
+#include "platform/forms/Forms.h"
+#include "reports/MixedAirReport.h"
+#include "screens/Rows.h"
+#include "screens/cfmForm.h"
+
+MixedAir::MixedAir() : AirPanel("MixedAir", mixedAir)
+{
+    setCaption("Mixed Air Calculation");
+    layOut();
+    buildMenus();
+    btnSaveOSA.onClick([this] { btnSaveOSA_Click(); });
+    btnRA.onClick([this] { btnRA_Click(); });
+    btnMixedAir.onClick([this] { btnMixedAir_Click(); });
+    txtcfm1.onChange([this] { txtcfm1_Change(); });
+    txtCFM.onKeyPress([this](int& key) { txtCFM_KeyPress(key); });
+}
+
+void MixedAir::layOut()
+{
+    layOutActions({&btnCALCULATE, &btnSaveOSA, &btnRA, &btnMixedAir});
+    layOutPairs(Frame4, {{txtcfm1, lblcfm1}, {txtcfm2, lblcfm2}, {txtCFM, lblcfm3}});
+    layOutFrames(*area(), &Frame4);
+    Frame4.hide();
+}
+
+void MixedAir::buildMenus()
+{
+    mnuFile.add(mnuPrintDialog);
+    mnuFile.add(mnuSave);
+    mnuFile.add(mnuFiledash2);
+    mnuFile.add(mnuExit);
+    mnuReview.add(mnuReviewOutsideAir);
+    mnuReview.add(mnuReviewReturnAir);
+    mnuReview.add(mnuReviewMixedAir);
+    mnuHelp1.add(mnuHelpMixedAir);
+    mnuHelp1.add(mnuHSearch);
+    mnuHelp1.add(mnuAbout);
+    addToMenuBar(mnuFile);
+    addToMenuBar(mnuMain1);
+    addToMenuBar(mnuReview);
+    addToMenuBar(mnuHelp1);
+
+    mnuPrintDialog.onClick([this] { mnuPrintDialog_Click(); });
+    mnuSave.onClick([this] { mnuSave_Click(); });
+    mnuExit.onClick([this] { mnuExit_Click(); });
+    mnuMain1.onClick([this] { mnuMain1_Click(); });
+    mnuReviewOutsideAir.onClick([this] { mnuReviewOutsideAir_Click(); });
+    mnuReviewReturnAir.onClick([this] { mnuReviewReturnAir_Click(); });
+    mnuReview.hide();
+    mnuReview.disable();
+    mnuReviewMixedAir.disable(); // for good: the mixture has no review
+    for (MenuCommand* later : {&mnuHelpMixedAir, &mnuHSearch, &mnuAbout})
+        later->disable(); // until there are a help file and an about box
+}
+
+void MixedAir::Form_Load()
+{
+    ClearStatePoint();
+    RepaintForm();
+    placeScreen();
+    form<cfmForm>();
+    for (Button* button : {&btnCALCULATE, &btnRA, &btnSaveOSA, &btnMixedAir})
+        button->disable();
+    for (Label* label : {&lblcfm1, &lblcfm2, &lblcfm3})
+        label->hide();
+    for (TextField* field : {&txtcfm1, &txtcfm2, &txtCFM})
+        field->hide();
+    for (TextField* field : {&txtTdb, &txtTwb, &txttd, &txtRH, &txtW, &txtGrains, &txtSpVol, &txth})
+        field->clear();
+}
+
+void MixedAir::repaintExtras()
+{
+    const bool isMetric = IsMetric();
+    lblcfm1.setCaption(isMetric ? " m3/h Outside Air" : " Cfm Outside Air");
+    lblcfm2.setCaption(isMetric ? " m3/h Return Air" : " Cfm Return Air");
+    lblcfm3.setCaption(isMetric ? " m3/h Total Mixed Air" : " CFM Total Mixed Air");
+    nameWithUnit(txtcfm1, "Outside air volume", lblcfm1);
+    nameWithUnit(txtcfm2, "Return air volume", lblcfm2);
+    nameWithUnit(txtCFM, "Total air volume", lblcfm3);
+    // A calculation starts here: the grains typed in English are thrown away for those of the last one.
+    if (!isMetric)
+        txtGrains.setText(PlainText(StatePoint.Grains));
+}
+
+void MixedAir::txtcfm1_Change()
+{
+    if (txtcfm1.isEmpty())
+        return;
+    AirVolume = txtcfm1.text();
+    MixedOutsideAir.AirVolume = AirVolume.asSingle();
+}
+
+void MixedAir::txtCFM_KeyPress(int& key) { key = Key::Swallowed; }
+
+void MixedAir::mnuPrintDialog_Click() { PrintMixedAir(*this); }
+void MixedAir::mnuSave_Click() { SaveMixedAir(*this); }

@@ -1,0 +1,149 @@
+// The mixed air calculator's streams: saving them with their volumes, mixing them, reviewing them.
+
+#include "core/MainMod.h"
+#include "platform/forms/Forms.h"
+#include "platform/forms/MsgBox.h"
+#include "screens/Answers1.h"
+#include "screens/MixedAir.h"
+#include "screens/cfmForm.h"
+
+namespace {
+
+/// What a solver found, into a stream's snapshot. The fields not named here stay 0.
+void keepSolved(AirSnapshot& stream)
+{
+    stream.RH = StatePoint.RH.asSingle();
+    if (!IsMetric())
+        stream.Grains = StatePoint.Grains.asSingle();
+    stream.SpVol = StatePoint.SpVol.asSingle();
+    stream.h = StatePoint.h;
+    stream.td = StatePoint.td.asSingle();
+    stream.P = StatePoint.P.asSingle();
+    stream.Twb = StatePoint.Twb.asSingle();
+}
+
+void keepState(AirSnapshot& stream)
+{
+    keepSolved(stream);
+    stream.W = StatePoint.W.asSingle();
+    stream.Tdb = StatePoint.Tdb;
+}
+
+} // namespace
+
+// Cancel in the dialog saves the stream all the same, with a volume of 0.
+void MixedAir::btnSaveOSA_Click()
+{
+    form<cfmForm>().ShowModal();
+    lblcfm1.setCaption(IsMetric() ? " m3/h Outside Air" : " Cfm Outside Air");
+    if (AirVolume != 0) {
+        Frame4.show();
+        txtcfm1.setText(PlainText(AirVolume));
+    }
+    txtCFM.clear();
+    MixedOutsideAir.AirVolume = AirVolume.asSingle();
+    keepState(MixedOutsideAir);
+    offerReview(mnuReviewOutsideAir);
+    for (Label* label : {&lblcfm1, &lblcfm2, &lblcfm3})
+        label->show();
+    for (TextField* field : {&txtcfm1, &txtcfm2, &txtCFM})
+        field->show();
+    btnMixedAir.enable();
+}
+
+// The return air sets no caption and shows no volumes: only the outside air does. It alone offers its last
+// volume again.
+void MixedAir::btnRA_Click()
+{
+    if (MixedReturnAir.AirVolume > 0)
+        AirVolumePreset = MixedReturnAir.AirVolume;
+    form<cfmForm>().ShowModal();
+    if (AirVolume != 0) {
+        Frame4.show();
+        txtcfm2.setText(PlainText(AirVolume));
+    }
+    MixedReturnAir.AirVolume = AirVolume.asSingle();
+    txtCFM.clear();
+    keepState(MixedReturnAir);
+    offerReview(mnuReviewReturnAir);
+    btnMixedAir.enable();
+}
+
+void MixedAir::offerReview(MenuCommand& stream)
+{
+    mnuReview.enable();
+    mnuReview.show();
+    stream.enable();
+    stream.show();
+}
+
+void MixedAir::btnMixedAir_Click()
+{
+    try {
+        mix();
+    } catch (const RunTimeError&) {
+        // A missing stream divides by zero: nothing more happens, and nothing is said.
+    }
+}
+
+/// Adiabatic mixing: humidity ratio and enthalpy are the means of the streams by their mass of dry air.
+/// The volumes are added as they stand.
+void MixedAir::mix()
+{
+    const AirSnapshot& outside = MixedOutsideAir;
+    const AirSnapshot& back = MixedReturnAir;
+    MixedResultAir.AirVolume = (TaggedNumber(back.AirVolume) + outside.AirVolume).asSingle();
+    if (MixedResultAir.AirVolume <= 0) {
+        MsgBox("Air Volumes Must First Be Entered Before Attempting to calculate mixed air!");
+        return;
+    }
+    // Tagged numbers that hold singles: each product, sum and quotient is rounded to single.
+    const TaggedNumber outsideMass = TaggedNumber(outside.AirVolume) / outside.SpVol;
+    const TaggedNumber returnMass = TaggedNumber(back.AirVolume) / back.SpVol;
+    const TaggedNumber mass = returnMass + outsideMass;
+    StatePoint.W = (outside.W * outsideMass + back.W * returnMass) / (returnMass + outsideMass);
+    if (!IsMetric())
+        StatePoint.Grains = 7000 * StatePoint.W;
+    StatePoint.h = ((outside.h * outsideMass + back.h * returnMass) / mass).asSingle();
+    StatePoint.Tdb = DryBulbFromEnthalpy(StatePoint.h, StatePoint.W.asSingle());
+    txtTdb.setText(PlainText(StatePoint.Tdb));
+    txtCFM.setText(PlainText(MixedResultAir.AirVolume));
+
+    SolveFromW(); // at the pressure of the last calculation; a refusal is not looked at
+    keepState(MixedResultAir);
+    Hide();
+    showAnswers();
+}
+
+void MixedAir::showAnswers()
+{
+    auto& answers = form<Answers1>();
+    answers.setCaption("Mixed Air Properties");
+    answers.fill();
+    answers.Show();
+}
+
+void MixedAir::showStream(const AirSnapshot& stream, TextField& volume)
+{
+    volume.setText(PlainText(stream.AirVolume));
+    txtTdb.setText(PlainText(stream.Tdb));
+    txtW.setText(PlainText(stream.W));
+    StatePoint.Tdb = stream.Tdb;
+    StatePoint.W = stream.W;
+    SolveFromW(); // fails for a stream that was never saved, and nothing guards against it
+}
+
+void MixedAir::mnuReviewOutsideAir_Click()
+{
+    showStream(MixedOutsideAir, txtcfm1);
+    keepSolved(MixedOutsideAir);
+    Results2Form();
+}
+
+void MixedAir::mnuReviewReturnAir_Click()
+{
+    showStream(MixedReturnAir, txtcfm2);
+    txtCFM.clear(); // the outside air's review leaves it alone
+    keepSolved(MixedReturnAir);
+    Results2Form();
+}

@@ -1,0 +1,211 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+/// A number that differs between the two unit systems.
+struct ByUnits
+{
+    double english;
+    double metric;
+
+    double value(bool isMetric) const { return isMetric ? metric : english; }
+};
+
+/// The label in front of a field.
+struct RowLabel
+{
+    const char* name;
+    const char* caption;
+};
+
+/// The labels of the nine rows.
+struct PanelLabels
+{
+    RowLabel tdb;
+    RowLabel pressure;
+    RowLabel wetBulb;
+    RowLabel dewPoint;
+    RowLabel relativeHumidity;
+    RowLabel humidityRatio;
+    RowLabel grains;
+    RowLabel enthalpy;
+    RowLabel specificVolume;
+};
+
+/// Names of a form's own buttons; unused places are empty.
+using ButtonNames = std::array<std::string_view, 3>;
+
+/// In what the calculators with an air-state panel differ: one row for each form.
+struct PanelRules
+{
+    std::string_view captionEnglish;
+    std::string_view captionMetric;
+    /// The unit beside the humidity ratio in Metric.
+    std::string_view metricHumidityUnit;
+
+    const PanelLabels& labels;
+    const char* actions;
+    const char* dryBulbFrame;
+
+    /// Whether all five humidity fields have a change handler, or the wet bulb and the dew point alone.
+    bool allItemsTellChanges;
+    /// Whether Enter leads from the dry bulb to the wet bulb, and pressing the mouse on the relative humidity
+    /// or the grains already selects them.
+    bool hasEntryShortcuts;
+    /// Whether a click on the dry bulb throws its value away.
+    bool clickEmptiesTdb;
+    /// Whether Metric refuses a dry bulb above 50 degrees.
+    bool limitsMetricTdb;
+    /// How far below the dry bulb a wet bulb or dew point is set that isn't below it.
+    ByUnits wetBulbClip;
+    ByUnits dewPointClip;
+
+    ButtonNames offOnChange;          ///< turned off by the change of a humidity field
+    ButtonNames offOnClick;           ///< turned off by a click on a humidity field
+    ButtonNames offAtCalculation;     ///< turned off where a calculation begins
+    ButtonNames offAfterwards;        ///< turned off after the solver, also where it refused
+    ButtonNames onAfterwards;         ///< turned on there
+    std::string_view focusAfterwards; ///< what then gets the focus
+};
+
+inline constexpr PanelLabels plainLabels{
+    .tdb = {"lblTdb1", " Dry Bulb Temp"},
+    .pressure = {"lblP1", " Pressure"},
+    .wetBulb = {"lblTwb1", " Wet Bulb Temp"},
+    .dewPoint = {"lblDewPt1", " Dew Point Temp"},
+    .relativeHumidity = {"lblRH1", " Relative Humidity"},
+    .humidityRatio = {"lblW1", " Humidity ratio, W"},
+    .grains = {"lblGrains1", " Humidity ratio, gr"},
+    .enthalpy = {"lblEnthalpy1", "enthalpy, h"},
+    .specificVolume = {"lblSpVol1", "specific volume, v"},
+};
+
+inline constexpr PanelRules airPropertiesCalc{
+    .captionEnglish = " Air Properties Calculator - (English Units)",
+    .captionMetric = " Air Properties Calculator - (Metric Units)",
+    .metricHumidityUnit = " g moisture/kg dry air",
+    .labels = plainLabels,
+    .actions = "Actions:",
+    .dryBulbFrame = "First Enter Dry Bulb Temperature and Pressure:",
+    .allItemsTellChanges = true,
+    .hasEntryShortcuts = true,
+    .clickEmptiesTdb = false,
+    .limitsMetricTdb = true,
+    .wetBulbClip = {.english = 0.01, .metric = 0.01},
+    .dewPointClip = {.english = 0.01, .metric = 0.01},
+    .offOnChange = {},
+    .offOnClick = {},
+    .offAtCalculation = {},
+    .offAfterwards = {},
+    .onAfterwards = {},
+    .focusAfterwards = {},
+};
+
+inline constexpr PanelLabels mixedAirLabels{
+    .tdb = {"lblTdb1", " Dry Bulb Temp"},
+    .pressure = {"lblP1", " Pressure"},
+    .wetBulb = {"lblTwb1", " Wet Bulb Temp"},
+    .dewPoint = {"lblDewPt1", " Dew Point Temp"},
+    .relativeHumidity = {"lblRH1", " Relative Humidity"},
+    .humidityRatio = {"lblW1", " Humidity Ratio, W"},
+    .grains = {"lblGrains1", " Humidity Ratio, gr"},
+    .enthalpy = {"lblEnthalpy1", " Enthalpy, h"},
+    .specificVolume = {"lblSpVol1", " Specific Volume, v"},
+};
+
+inline constexpr PanelRules mixedAir{
+    .captionEnglish = " Adiabatic Mixing of Moist Air - (English Units)",
+    .captionMetric = " Adiabatic Mixing of Moist Air - (Metric Units)",
+    .metricHumidityUnit = " g water/kg dry air",
+    .labels = mixedAirLabels,
+    .actions = "Actions:",
+    .dryBulbFrame = "First Enter Dry Bulb Temperature and Pressure:",
+    .allItemsTellChanges = false,
+    .hasEntryShortcuts = false,
+    .clickEmptiesTdb = false,
+    .limitsMetricTdb = false, // up to 125 degrees pass in Metric too
+    .wetBulbClip = {.english = 0.1, .metric = 0.05},
+    .dewPointClip = {.english = 0.1, .metric = 0.1},
+    .offOnChange = {"btnRA", "btnSaveOSA", "btnMixedAir"},
+    .offOnClick = {"btnRA", "btnSaveOSA", "btnMixedAir"},
+    .offAtCalculation = {},
+    .offAfterwards = {},
+    .onAfterwards = {"btnSaveOSA", "btnRA"},
+    .focusAfterwards = {},
+};
+
+inline constexpr PanelLabels coolingLabels{
+    .tdb = {"Label1", " Dry Bulb Temp"},
+    .pressure = {"Label3", "Pressure"},
+    .wetBulb = {"Label2", " Wet Bulb Temp"},
+    .dewPoint = {"Label16", " Dew Point Temp"},
+    .relativeHumidity = {"Label12", " Relative Humidity"},
+    .humidityRatio = {"Label17", " Humidity Ratio, W"},
+    .grains = {"lblGrains1", " Humidity Ratio, gr"},
+    .enthalpy = {"Label24", " Enthalpy, h"},
+    .specificVolume = {"Label8", " Specific Volume, v"},
+};
+
+inline constexpr PanelRules coolingLoad1{
+    .captionEnglish = " Cooling of Moist Air - (English Units)",
+    .captionMetric = " Cooling of Moist Air - (Metric / SI Units)",
+    .metricHumidityUnit = " g water/kg dry air",
+    .labels = coolingLabels,
+    .actions = "",
+    .dryBulbFrame = "Enter Entering Air Dry Bulb Temperature:",
+    .allItemsTellChanges = true,
+    .hasEntryShortcuts = false,
+    .clickEmptiesTdb = false,
+    .limitsMetricTdb = true,
+    .wetBulbClip = {.english = 0.01, .metric = 0.01},
+    .dewPointClip = {.english = 0.01, .metric = 0.01},
+    .offOnChange = {},
+    .offOnClick = {"btnSaveEA", "btnSetLA", "btnCalcLoad"},
+    .offAtCalculation = {"btnSetLA", "btnCalcLoad"},
+    .offAfterwards = {"btnCALCULATE"},
+    .onAfterwards = {"btnSaveEA"},
+    .focusAfterwards = "btnSaveEA",
+};
+
+inline constexpr PanelRules heatingLoad1{
+    .captionEnglish = " Heating Load Calculator - (English Units)",
+    .captionMetric = " Heating Load Calculator - (Metric Units)",
+    .metricHumidityUnit = " g moisture/kg dry air",
+    .labels = plainLabels,
+    .actions = "Actions:",
+    .dryBulbFrame = "First Enter Dry Bulb Temperature and Pressure:",
+    .allItemsTellChanges = true,
+    .hasEntryShortcuts = false,
+    .clickEmptiesTdb = true,
+    .limitsMetricTdb = true,
+    .wetBulbClip = {.english = 0.1, .metric = 0.05},
+    .dewPointClip = {.english = 0.1, .metric = 0.1},
+    .offOnChange = {},
+    .offOnClick = {"btnSaveEnteringAir", "btnInputLeavingAir"},
+    .offAtCalculation = {},
+    .offAfterwards = {"btnCALCULATE"},
+    .onAfterwards = {"btnSaveEnteringAir", "btnInputLeavingAir"},
+    .focusAfterwards = {},
+};
+
+inline constexpr PanelRules humid1{
+    .captionEnglish = " Humidification Calculation - (English Units)",
+    .captionMetric = " Humidification Calculation - (Metric Units)",
+    .metricHumidityUnit = " g moisture/kg dry air",
+    .labels = plainLabels,
+    .actions = "Actions :",
+    .dryBulbFrame = "Enter Outside Air Dry Bulb Temperature and Pressure:",
+    .allItemsTellChanges = true,
+    .hasEntryShortcuts = false,
+    .clickEmptiesTdb = false,
+    .limitsMetricTdb = true,
+    .wetBulbClip = {.english = 0.1, .metric = 0.05},
+    .dewPointClip = {.english = 0.1, .metric = 0.1},
+    .offOnChange = {},
+    .offOnClick = {"btnHumidityDesired"},
+    .offAtCalculation = {},
+    .offAfterwards = {"btnCALCULATE"},
+    .onAfterwards = {"btnHumidityDesired"},
+    .focusAfterwards = {},
+};

@@ -1,0 +1,79 @@
+#include "screens/Rows.h"
+
+#include <QGridLayout>
+#include <QString>
+#include <QWidget>
+
+namespace {
+
+// Widths that hold the longest text of each column, the clip warnings among the units.
+constexpr int captionCharacters = 20;
+constexpr int fieldCharacters = 16;
+constexpr int unitCharacters = 28;
+
+int widthOf(const QWidget& widget, int characters)
+{
+    return widget.fontMetrics().averageCharWidth() * characters;
+}
+
+int rowHeight(const QWidget& widget) { return widget.fontMetrics().height() * 2; }
+
+} // namespace
+
+void addRow(QGridLayout& grid, int line, const Row& row)
+{
+    int column = 0;
+    for (QWidget* const cell : {row.caption.widget(), row.field.widget(), row.unit.widget()}) {
+        cell->setFixedHeight(rowHeight(*cell));
+        grid.addWidget(cell, line, column++);
+    }
+    row.caption.describe(row.field);
+}
+
+void layOutInFrame(Frame& frame, const std::vector<Row>& rows)
+{
+    auto* const grid = new QGridLayout(frame.widget());
+    grid->setVerticalSpacing(11);
+    grid->setHorizontalSpacing(10);
+    grid->setContentsMargins(16, 14, 16, 14);
+    int line = 0;
+    for (const Row& row : rows)
+        addRow(*grid, line++, row);
+    grid->setRowStretch(line, 1);
+    grid->setColumnMinimumWidth(0, widthOf(*frame.widget(), captionCharacters));
+    grid->setColumnMinimumWidth(1, widthOf(*frame.widget(), fieldCharacters));
+    grid->setColumnMinimumWidth(2, widthOf(*frame.widget(), unitCharacters));
+    grid->setColumnStretch(2, 1);
+}
+
+void layOutPairs(Frame& frame, const std::vector<Pair>& pairs)
+{
+    auto* const grid = new QGridLayout(frame.widget());
+    grid->setVerticalSpacing(6);
+    grid->setContentsMargins(14, 12, 14, 14);
+    int line = 0;
+    for (const Pair& pair : pairs) {
+        pair.field.widget()->setFixedHeight(rowHeight(*pair.field.widget()));
+        pair.field.alignRight();
+        grid->addWidget(pair.unit.widget(), line++, 0);
+        grid->addWidget(pair.field.widget(), line++, 0);
+    }
+}
+
+void showAsBanner(Frame& frame)
+{
+    frame.widget()->setFixedHeight(frame.widget()->fontMetrics().height() * 2);
+}
+
+void colourEntry(TextField& field, Colour colour)
+{
+    field.setBackColour(colour);
+    field.setForeColour(Colours::Black);
+    field.alignRight();
+}
+
+void nameWithUnit(Control& field, const std::string& what, const Label& unit)
+{
+    const QString unitText = QString::fromStdString(unit.caption()).trimmed();
+    field.setAccessibleName(unitText.isEmpty() ? what : what + ", " + unitText.toStdString());
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/forms/Frame.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/TextField.h"
+
+#include <string>
+#include <vector>
+
+class QGridLayout;
+
+/// One row of a frame: a caption, the field that it describes, the unit beside it.
+struct Row
+{
+    Label& caption;
+    Control& field;
+    Label& unit;
+};
+
+/// A field with its unit alone.
+struct Pair
+{
+    TextField& field;
+    Label& unit;
+};
+
+/// Adds one row to a grid of captions, fields and units.
+void addRow(QGridLayout& grid, int line, const Row& row);
+
+/// Lays rows out in a frame, so that captions, fields and units of all frames line up.
+void layOutInFrame(Frame& frame, const std::vector<Row>& rows);
+
+/// Lays fields out under one another, each with its unit.
+void layOutPairs(Frame& frame, const std::vector<Pair>& pairs);
+
+/// Shapes a frame that holds nothing: its caption is a line of instruction across the form.
+void showAsBanner(Frame& frame);
+
+/// Gives a field a light back colour, black text on it, and its value the right place.
+void colourEntry(TextField& field, Colour colour);
+
+/// Calls a field by what it is and the unit that stands beside it.
+void nameWithUnit(Control& field, const std::string& what, const Label& unit);

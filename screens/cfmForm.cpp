@@ -1,0 +1,73 @@
+#include "screens/cfmForm.h"
+
+#include "core/MainMod.h"
+#include "screens/Rows.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QWidget>
+
+cfmForm::cfmForm() : Form("cfmForm", FormKind::Dialog)
+{
+    setCaption("Air Volume Input");
+    layOut();
+    mnuHelp.add(mnuSearch);
+    addToMenuBar(mnuHelp);
+    mnuSearch.disable(); // until there is a help file
+    btnOK.onClick([this] { btnOK_Click(); });
+    btnCancel.onClick([this] { btnCancel_Click(); });
+    setDefaultButton(btnOK);
+}
+
+void cfmForm::layOut()
+{
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(10);
+    buttons->addStretch();
+    buttons->addWidget(btnOK.widget());
+    buttons->addWidget(btnCancel.widget());
+
+    auto* const grid = new QGridLayout(area());
+    grid->setContentsMargins(20, 20, 20, 20);
+    grid->setVerticalSpacing(14);
+    grid->setHorizontalSpacing(12);
+    grid->addWidget(Label1.widget(), 0, 0, 1, 2);
+    grid->addWidget(txtCFMinput.widget(), 1, 0);
+    grid->addWidget(label2.widget(), 1, 1);
+    grid->setColumnMinimumWidth(0, label2.widget()->fontMetrics().averageCharWidth() * 18);
+    grid->setColumnMinimumWidth(1, label2.widget()->fontMetrics().averageCharWidth() * 24);
+    grid->setRowMinimumHeight(2, 8);
+    grid->addLayout(buttons, 3, 0, 1, 2);
+    txtCFMinput.alignRight();
+    Label1.describe(txtCFMinput);
+}
+
+void cfmForm::Form_Load()
+{
+    fitToControls();
+    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 2);
+}
+
+void cfmForm::Form_Activate()
+{
+    txtCFMinput.takeFocus();
+    label2.setCaption(IsMetric() ? " cubic meter per hour" : " CFM ");
+    if (AirVolumePreset > 0)
+        txtCFMinput.setText(PlainText(AirVolumePreset));
+    nameWithUnit(txtCFMinput, "Air volume", label2);
+}
+
+void cfmForm::btnOK_Click()
+{
+    if (txtCFMinput.isEmpty())
+        AirVolume = 0;
+    else
+        AirVolume = txtCFMinput.text();
+    Hide();
+}
+
+void cfmForm::btnCancel_Click()
+{
+    AirVolume = 0;
+    Hide();
+}

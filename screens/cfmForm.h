@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/forms/Button.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/Menu.h"
+#include "platform/forms/TextField.h"
+
+/// The dialog that asks for one air volume and leaves the answer in AirVolume: the text as it was typed,
+/// which its readers convert, or the integer 0. Its buttons hide it, so that it offers the same text again.
+class cfmForm : public Form
+{
+public:
+    cfmForm();
+
+protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+
+private:
+    void layOut();
+
+    void btnOK_Click();
+    void btnCancel_Click();
+
+    Label Label1{*this, "Label1", "Enter the Air Volume:"};
+    TextField txtCFMinput{*this, "txtCFMinput"};
+    Label label2{*this, "label2"};
+    Button btnOK{*this, "btnOK", "OK"};
+    Button btnCancel{*this, "btnCancel", "Cancel"};
+
+    Menu mnuHelp{*this, "mnuHelp", "&Help"};
+    MenuCommand mnuSearch{*this, "mnuSearch", "&Search for Help on ..."};
+};

@@ -1,0 +1,136 @@
+#include "screens/humid2.h"
+
+#include "core/Humidification.h"
+#include "core/MainMod.h"
+
+humid2::humid2() : Form("humid2", FormKind::Screen)
+{
+    setCaption("Humidity Inputs");
+    layOut();
+    buildMenus();
+    btnCalcHumid.onClick([this] { btnCalcHumid_Click(); });
+    btnOK.onClick([this] { btnOK_Click(); });
+}
+
+void humid2::buildMenus()
+{
+    mnuFile.add(mnuPrint);
+    mnuFile.add(mnuSave);
+    mnuFile.add(mnuSpacer);
+    mnuFile.add(mnuExit);
+    mnuHelp.add(mnuHumid2Help);
+    mnuHelp.add(mnuSearch);
+    mnuHelp.add(mnuAbout);
+    addToMenuBar(mnuFile);
+    addToMenuBar(mnuMain);
+    addToMenuBar(mnuHelp);
+
+    mnuPrint.onClick([this] { mnuPrint_Click(); });
+    mnuSave.onClick([this] { mnuSave_Click(); });
+    mnuExit.onClick([this] { mnuExit_Click(); });
+    mnuMain.onClick([this] { mnuMain_Click(); });
+    for (MenuCommand* later : {&mnuHumid2Help, &mnuSearch, &mnuAbout})
+        later->disable(); // until there are a help file and an about box
+}
+
+void humid2::Form_Load()
+{
+    setSize(8000, 6600);
+    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 4);
+    RepaintHumid2();
+}
+
+void humid2::Form_QueryUnload(CloseReason reason)
+{
+    if (reason == CloseReason::ControlMenu)
+        Unload();
+}
+
+void humid2::RepaintHumid2()
+{
+    const bool isMetric = IsMetric();
+    setCaption(isMetric ? " Humidity Calculation Settings - (Metric Units - SI)"
+                        : " Humidity Calculation Setting - (English Units)");
+    lblRH.setCaption(" % RH");
+    lblT.setCaption(isMetric ? " deg. C" : " deg. F");
+    lblSpaceVol.setCaption(isMetric ? " cubic meters" : " cubic feet (ft3)");
+    lblAC.setCaption(isMetric ? "  AC" : " AC");
+    lblOSAFlow1.setCaption(isMetric ? " cubic meters per hour" : " Cubic Feet per Minute (CFM)");
+    lblOSAFlow2.setCaption(isMetric ? " cubic meters per hour" : " ft3 per min.");
+    lblMassPerHour.setCaption(isMetric ? " kg per hour" : " lb. per hr.");
+    lblFlowPerHour.setCaption(isMetric ? " liters per hour" : " gal. per hr.");
+    lblMassPerDay.setCaption(isMetric ? " kg per day" : " lb. per day");
+    lblFlowPerDay.setCaption(isMetric ? " liters per day" : " gal. per day");
+    nameFields();
+}
+
+// Any failure ends the handler without a word, and the outputs keep what they showed.
+void humid2::btnCalcHumid_Click()
+{
+    try {
+        solveDesiredAir();
+        showMoisture();
+    } catch (const RunTimeError&) {
+        // What was written before the failure stays.
+    }
+}
+
+void humid2::solveDesiredAir()
+{
+    HumidDesiredAir.Tdb = ParseSingle(txtDesT.text());
+    StatePoint.Tdb = HumidDesiredAir.Tdb;
+    StatePoint.RH = ParseSingle(txtDesH.text());
+    StatePoint.RH = StatePoint.RH / 100;
+    HumidDesiredAir.RH = StatePoint.RH.asSingle();
+    HumidDesiredAir.P = HumidOutsideAir.P;
+    StatePoint.P = HumidDesiredAir.P;
+    SolveDesiredAir();
+}
+
+void humid2::showMoisture()
+{
+    const TaggedNumber spaceVolume = ParseSingle(txtVol.text());
+    const TaggedNumber airChanges = ParseSingle(txtAC.text());
+    const TaggedNumber infiltration = airChanges * spaceVolume;
+    const TaggedNumber outsideAir = ParseSingle(txtOSA.text());
+    const bool outsideAirCounts = outsideAir > infiltration.asDouble(); // a tie takes the infiltration
+    const MoistureRequired moisture = RequiredMoisture(outsideAirCounts ? outsideAir : infiltration);
+
+    const char* const massPicture = IsMetric() ? "#0.000" : "#0.00";
+    txtMassPerHour.setText(FormatNumber(moisture.massPerHour, massPicture));
+    txtMassPerDay.setText(FormatNumber(moisture.massPerDay, massPicture));
+    txtFlowPerHour.setText(FormatNumber(moisture.flowPerHour, "#0.00"));
+    txtFlowPerDay.setText(FormatNumber(moisture.flowPerDay, "#0.00"));
+}
+
+HumidityTexts humid2::texts() const
+{
+    return {.txtVol = txtVol.text(),
+            .txtAC = txtAC.text(),
+            .txtOSA = txtOSA.text(),
+            .txtMassPerHour = txtMassPerHour.text(),
+            .txtMassPerDay = txtMassPerDay.text(),
+            .txtFlowPerHour = txtFlowPerHour.text(),
+            .txtFlowPerDay = txtFlowPerDay.text(),
+            .lblSpaceVol = lblSpaceVol.caption(),
+            .lblAC = lblAC.caption(),
+            .lblOSAFlow2 = lblOSAFlow2.caption(),
+            .lblMassPerHour = lblMassPerHour.caption(),
+            .lblMassPerDay = lblMassPerDay.caption(),
+            .lblFlowPerHour = lblFlowPerHour.caption(),
+            .lblFlowPerDay = lblFlowPerDay.caption()};
+}
+
+void humid2::btnOK_Click() { Hide(); }
+void humid2::mnuExit_Click() { Unload(); }
+void humid2::mnuMain_Click() { Unload(); } // leads back to the outside air, in spite of its caption
+
+void humid2::mnuPrint_Click()
+{
+    PrintHumidity(*this, [this] { return texts(); });
+}
+
+void humid2::mnuSave_Click()
+{
+    SaveHumidity(*this, [this] { return texts(); });
+}

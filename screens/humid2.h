@@ -1,0 +1,90 @@
+#pragma once
+
+#include "platform/forms/Button.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Frame.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/Menu.h"
+#include "platform/forms/TextField.h"
+#include "reports/HumidityReport.h"
+
+/// The humidification calculator's second screen: the air that is wanted, how much of it, and the water that
+/// it takes.
+class humid2 : public Form
+{
+public:
+    humid2();
+
+    /// What stands on the form, for the report.
+    HumidityTexts texts() const;
+
+protected:
+    void Form_Load() override;
+    void Form_QueryUnload(CloseReason reason) override;
+
+private:
+    void layOut();
+    int captionWidth() const;
+    void layOutDesired();
+    void layOutQuantities();
+    void layOutMoisture();
+    void buildMenus();
+    void RepaintHumid2();
+    void nameFields();
+
+    void btnCalcHumid_Click();
+    void btnOK_Click();
+    void mnuPrint_Click();
+    void mnuSave_Click();
+    void mnuExit_Click();
+    void mnuMain_Click();
+
+    void solveDesiredAir();
+    void showMoisture();
+
+    Frame Frame2{*this, "Frame2", "Enter Desired Humidity and Temperature:"};
+    Label Label13{*this, "Label13", "  Desired Space Temperature           "};
+    TextField txtDesT{*this, "txtDesT"};
+    Label lblT{*this, "lblT"};
+    Label Label1{*this, "Label1", "  Desired Relative Humidity                 "};
+    TextField txtDesH{*this, "txtDesH"};
+    Label lblRH{*this, "lblRH"};
+
+    Frame Frame1{*this, "Frame1"};
+    Label Label17{*this, "Label17", "Next, Enter either Infiltration parameters or Volume of Outside Air"};
+    Label Label8{*this, "Label8", "Natural Infiltration :"};
+    Label Label2{*this, "Label2", "  Volume of Space               "};
+    TextField txtVol{*this, "txtVol"};
+    Label lblSpaceVol{*this, "lblSpaceVol"};
+    Label Label3{*this, "Label3", "  Estimated Air Changes (outside air)"};
+    TextField txtAC{*this, "txtAC"};
+    Label lblAC{*this, "lblAC"};
+    Label Label16{*this, "Label16", "or Volume of Outside Air:"};
+    Label lblOSAFlow1{*this, "lblOSAFlow1"};
+    TextField txtOSA{*this, "txtOSA"};
+    Label lblOSAFlow2{*this, "lblOSAFlow2"};
+
+    Frame Frame3{*this, "Frame3", "Required Moisture :"};
+    TextField txtMassPerHour{*this, "txtMassPerHour"};
+    Label lblMassPerHour{*this, "lblMassPerHour"};
+    TextField txtMassPerDay{*this, "txtMassPerDay"};
+    Label lblMassPerDay{*this, "lblMassPerDay"};
+    TextField txtFlowPerHour{*this, "txtFlowPerHour"};
+    Label lblFlowPerHour{*this, "lblFlowPerHour"};
+    TextField txtFlowPerDay{*this, "txtFlowPerDay"};
+    Label lblFlowPerDay{*this, "lblFlowPerDay"};
+
+    Button btnCalcHumid{*this, "btnCalcHumid", "Click Here to Calculate Humidification"};
+    Button btnOK{*this, "btnOK", "Click Here When Done"};
+
+    Menu mnuFile{*this, "mnuFile", "&File"};
+    MenuCommand mnuPrint{*this, "mnuPrint", "&Print Results"};
+    MenuCommand mnuSave{*this, "mnuSave", "&Save Results to File"};
+    MenuSeparator mnuSpacer{*this, "mnuSpacer"};
+    MenuCommand mnuExit{*this, "mnuExit", "E&xit"};
+    MenuCommand mnuMain{*this, "mnuMain", "&Main Menu"};
+    Menu mnuHelp{*this, "mnuHelp", "&Help"};
+    MenuCommand mnuHumid2Help{*this, "mnuHumid2Help", "Help for Humidity"};
+    MenuCommand mnuSearch{*this, "mnuSearch", "&Search for Help on ..."};
+    MenuCommand mnuAbout{*this, "mnuAbout", "&About Dunmoor"};
+};

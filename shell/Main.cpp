@@ -1,0 +1,3 @@
+#include "shell/Program.h"
+
+int main(int /*argumentCount*/, char* arguments[]) { return RunProgram(arguments[0]); }

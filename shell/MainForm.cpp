@@ -1,0 +1,151 @@
+#include "shell/MainForm.h"
+
+#include "core/MainMod.h"
+#include "platform/forms/Forms.h"
+#include "screens/AirPropertiesCalc.h"
+#include "screens/CoolingLoad1.h"
+#include "screens/HeatingLoad1.h"
+#include "screens/Humid1.h"
+#include "screens/MixedAir.h"
+#include "screens/Shell.h"
+#include "shell/ChartPicture.h"
+#include "shell/Settings.h"
+#include "shell/Store.h"
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+#include <QWidget>
+
+void ShowMainForm() { form<MainForm>().Show(); }
+
+MainForm::MainForm() : Form("MainForm", FormKind::Screen), Image1(*this, "Image1", paintChart)
+{
+    setCaption("Dunmoor");
+    layOut();
+    buildMenus();
+    btnAirCalc.onClick([this] { btnAirCalc_Click(); });
+    btnMixedAir.onClick([this] { btnMixedAir_Click(); });
+    btnCooling.onClick([this] { btnCooling_Click(); });
+    btnHeating.onClick([this] { btnHeating_Click(); });
+    btnHumidity.onClick([this] { btnHumidity_Click(); });
+}
+
+void MainForm::layOut()
+{
+    lblProductName.setFontSize(240, true);
+    lblProduct.setFontSize(130, false);
+    Image1.setAccessibleName("Psychrometric chart");
+    btnAirCalc.setToolTip("Psychrometric Calculation");
+    btnMixedAir.setToolTip("Calculate Properties of a Mixture of 2 Air Volumes");
+    btnCooling.setToolTip("Calculate Cooling Coil Loads");
+    btnHeating.setToolTip("Calculate Heating Coil Loads");
+    btnHumidity.setToolTip("Calculate Humidification Requirements");
+
+    auto* const buttons = new QVBoxLayout;
+    buttons->setSpacing(14);
+    for (Button* button : {&btnAirCalc, &btnMixedAir, &btnCooling, &btnHeating, &btnHumidity}) {
+        button->widget()->setMinimumHeight(button->widget()->fontMetrics().height() * 5 / 2);
+        buttons->addWidget(button->widget());
+    }
+    buttons->addStretch();
+
+    auto* const grid = new QGridLayout(area());
+    grid->setContentsMargins(28, 20, 28, 28);
+    grid->setHorizontalSpacing(28);
+    grid->addWidget(lblProductName.widget(), 0, 0, 1, 2);
+    grid->addWidget(lblProduct.widget(), 1, 0, 1, 2);
+    grid->setRowMinimumHeight(2, 16);
+    grid->addLayout(buttons, 3, 0);
+    grid->addWidget(Image1.widget(), 3, 1);
+    grid->setColumnStretch(1, 1);
+    grid->setColumnMinimumWidth(0, 190);
+    grid->setRowStretch(3, 1);
+}
+
+void MainForm::buildMenus()
+{
+    mnuFile.add(mnuExit);
+    mnuHelp.add(mnuHSearch);
+    mnuHelp.add(mnuAbout);
+    addToMenuBar(mnuFile);
+    addToMenuBar(mnuOptions);
+    addToMenuBar(mnuHelp);
+
+    mnuExit.onClick([this] { mnuExit_Click(); });
+    mnuOptions.onClick([this] { mnuOptions_Click(); });
+    for (MenuCommand* later : {&mnuHSearch, &mnuAbout})
+        later->disable(); // until there are a help file and an about box
+}
+
+void MainForm::Form_Load()
+{
+    setSize(8000, 6600);
+    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 4);
+    UnitSystem = ParseBoolean(StoredText("Metric_Units", "false"));
+    const std::string pressure =
+        IsMetric() ? StoredText("Pressure_kPa", defaultKPa) : StoredText("Pressure_psi", defaultPsi);
+    BaroPressure = RoundToSingle(ParseDouble(pressure));
+    FillUnitTables();
+}
+
+void MainForm::Form_Activate()
+{
+    // Coming back to the menu needs nothing done.
+}
+
+void MainForm::Form_QueryUnload(CloseReason reason)
+{
+    if (reason == CloseReason::ControlMenu) {
+        Unload();
+        endProcess();
+    }
+}
+
+void MainForm::Form_Unload()
+{
+    StoreText("Metric_Units", IsMetric() ? "True" : "False");
+    StoreText("Baro_Pressure", PlainText(BaroPressure)); // written for nobody: the options keep the pressure
+    Unload();
+}
+
+void MainForm::btnAirCalc_Click()
+{
+    Hide();
+    form<AirPropertiesCalc>().Show();
+}
+
+void MainForm::btnMixedAir_Click()
+{
+    Hide();
+    form<MixedAir>().Show();
+}
+
+void MainForm::btnCooling_Click()
+{
+    Hide();
+    form<CoolingLoad1>().Show();
+}
+
+void MainForm::btnHeating_Click()
+{
+    Hide();
+    form<HeatingLoad1>().Show();
+}
+
+void MainForm::btnHumidity_Click()
+{
+    Hide();
+    form<Humid1>().Show();
+}
+
+void MainForm::mnuExit_Click()
+{
+    Unload();
+    endProcess();
+}
+
+void MainForm::mnuOptions_Click()
+{
+    form<Settings>().ShowModal();
+    Image1.repaint(); // in the units and at the pressure that are in force now
+}

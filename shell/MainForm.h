@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/forms/Button.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/Menu.h"
+#include "platform/forms/Picture.h"
+
+/// The main menu: five buttons, one for each calculator. The process ends through this form alone.
+class MainForm : public Form
+{
+public:
+    MainForm();
+
+protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_QueryUnload(CloseReason reason) override;
+    void Form_Unload() override;
+
+private:
+    void layOut();
+    void buildMenus();
+
+    void btnAirCalc_Click();
+    void btnMixedAir_Click();
+    void btnCooling_Click();
+    void btnHeating_Click();
+    void btnHumidity_Click();
+    void mnuExit_Click();
+    void mnuOptions_Click();
+
+    Label lblProductName{*this, "lblProductName", "Dunmoor"};
+    Label lblProduct{*this, "lblProduct", "Psychrometric Calculator"};
+    Button btnAirCalc{*this, "btnAirCalc", "&Air Properties"};
+    Button btnMixedAir{*this, "btnMixedAir", "&Mixed Air"};
+    Button btnCooling{*this, "btnCooling", "&Cooling Load"};
+    Button btnHeating{*this, "btnHeating", "&Heating Load "};
+    Button btnHumidity{*this, "btnHumidity", "H&umidification"};
+    Picture Image1;
+
+    Menu mnuFile{*this, "mnuFile", "&File"};
+    MenuCommand mnuExit{*this, "mnuExit", "E&xit"};
+    MenuCommand mnuOptions{*this, "mnuOptions", "&Options"};
+    Menu mnuHelp{*this, "mnuHelp", "&Help"};
+    MenuCommand mnuHSearch{*this, "mnuHSearch", "&Search for Help on ..."};
+    MenuCommand mnuAbout{*this, "mnuAbout", "&About Dunmoor"};
+};

@@ -1,0 +1,50 @@
+#include "shell/Program.h"
+
+#include "core/MainMod.h"
+#include "platform/Desktop.h"
+#include "platform/forms/Forms.h"
+#include "platform/forms/MsgBox.h"
+#include "shell/MainForm.h"
+
+#include <QApplication>
+
+namespace {
+
+std::string describeFailure(const std::exception& failure)
+{
+    const auto* const known = dynamic_cast<const RunTimeError*>(&failure);
+    if (known == nullptr)
+        return failure.what();
+    return "Run-time error '" + std::to_string(known->number()) + "':\n" + known->what();
+}
+
+} // namespace
+
+void StartProgram()
+{
+    QCoreApplication::setApplicationName("Dunmoor");
+    QCoreApplication::setApplicationVersion("1.4.0");
+    QGuiApplication::setQuitOnLastWindowClosed(false); // the main menu alone ends the process
+
+    const NumberCharacters characters = UserNumberCharacters();
+    numberLocale = {.decimalPoint = characters.decimalPoint, .groupSeparator = characters.groupSeparator};
+    ShowCoreMessage = [](const std::string& text) { MsgBox(text); };
+    DescribeFailure = describeFailure;
+
+    HelpFile = ApplicationFolder() + "/dunmoor.chm";
+    form<MainForm>().Show();
+}
+
+int RunProgram(const char* executable)
+{
+    // The program has no command line; the toolkit's own options are not read either.
+    int argumentCount = 1;
+    std::string name = executable;
+    char* arguments[] = {name.data(), nullptr};
+
+    QApplication application(argumentCount, arguments);
+    StartProgram();
+    const int status = QApplication::exec();
+    FormRegistry::clear();
+    return status;
+}

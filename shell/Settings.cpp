@@ -1,0 +1,159 @@
+#include "shell/Settings.h"
+
+#include "core/MainMod.h"
+#include "platform/forms/MsgBox.h"
+#include "screens/Rows.h"
+#include "shell/Store.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QWidget>
+
+namespace {
+
+/// What the form does for one entry of its list.
+struct UnitChoice
+{
+    const char* entry;
+    Boolean16 unitSystem;
+    const char* unit;
+    double lowest;
+    double highest;
+    const char* refusal;
+    const char* storedFlag;
+    const char* storedUnder;
+    const char* readFrom;
+    double missing;  ///< what the field shows while nothing is stored
+    double standard; ///< what "Use Default Settings" sets
+};
+
+constexpr UnitChoice english{
+    .entry = "English, I-P",
+    .unitSystem = False16,
+    .unit = " psi",
+    .lowest = 11,
+    .highest = 16,
+    .refusal = "Please input an atmospheric pressure between 11 and 16 psi.",
+    .storedFlag = "False",
+    .storedUnder = "Pressure_psi",
+    .readFrom = "Pressure_Psi", // the same key: the store doesn't tell the cases apart
+    .missing = defaultPsi,
+    .standard = 14.696,
+};
+
+constexpr UnitChoice metric{
+    .entry = "Metric, SI",
+    .unitSystem = True16,
+    .unit = " kPa",
+    .lowest = 47,
+    .highest = 108,
+    .refusal = "Please input an atmospheric pressure between 47 and 108 kPa.",
+    .storedFlag = "True",
+    .storedUnder = "Pressure_kPa",
+    .readFrom = "Pressure_kPa",
+    .missing = defaultKPa,
+    .standard = 101.325, // another number than for a missing key, and both stand
+};
+
+/// The choice that an entry stands for; none for any other text.
+const UnitChoice* choiceOf(const std::string& entry)
+{
+    for (const UnitChoice* choice : {&english, &metric}) {
+        if (entry == choice->entry)
+            return choice;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Settings::Settings() : Form("Settings", FormKind::Dialog)
+{
+    setCaption("Options/Settings");
+    layOut();
+    Combo1.onClick([this] { Combo1_Click(); });
+    btnOK.onClick([this] { btnOK_Click(); });
+    btnCancel.onClick([this] { btnCancel_Click(); });
+    btnDefault.onClick([this] { btnDefault_Click(); });
+}
+
+void Settings::layOut()
+{
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(10);
+    buttons->addWidget(btnDefault.widget());
+    buttons->addStretch();
+    buttons->addWidget(btnOK.widget());
+    buttons->addWidget(btnCancel.widget());
+
+    auto* const grid = new QGridLayout(area());
+    grid->setContentsMargins(20, 20, 20, 20);
+    grid->setVerticalSpacing(14);
+    grid->setHorizontalSpacing(12);
+    grid->addWidget(lblUnits.widget(), 0, 0);
+    grid->addWidget(Combo1.widget(), 0, 1);
+    grid->addWidget(lblBP.widget(), 1, 0);
+    grid->addWidget(txtBP.widget(), 1, 1);
+    grid->addWidget(Label1.widget(), 1, 2);
+    grid->setColumnMinimumWidth(2, Label1.widget()->fontMetrics().averageCharWidth() * 6);
+    grid->setColumnStretch(1, 1);
+    grid->setRowMinimumHeight(2, 12);
+    grid->addLayout(buttons, 3, 0, 1, 3);
+
+    txtBP.alignRight();
+    lblUnits.describe(Combo1);
+    lblBP.describe(txtBP);
+    Combo1.setAccessibleName("Units");
+}
+
+void Settings::Form_Load()
+{
+    Combo1.addItem(english.entry);
+    Combo1.addItem(metric.entry);
+    Combo1.select(IsMetric() ? 1 : 0);
+    fitToControls();
+    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 2);
+}
+
+/// Shows what is stored for the chosen system, which need not be the pressure in force.
+void Settings::Combo1_Click()
+{
+    const UnitChoice& choice = Combo1.text() == english.entry ? english : metric;
+    Label1.setCaption(choice.unit);
+    txtBP.setText(StoredText(choice.readFrom, choice.missing));
+    nameField();
+}
+
+void Settings::nameField() { nameWithUnit(txtBP, "Barometric pressure", Label1); }
+
+void Settings::btnOK_Click()
+{
+    if (const UnitChoice* const choice = choiceOf(Combo1.text())) {
+        UnitSystem = choice->unitSystem; // before the check: a refused pressure leaves it in force
+        Label1.setCaption(choice->unit);
+        const double pressure = ParseDouble(txtBP.text());
+        if (pressure < choice->lowest || pressure > choice->highest) {
+            MsgBox(choice->refusal);
+            return;
+        }
+        StoreText("Metric_Units", choice->storedFlag);
+        StoreText(choice->storedUnder, txtBP.text());
+    }
+    BaroPressure = RoundToSingle(ParseDouble(txtBP.text()));
+    Unload();
+}
+
+/// Saves at once, whether or not the form is cancelled later.
+void Settings::btnDefault_Click()
+{
+    if (const UnitChoice* const choice = choiceOf(Combo1.text())) {
+        UnitSystem = choice->unitSystem;
+        Label1.setCaption(choice->unit);
+        StoreText("Metric_Units", choice->storedFlag);
+        StoreText(choice->storedUnder, PlainText(choice->standard));
+        BaroPressure = RoundToSingle(choice->standard);
+    }
+    txtBP.setText(PlainText(BaroPressure));
+}
+
+void Settings::btnCancel_Click() { Unload(); }

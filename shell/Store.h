@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+/// The program's keys in the user's settings store.
+///
+///   key             written by                     read by
+///   Metric_Units    options; end of the program    start
+///   Pressure_psi    options                        start; options, as Pressure_Psi (the same key)
+///   Pressure_kPa    options                        start; options
+///   Baro_Pressure   end of the program             nobody, and that is to stay
+std::string StoredText(const std::string& key, const std::string& defaultText);
+std::string StoredText(const std::string& key, double defaultNumber);
+void StoreText(const std::string& key, const std::string& text);
+
+/// What a missing pressure key stands for. The options' own Metric default is another number.
+constexpr double defaultPsi = 14.696;
+constexpr double defaultKPa = 101.352;

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/forms/Forms.h"
+
+/// A form without anything on it, to own a dialog.
+class AnyForm : public Form
+{
+public:
+    AnyForm() : Form("AnyForm", FormKind::Screen) {}
+};

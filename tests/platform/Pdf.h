@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QProcess>
+#include <QRegularExpression>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+/// What a program says about a PDF file. @throws std::runtime_error where it is missing or fails
+inline QString sayOf(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished() || process.exitCode() != 0)
+        throw std::runtime_error(program.toStdString() +
+                                 " failed: " + process.readAllStandardError().toStdString());
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+inline int pagesOf(const QString& file)
+{
+    const QRegularExpression pages("Pages:\\s+(\\d+)");
+    return pages.match(sayOf("pdfinfo", {file})).captured(1).toInt();
+}
+
+/// The text of a page in the order of reading, a line of the page a line of text, blanks between words as
+/// one.
+inline std::string textOf(const QString& file, int page = 1)
+{
+    const QString number = QString::number(page);
+    return sayOf("pdftotext", {"-f", number, "-l", number, "-layout", file, "-"})
+        .replace(QRegularExpression("[ ]+"), " ")
+        .replace(QRegularExpression("(^|\\n) "), "\\1")
+        .remove('\f')
+        .toStdString();
+}
+
+/// A word of a page with its box, in points from the upper left corner of the paper.
+struct Word
+{
+    QString text;
+    double left = 0;
+    double top = 0;
+    double right = 0;
+    double bottom = 0;
+};
+
+inline std::vector<Word> wordsOf(const QString& file)
+{
+    static const QRegularExpression word(
+        R"x(<word xMin="([^"]*)" yMin="([^"]*)" xMax="([^"]*)" yMax="([^"]*)">([^<]*)</word>)x");
+    std::vector<Word> words;
+    auto matches = word.globalMatch(sayOf("pdftotext", {"-bbox", file, "-"}));
+    while (matches.hasNext()) {
+        const auto match = matches.next();
+        words.push_back({.text = match.captured(5),
+                         .left = match.captured(1).toDouble(),
+                         .top = match.captured(2).toDouble(),
+                         .right = match.captured(3).toDouble(),
+                         .bottom = match.captured(4).toDouble()});
+    }
+    return words;
+}

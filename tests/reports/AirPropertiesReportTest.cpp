@@ -1,0 +1,146 @@
+#include "reports/AirPropertiesReport.h"
+#include "tests/platform/Pdf.h"
+#include "tests/reports/Reports.h"
+
+namespace {
+
+class AirPropertiesReport : public ReportCommandTest
+{
+protected:
+    std::string written(PercentReading reading = PercentReading::InDouble) const
+    {
+        return textOfReport([&](ReportWriter& report) { WriteAirPropertiesReport(report, fields, reading); });
+    }
+
+    /// The line of the relative humidity.
+    std::string humidityLine(PercentReading reading) const
+    {
+        const std::string text = written(reading);
+        const std::size_t start = text.find(" Relative");
+        return text.substr(start, text.find('\n', start) - start);
+    }
+
+    // 70 degrees Fahrenheit and 50 percent, as the calculator shows them
+    AirPropertiesTexts fields{.txtTdb = "70",
+                              .txtTwb = "58.44",
+                              .txttd = "50.5",
+                              .txtRH = "50.0",
+                              .txtW = "0.0077815",
+                              .txtGrains = "54.47",
+                              .txtSpVol = "13.5140",
+                              .txth = "25.309"};
+};
+
+TEST_F(AirPropertiesReport, ListsTheFieldsInEnglish)
+{
+    EXPECT_EQ(written(PercentReading::InDouble), expectedReport("air-properties-english"));
+    EXPECT_EQ(written(PercentReading::InSingle), expectedReport("air-properties-english"));
+}
+
+TEST_F(AirPropertiesReport, ListsTheFieldsInMetricWithoutTheGrains)
+{
+    inMetric();
+    fields = {.txtTdb = "21.0",
+              .txtTwb = "14.6",
+              .txttd = "10.2",
+              .txtRH = "50",
+              .txtW = "7.73",
+              .txtGrains = "54.1",
+              .txtSpVol = "0.844",
+              .txth = "40.77"};
+    EXPECT_EQ(written(), expectedReport("air-properties-metric"));
+}
+
+TEST_F(AirPropertiesReport, LeavesTheValueOfAnEmptyFieldEmpty)
+{
+    fields = AirPropertiesTexts();
+    fields.txtRH = "100.0";
+    EXPECT_EQ(written(), expectedReport("air-properties-blank"));
+}
+
+TEST_F(AirPropertiesReport, ShowsWhatIsNoNumberAsItStands)
+{
+    fields.txtTwb = "a text";
+    EXPECT_NE(written().find("\n Wet Bulb Temp =            a text         deg F\n"), std::string::npos);
+}
+
+TEST_F(AirPropertiesReport, StopsBeforeAHumidityThatIsNoNumber)
+{
+    const std::string whole = expectedReport("air-properties-english");
+    const std::string before = whole.substr(0, whole.find(" Relative"));
+    for (const char* text : {"", " ", "a text"}) {
+        fields.txtRH = text;
+        EXPECT_EQ(written(), before + "(Type mismatch)") << '"' << text << '"';
+    }
+    fields.txtRH = "1e39";
+    EXPECT_EQ(written(PercentReading::InSingle), before + "(Overflow)");
+}
+
+TEST_F(AirPropertiesReport, ReadsTheHumidityAsSingleForThePrinterAndAsDoubleForAFile)
+{
+    // 0.25 percent is half way between 0.2 and 0.3. A hundredth of it is 0.0025 as a double, to 15 digits,
+    // and rounds up; the single, 0.00249999994412065, lies below the half.
+    fields.txtRH = "0.25";
+    EXPECT_EQ(humidityLine(PercentReading::InDouble), " Relative Humidity =        0.3%");
+    EXPECT_EQ(humidityLine(PercentReading::InSingle), " Relative Humidity =        0.2%");
+}
+
+TEST_F(AirPropertiesReport, IsSavedToTheFileOfTheUsersChoice)
+{
+    dialogs.answer("SaveDialog", [this](QDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Save Data to File");
+        saveAs(file("report.txt"))(dialog);
+    });
+    SaveAirProperties(form<AnyForm>(), fields);
+    EXPECT_EQ(bytesOf(file("report.txt")), expectedReport("air-properties-english"));
+}
+
+TEST_F(AirPropertiesReport, IsSavedWithTheHumidityAsDouble)
+{
+    fields.txtRH = "0.25";
+    dialogs.answer("SaveDialog", saveAs(file("report.txt")));
+    SaveAirProperties(form<AnyForm>(), fields);
+    EXPECT_NE(bytesOf(file("report.txt")).find("0.3%"), std::string::npos);
+}
+
+TEST_F(AirPropertiesReport, IsPrintedThroughItsTemporaryFile)
+{
+    dialogs.answer("PrintDialog", printTo(file("report.pdf")));
+    PrintAirProperties(form<AnyForm>(), fields);
+    EXPECT_EQ(bytesOf(base + "/tempdata/Airprop.txt"), expectedReport("air-properties-english"));
+    const std::string printed = textOf(file("report.pdf"));
+    for (const char* words :
+         {"Calculated Psychrometric Properties", "Relative Humidity = 50.0%",
+          "Humidity Ratio (grains) = 54.5 grains", "Specific Volume = 13.514 ft3 per Lb."})
+        EXPECT_NE(printed.find(words), std::string::npos) << words << " in\n" << printed;
+}
+
+TEST_F(AirPropertiesReport, IsPrintedWithTheHumidityAsSingle)
+{
+    fields.txtRH = "0.25";
+    dialogs.answer("PrintDialog", printTo(file("report.pdf")));
+    PrintAirProperties(form<AnyForm>(), fields);
+    EXPECT_NE(bytesOf(base + "/tempdata/Airprop.txt").find("0.2%"), std::string::npos);
+}
+
+TEST_F(AirPropertiesReport, LeavesTheFirstLinesAndBlocksAllLaterReportsWhereTheHumidityIsEmpty)
+{
+    const std::string whole = expectedReport("air-properties-english");
+    fields.txtRH = "";
+    dialogs.answer("SaveDialog", saveAs(file("first.txt")));
+    SaveAirProperties(form<AnyForm>(), fields);
+    EXPECT_EQ(bytesOf(file("first.txt")), whole.substr(0, whole.find(" Relative")));
+
+    fields.txtRH = "50";
+    dialogs.answer("SaveDialog", saveAs(file("second.txt")));
+    SaveAirProperties(form<AnyForm>(), fields);
+    EXPECT_EQ(bytesOf(file("second.txt")), "(none)");
+
+    dialogs.answer("PrintDialog", printTo(file("report.pdf")));
+    PrintAirProperties(form<AnyForm>(), fields);
+    EXPECT_EQ(bytesOf(base + "/tempdata/Airprop.txt"), "(none)");
+    EXPECT_EQ(bytesOf(file("report.pdf")), "(none)");
+    EXPECT_EQ(dialogs.shown.size(), 3U); // each command still asks
+}
+
+} // namespace

@@ -1,0 +1,217 @@
+#include "reports/HumidityReport.h"
+#include "tests/platform/Pdf.h"
+#include "tests/reports/Reports.h"
+
+namespace {
+
+class HumidityReport : public ReportCommandTest
+{
+protected:
+    static inline HumidityTexts texts;
+    static inline int timesRead = 0;
+
+    static HumidityTexts read()
+    {
+        ++timesRead;
+        return texts;
+    }
+
+    static std::string printed()
+    {
+        return textOfReport([](ReportWriter& report) { WritePrintedHumidityReport(report, read); });
+    }
+    static std::string saved()
+    {
+        return textOfReport([](ReportWriter& report) { WriteSavedHumidityReport(report, read); });
+    }
+
+    /// The form as it is made, without numbers.
+    static void labelInEnglish()
+    {
+        texts = {};
+        texts.lblSpaceVol = " cubic feet (ft3)";
+        texts.lblAC = " AC";
+        texts.lblOSAFlow2 = " ft3 per min.";
+        texts.lblMassPerHour = " lb. per hr.";
+        texts.lblMassPerDay = " lb. per day";
+        texts.lblFlowPerHour = " gal. per hr.";
+        texts.lblFlowPerDay = " gal. per day";
+    }
+
+    static void labelInMetric()
+    {
+        inMetric();
+        texts = {};
+        texts.lblSpaceVol = " cubic meters";
+        texts.lblAC = "  AC";
+        texts.lblOSAFlow2 = " cubic meters per hour";
+        texts.lblMassPerHour = " kg per hour";
+        texts.lblMassPerDay = " kg per day";
+        texts.lblFlowPerHour = " liters per hour";
+        texts.lblFlowPerDay = " liters per day";
+    }
+
+    static void enterSpace(const char* volume, const char* airChanges, const char* outsideAir)
+    {
+        texts.txtVol = volume;
+        texts.txtAC = airChanges;
+        texts.txtOSA = outsideAir;
+    }
+
+    static void showMoisture(const char* massPerHour, const char* massPerDay, const char* flowPerHour,
+                             const char* flowPerDay)
+    {
+        texts.txtMassPerHour = massPerHour;
+        texts.txtMassPerDay = massPerDay;
+        texts.txtFlowPerHour = flowPerHour;
+        texts.txtFlowPerDay = flowPerDay;
+    }
+
+    static void solveAirInEnglish()
+    {
+        labelInEnglish();
+        HumidOutsideAir = {.Grains = 10.5F,
+                           .RH = 0.434F,
+                           .SpVol = 12.37F,
+                           .h = 8.82F,
+                           .W = 0.0015F,
+                           .td = 14.9F,
+                           .Twb = 26.1F,
+                           .Tdb = 30.0F};
+        HumidDesiredAir = {.Grains = 57.4F,
+                           .RH = 0.493F,
+                           .SpVol = 13.4F,
+                           .h = 26.25F,
+                           .W = 0.0082F,
+                           .td = 52.0F,
+                           .Twb = 60.3F,
+                           .Tdb = 72.0F};
+    }
+
+    static void solveAirInMetric()
+    {
+        labelInMetric();
+        HumidOutsideAir = {
+            .RH = 0.643F, .SpVol = 0.777F, .h = 6.25F, .W = 0.0025F, .td = -5.0F, .Twb = -2.25F};
+        HumidDesiredAir = {
+            .RH = 0.498F, .SpVol = 0.845F, .h = 41.7F, .W = 0.0079F, .td = 10.5F, .Twb = 14.9F, .Tdb = 21.5F};
+    }
+
+    static void runInEnglish()
+    {
+        solveAirInEnglish();
+        enterSpace("10000", "1.25", "500");
+        showMoisture("15.00", "360.00", "1.80", "43.14");
+    }
+
+    static void runInMetric()
+    {
+        solveAirInMetric();
+        enterSpace("1234.5", ".5", "2000");
+        showMoisture("12.300", "295.200", "12.30", "295.20");
+    }
+};
+
+TEST_F(HumidityReport, ListsAFullRun)
+{
+    runInEnglish();
+    EXPECT_EQ(printed(), expectedReport("humidity-run-printed-english"));
+    EXPECT_EQ(saved(), expectedReport("humidity-run-saved-english"));
+}
+
+TEST_F(HumidityReport, ListsAFullRunInMetricWithoutGrains)
+{
+    runInMetric();
+    EXPECT_EQ(printed(), expectedReport("humidity-run-printed-metric"));
+    EXPECT_EQ(saved(), expectedReport("humidity-run-saved-metric"));
+}
+
+TEST_F(HumidityReport, ShowsANegativeRequirement)
+{
+    solveAirInEnglish();
+    enterSpace("0", "0", "500");
+    showMoisture("-1234.50", "-29628.00", "-147.93", "-3550.39");
+    EXPECT_EQ(printed(), expectedReport("humidity-negative-printed-english"));
+    EXPECT_EQ(saved(), expectedReport("humidity-negative-saved-english"));
+}
+
+TEST_F(HumidityReport, ShowsANegativeRequirementInMetric)
+{
+    solveAirInMetric();
+    enterSpace("0", "0", "2000.5");
+    showMoisture("-0.025", "-0.600", "-0.03", "-0.60");
+    EXPECT_EQ(printed(), expectedReport("humidity-negative-printed-metric"));
+    EXPECT_EQ(saved(), expectedReport("humidity-negative-saved-metric"));
+}
+
+TEST_F(HumidityReport, ShowsLabelsAndNoNumbersOfABlankForm)
+{
+    labelInEnglish();
+    EXPECT_EQ(printed(), expectedReport("humidity-blank-printed-english"));
+    EXPECT_EQ(saved(), expectedReport("humidity-blank-saved-english"));
+}
+
+TEST_F(HumidityReport, ShowsLabelsAndNoNumbersOfABlankFormInMetric)
+{
+    labelInMetric();
+    EXPECT_EQ(printed(), expectedReport("humidity-blank-printed-metric"));
+    EXPECT_EQ(saved(), expectedReport("humidity-blank-saved-metric"));
+}
+
+TEST_F(HumidityReport, PutsOutATextThatIsNoNumberAsItStands)
+{
+    labelInEnglish();
+    enterSpace("large", "", "");
+    EXPECT_NE(printed().find("\n Volume of Space =          large          cubic feet (ft3)\n"),
+              std::string::npos)
+        << printed();
+}
+
+TEST_F(HumidityReport, ReadsTheFormOnceAfterBothAirs)
+{
+    inMetric();
+    HumidDesiredAir.W = 3.0e38F; // overflows in g/kg
+    EXPECT_TRUE(printed().ends_with(" Relative Humidity =        0.0%\n(Overflow)"));
+    EXPECT_TRUE(saved().ends_with(" Relative Humidity =        0.0%\n(Overflow)"));
+    EXPECT_EQ(timesRead, 0);
+    HumidDesiredAir.W = 0.0F;
+    printed();
+    EXPECT_EQ(timesRead, 1);
+    saved();
+    EXPECT_EQ(timesRead, 2);
+}
+
+TEST_F(HumidityReport, IsSavedWithTheTextsOfTheMomentTheDialogIsConfirmed)
+{
+    dialogs.answer("SaveDialog", [this](QDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Save Humidity Load Data to File");
+        EXPECT_EQ(timesRead, 0);
+        runInEnglish();
+        saveAs(file("humidity"))(dialog);
+    });
+    SaveHumidity(form<AnyForm>(), read);
+    EXPECT_EQ(bytesOf(file("humidity")), expectedReport("humidity-run-saved-english"));
+}
+
+TEST_F(HumidityReport, IsPrintedThroughItsTemporaryFile)
+{
+    dialogs.answer("PrintDialog", [this](QDialog& dialog) {
+        EXPECT_EQ(timesRead, 0);
+        runInMetric();
+        printTo(file("humidity.pdf"))(dialog);
+    });
+    PrintHumidity(form<AnyForm>(), read);
+    EXPECT_EQ(bytesOf(base + "/tempdata/humidity.txt"), expectedReport("humidity-run-printed-metric"));
+    EXPECT_NE(textOf(file("humidity.pdf")).find("12.3 kg per hour"), std::string::npos);
+}
+
+TEST_F(HumidityReport, DoesNotReadTheFormOnCancel)
+{
+    dialogs.answer("SaveDialog", [](QDialog& dialog) { cancel(dialog); });
+    SaveHumidity(form<AnyForm>(), read);
+    dialogs.answer("PrintDialog", [](QDialog& dialog) { cancel(dialog); });
+    PrintHumidity(form<AnyForm>(), read);
+    EXPECT_EQ(timesRead, 0);
+}
+
+} // namespace

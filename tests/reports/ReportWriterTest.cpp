@@ -1,0 +1,103 @@
+#include "tests/reports/Reports.h"
+
+#include "reports/AirBlock.h"
+
+namespace {
+
+TEST(ReportWriter, WritesEveryFormAsALine)
+{
+    const std::string date = today().toStdString();
+    const std::string text = textOfReport([](ReportWriter& report) {
+        report.blankLines(2);
+        report.dateLine();
+        report.heading("Heading");
+        report.rule();
+        report.labelAndValue("Relative Humidity = ", "50.0%");
+        report.labelValueAndUnit("Enthalpy = ", "25.31", " Btu/lb.");
+        report.valueAndUnit("12.3", " lb/hr");
+        report.column4Line("text");
+        report.column4DateLine();
+        report.emptyColumn4Lines(2);
+    });
+    EXPECT_EQ(text, "\n\n" + std::string(39, ' ') + date +
+                        "\n Heading\n -------------------------------------\n"
+                        " Relative Humidity =        50.0%\n"
+                        " Enthalpy =   25.31          Btu/lb.\n"
+                        " 12.3          lb/hr\n"
+                        "   text\n   " +
+                        date + "\n   \n   \n");
+}
+
+class AirBlockTest : public testing::Test
+{
+protected:
+    void SetUp() override { FillUnitTables(); }
+
+    std::string block() const
+    {
+        return textOfReport([this](ReportWriter& report) { WriteAirBlock(report, air); });
+    }
+
+    AirSnapshot air;
+};
+
+TEST_F(AirBlockTest, HasEightLinesInEnglish)
+{
+    air = {.Grains = 54.47F, .RH = 0.5F, .SpVol = 13.514F, .h = 25.31F, .W = 0.0077815F};
+    air.td = 50.5F;
+    air.Twb = 58.4F;
+    air.Tdb = 70.0F;
+    EXPECT_EQ(block(), " Dry Bulb Temp =            70.0           deg F\n"
+                       " Wet Bulb Temp =            58.4           deg F\n"
+                       " Dew Point Temp =           50.5           deg F\n"
+                       " Relative Humidity =        50.0%\n"
+                       " Humidity Ratio (grains) =  54.5           grains \n"
+                       " Humidity Ratio (W) =       0.0077815      lb. water/lb. dry air\n"
+                       " Specific Volume =          13.514         ft3 per Lb.\n"
+                       " Enthalpy =   25.31          Btu/lb.\n");
+}
+
+TEST_F(AirBlockTest, HasSevenLinesInMetricWithTheHumidityRatioInGrams)
+{
+    inMetric();
+    air = {.Grains = 54.47F, .RH = 0.5F, .SpVol = 0.844F, .h = 40.77F, .W = 0.00773F};
+    air.td = 10.2F;
+    air.Twb = 14.6F;
+    air.Tdb = 21.0F;
+    EXPECT_EQ(block(), " Dry Bulb Temp =            21.0           deg C\n"
+                       " Wet Bulb Temp =            14.6           deg C\n"
+                       " Dew Point Temp =           10.2           deg C\n"
+                       " Relative Humidity =        50.0%\n"
+                       " Humidity Ratio (W) =       7.73           g water/kg dry air\n"
+                       " Specific Volume =          0.844          m3 per kg\n"
+                       " Enthalpy =   40.77          kJ/kg\n");
+}
+
+TEST_F(AirBlockTest, MultipliesTheHumidityRatioIntoASingle)
+{
+    inMetric();
+    // The single next to 0.0123455 is 0.01234550029039383; a thousand times that, 12.34550029..., is rounded
+    // to the single 12.345500946044922, and so to the places of the picture.
+    air.W = 0.0123455F;
+    EXPECT_NE(block().find(" 12.3455 "), std::string::npos) << block();
+}
+
+TEST_F(AirBlockTest, StopsBeforeTheLineWhoseHumidityRatioOverflows)
+{
+    inMetric();
+    air.W = 3.0e38F;
+    EXPECT_EQ(block(), " Dry Bulb Temp =            0.0            deg C\n"
+                       " Wet Bulb Temp =            0.0            deg C\n"
+                       " Dew Point Temp =           0.0            deg C\n"
+                       " Relative Humidity =        0.0%\n"
+                       "(Overflow)");
+}
+
+TEST_F(AirBlockTest, WritesTheNumbersOfTheLocale)
+{
+    numberLocale = {.decimalPoint = ",", .groupSeparator = "."};
+    air.Tdb = 70.25F;
+    EXPECT_EQ(block().substr(0, 33), " Dry Bulb Temp =            70,3 ");
+}
+
+} // namespace

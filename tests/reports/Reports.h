@@ -1,0 +1,84 @@
+#pragma once
+
+#include "core/MainMod.h"
+#include "reports/ReportFile.h"
+#include "reports/ReportFolders.h"
+#include "reports/ReportWriter.h"
+#include "tests/platform/AnyForm.h"
+#include "tests/platform/Dialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+/// Today as the tests' locale writes it.
+inline QString today()
+{
+    const QDate date = QDate::currentDate();
+    const char* const months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                  "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    return QString("%1 %2 %3").arg(date.day()).arg(months[date.month() - 1]).arg(date.year());
+}
+
+/// The bytes of a file, or "(none)".
+inline std::string bytesOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(none)";
+}
+
+/// A report as it was laid out by hand, with today's date.
+inline std::string expectedReport(const char* name)
+{
+    const std::string text = bytesOf(QString(DUNMOOR_TEST_DATA "/reports/") + name + ".txt");
+    return QString::fromStdString(text).replace("@DATE@", today()).toStdString();
+}
+
+/// What a report writes; the lines before a failure, where it fails.
+inline std::string textOfReport(const WriteReport& writeReport)
+{
+    std::string text;
+    ReportWriter report([&text](const std::string& line) { text += line + '\n'; });
+    try {
+        writeReport(report);
+    } catch (const std::exception& failure) {
+        text += std::string("(") + failure.what() + ")";
+    }
+    return text;
+}
+
+/// A calculator whose report folders lie in a folder of the test's own, on a machine without printers.
+class ReportCommandTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        qputenv("CUPS_SERVER", "/nonexistent/socket");
+        QCoreApplication::setApplicationName("Dunmoor");
+        base = folder.filePath("application");
+        QDir().mkpath(base);
+        QDir().mkpath(folder.filePath("user"));
+        ReportsBase = [] { return base.toStdString(); };
+        FillUnitTables();
+        form<AnyForm>().Show();
+    }
+
+    void TearDown() override
+    {
+        EXPECT_TRUE(dialogs.unexpected.empty()) << dialogs.unexpected.front().toStdString();
+        FormRegistry::clear();
+    }
+
+    /// A file of the user's, apart from the application.
+    QString file(const QString& name) const { return folder.filePath("user/" + name); }
+
+    Dialogs dialogs;
+    QTemporaryDir folder;
+    static inline QString base;
+};
+
+/// The unit mode for the rest of the test.
+inline void inMetric() { UnitSystem = True16; }

@@ -1,0 +1,166 @@
+#include "reports/SaveFrame.h"
+#include "tests/reports/Reports.h"
+
+#include <QFileDialog>
+
+namespace {
+
+class SaveFrame : public ReportCommandTest
+{
+protected:
+    /// Saves a report of one line, the answer to its dialog being given.
+    void save(Dialogs::Answer answer, const std::string& text = "text")
+    {
+        dialogs.answer("SaveDialog", std::move(answer));
+        saveWithoutDialog(text);
+    }
+
+    void saveWithoutDialog(const std::string& text = "text")
+    {
+        SaveReport(form<AnyForm>(), "Save Cooling Load Data to File",
+                   [&](ReportWriter& report) { report.heading(text); });
+    }
+
+    void saveFailing(Dialogs::Answer answer, const WriteReport& report)
+    {
+        dialogs.answer("SaveDialog", std::move(answer));
+        SaveReport(form<AnyForm>(), "Save Data to File", report);
+    }
+};
+
+TEST_F(SaveFrame, MakesTheDataFolderAndStartsTheDialogThere)
+{
+    save([](QDialog& dialog) {
+        EXPECT_TRUE(QDir(base + "/data").exists());
+        EXPECT_EQ(static_cast<QFileDialog&>(dialog).directory().path(), base + "/data");
+        EXPECT_EQ(dialog.windowTitle(), "Save Cooling Load Data to File");
+        cancel(dialog);
+    });
+    EXPECT_EQ(QDir(base).entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList{"data"});
+}
+
+TEST_F(SaveFrame, UsesTheDataFolderThatIsThere)
+{
+    QDir().mkpath(base + "/data/kept");
+    save(saveAs("report"));
+    EXPECT_TRUE(QDir(base + "/data/kept").exists());
+    EXPECT_EQ(bytesOf(base + "/data/report"), " text\n");
+}
+
+TEST_F(SaveFrame, WritesStraightIntoTheChosenFileAndClosesIt)
+{
+    dialogs.answer("SaveDialog", saveAs(file("report.txt")));
+    SaveReport(form<AnyForm>(), "Save Data to File", [this](ReportWriter& report) {
+        EXPECT_TRUE(ReportFile.isOpen());
+        report.heading("one");
+        EXPECT_EQ(bytesOf(file("report.txt")), " one\n");
+        report.heading("two");
+    });
+    EXPECT_EQ(bytesOf(file("report.txt")), " one\n two\n");
+    EXPECT_FALSE(ReportFile.isOpen());
+    EXPECT_FALSE(QDir(base + "/tempdata").exists());
+}
+
+TEST_F(SaveFrame, KeepsANameWithoutExtension)
+{
+    save(saveAs("report"));
+    EXPECT_EQ(QDir(base + "/data").entryList(QDir::Files), QStringList{"report"});
+}
+
+TEST_F(SaveFrame, TakesNamesWithBlanksAndLettersOfAnyLanguage)
+{
+    save(saveAs(file("Büro Nord 3 Ω.txt")));
+    EXPECT_EQ(bytesOf(file("Büro Nord 3 Ω.txt")), " text\n");
+}
+
+TEST_F(SaveFrame, ReplacesAnExistingReportWithoutAQuestion)
+{
+    save(saveAs("report"), "a long first report");
+    save(saveAs("report"), "second");
+    EXPECT_EQ(bytesOf(base + "/data/report"), " second\n");
+    EXPECT_EQ(dialogs.shown, (std::vector<QString>{"SaveDialog", "SaveDialog"}));
+}
+
+TEST_F(SaveFrame, TouchesNoFileOnCancel)
+{
+    save(saveAs("report"), "before");
+    save([](QDialog& dialog) {
+        child<QLineEdit>(dialog, "fileNameEdit").setText("report");
+        cancel(dialog);
+    });
+    EXPECT_EQ(bytesOf(base + "/data/report"), " before\n");
+    EXPECT_EQ(QDir(base + "/data").entryList(QDir::Files), QStringList{"report"});
+    EXPECT_FALSE(ReportFile.isOpen());
+}
+
+TEST_F(SaveFrame, WorksAgainAfterCancel)
+{
+    save([](QDialog& dialog) { cancel(dialog); });
+    save(saveAs("report"));
+    EXPECT_EQ(bytesOf(base + "/data/report"), " text\n");
+}
+
+TEST_F(SaveFrame, EndsBeforeTheDialogWhereTheDataFolderCannotBeMade)
+{
+    QFile obstacle(base + "/data");
+    ASSERT_TRUE(obstacle.open(QIODevice::WriteOnly));
+    saveWithoutDialog();
+    EXPECT_TRUE(dialogs.shown.empty());
+}
+
+TEST_F(SaveFrame, ProposesTheUsersOwnFolderWhereTheApplicationsCannotBeWritten)
+{
+    const QString own = qEnvironmentVariable("XDG_DATA_HOME") + "/Dunmoor/data";
+    base += "/missing";
+    save([&own](QDialog& dialog) {
+        EXPECT_EQ(static_cast<QFileDialog&>(dialog).directory().path(), own);
+        saveAs("report")(dialog);
+    });
+    EXPECT_EQ(bytesOf(own + "/report"), " text\n");
+}
+
+TEST_F(SaveFrame, EndsSilentlyWhereTheFileCannotBeOpenedAndWorksAgain)
+{
+    QFile obstacle(file("obstacle"));
+    ASSERT_TRUE(obstacle.open(QIODevice::WriteOnly));
+    for (const QString& bad :
+         {file("obstacle/report"), file("missing/report"), QString("/proc/no-such-file")})
+        save(saveAs(bad));
+    EXPECT_FALSE(ReportFile.isOpen());
+    EXPECT_FALSE(QDir(file("missing")).exists());
+    save(saveAs("report"));
+    EXPECT_EQ(bytesOf(base + "/data/report"), " text\n");
+    EXPECT_EQ(dialogs.shown.size(), 4U); // no message among them
+}
+
+TEST_F(SaveFrame, StaysOpenAfterAFullDiskSoThatLaterSavesEndSilently)
+{
+    save(saveAs("/dev/full"));
+    EXPECT_TRUE(ReportFile.isOpen());
+    save(saveAs("report"));
+    EXPECT_EQ(bytesOf(base + "/data/report"), "(none)");
+    EXPECT_EQ(dialogs.shown.size(), 2U);
+}
+
+TEST_F(SaveFrame, StaysOpenAfterAFailingReportWithTheLinesBeforeTheFailure)
+{
+    saveFailing(saveAs("first"), [](ReportWriter& report) {
+        report.heading("before");
+        Raise(ErrorNumber::TypeMismatch);
+    });
+    EXPECT_EQ(bytesOf(base + "/data/first"), " before\n");
+    EXPECT_TRUE(ReportFile.isOpen());
+    save(saveAs("second"));
+    EXPECT_EQ(bytesOf(base + "/data/second"), "(none)");
+}
+
+TEST_F(SaveFrame, EndsSilentlyWhateverTheFailure)
+{
+    saveFailing(saveAs("report"), [](ReportWriter&) {
+        UnitSystem = 7; // beyond every table
+        UnitLabel(TempUnit);
+    });
+    EXPECT_TRUE(ReportFile.isOpen());
+}
+
+} // namespace

@@ -1,0 +1,134 @@
+#include "tests/screens/MixedAirFixture.h"
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+/// The air volume dialog, opened from the mixed air calculator.
+class AirVolumeDialog : public MixedAirTest
+{
+protected:
+    void openWithAState(bool metric = false)
+    {
+        open(metric);
+        calculate(metric ? "30" : "95", "txtRH", "40");
+    }
+
+    void inVolume(const std::string& button, std::function<void()> actions)
+    {
+        user.inDialog("cfmForm", std::move(actions));
+        user.click(button);
+    }
+};
+
+TEST_F(AirVolumeDialog, AsksForTheVolumeInTheMiddleOfTheScreen)
+{
+    openWithAState();
+    inVolume("btnSaveOSA", [this] {
+        EXPECT_EQ(user.title(), "Air Volume Input");
+        EXPECT_EQ(user.text("Label1"), "Enter the Air Volume:");
+        EXPECT_EQ(user.text("label2"), " CFM ");
+        EXPECT_EQ(user.text("btnOK"), "OK");
+        EXPECT_EQ(user.text("btnCancel"), "Cancel");
+        EXPECT_EQ(user.menuEntry("mnuHelp")->text(), "&Help");
+        EXPECT_EQ(user.menuEntry("mnuSearch")->text(), "&Search for Help on ...");
+        EXPECT_EQ(user.focus(), "txtCFMinput");
+        const QWidget* const window = User::findWindow("cfmForm");
+        const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
+        EXPECT_EQ(window->x(), (screen.width() - window->width()) / 2);
+        EXPECT_EQ(window->y(), (screen.height() - window->height()) / 2);
+        user.click("btnCancel");
+    });
+}
+
+TEST_F(AirVolumeDialog, AsksForCubicMetersInMetric)
+{
+    openWithAState(true);
+    inVolume("btnSaveOSA", [this] {
+        EXPECT_EQ(user.text("label2"), " cubic meter per hour");
+        user.click("btnCancel");
+    });
+}
+
+TEST_F(AirVolumeDialog, LeavesTheTextAsItWasTyped)
+{
+    openWithAState();
+    inVolume("btnSaveOSA", [this] {
+        user.type("txtCFMinput", "1,000.50");
+        user.click("btnOK");
+    });
+    EXPECT_EQ(user.text("txtcfm1"), "1,000.50");
+    EXPECT_EQ(AirVolume.kind(), NumberKind::Text);
+    EXPECT_EQ(MixedOutsideAir.AirVolume, 1000.5F);
+}
+
+TEST_F(AirVolumeDialog, GivesTheSameAnswerForAnEmptyFieldAndForCancel)
+{
+    openWithAState();
+    inVolume("btnSaveOSA", [this] {
+        user.type("txtCFMinput", "5");
+        user.click("btnCancel");
+    });
+    EXPECT_EQ(AirVolume.kind(), NumberKind::Int16);
+    EXPECT_EQ(AirVolume, 0.0);
+    inVolume("btnSaveOSA", [this] {
+        user.type("txtCFMinput", "");
+        user.click("btnOK");
+    });
+    EXPECT_EQ(AirVolume.kind(), NumberKind::Int16);
+    EXPECT_EQ(AirVolume, 0.0);
+}
+
+TEST_F(AirVolumeDialog, IsConfirmedByEnter)
+{
+    openWithAState();
+    inVolume("btnSaveOSA", [this] {
+        user.type("txtCFMinput", "1200");
+        user.key(Qt::Key_Return);
+    });
+    EXPECT_EQ(MixedOutsideAir.AirVolume, 1200.0F);
+}
+
+TEST_F(AirVolumeDialog, OffersItsTextAgain)
+{
+    openWithAState();
+    save("btnSaveOSA", "1200");
+    std::string offered;
+    inVolume("btnSaveOSA", [&] {
+        offered = user.text("txtCFMinput");
+        user.click("btnCancel");
+    });
+    EXPECT_EQ(offered, "1200");
+}
+
+TEST_F(AirVolumeDialog, OffersTheReturnVolumeInPlaceOfItsTextOnceItIsSet)
+{
+    openWithAState();
+    save("btnRA", "3000");
+    save("btnRA", "3500"); // its showing has set what is offered from now on
+    std::string offered;
+    inVolume("btnSaveOSA", [&] {
+        offered = user.text("txtCFMinput");
+        user.click("btnCancel");
+    });
+    EXPECT_EQ(offered, "3000");
+}
+
+TEST_F(AirVolumeDialog, LeavesTheVolumeAloneByItsCloseBoxAndComesBackEmpty)
+{
+    openWithAState();
+    save("btnSaveOSA", "1200");
+    inVolume("btnSaveOSA", [this] {
+        user.type("txtCFMinput", "7");
+        user.closeWindow();
+    });
+    EXPECT_FALSE(isLoaded<cfmForm>());
+    EXPECT_EQ(MixedOutsideAir.AirVolume, 1200.0F) << "saved with the previous volume";
+    std::string offered = "?";
+    inVolume("btnSaveOSA", [&] {
+        offered = user.text("txtCFMinput");
+        user.click("btnCancel");
+    });
+    EXPECT_EQ(offered, "");
+}
