@@ -9,7 +9,6 @@
 #include "screens/Rows.h"
 #include "screens/cfmForm.h"
 
-#include <QVBoxLayout>
 #include <QWidget>
 
 CoolingLoad1::CoolingLoad1() : AirPanel("CoolingLoad1", coolingLoad1)
@@ -30,10 +29,7 @@ void CoolingLoad1::layOut()
     auto* const panel = new QWidget(area());
     layOutActions({&btnCALCULATE, &btnSaveEA, &btnSetLA, &btnCalcLoad});
     layOutFrames(*panel);
-    auto* const whole = new QVBoxLayout(area());
-    whole->addWidget(Frame6.widget());
-    whole->addWidget(panel, 1);
-    showAsBanner(Frame6);
+    layOutBelowBanner(*area(), Frame6, *panel);
 }
 
 void CoolingLoad1::buildMenus()

@@ -8,7 +8,6 @@
 #include "screens/Rows.h"
 #include "screens/cfmForm.h"
 
-#include <QVBoxLayout>
 #include <QWidget>
 
 HeatingLoad1::HeatingLoad1() : AirPanel("HeatingLoad1", heatingLoad1)
@@ -28,10 +27,7 @@ void HeatingLoad1::layOut()
     layOutActions({&btnCALCULATE, &btnSaveEnteringAir, &btnInputLeavingAir});
     layOutPairs(Frame4, {{txtAirVolume, lblAirVolume}, {txtHeatLoad, lblHeatLoad}});
     layOutFrames(*panel, &Frame4);
-    auto* const whole = new QVBoxLayout(area());
-    whole->addWidget(Frame6.widget());
-    whole->addWidget(panel, 1);
-    showAsBanner(Frame6);
+    layOutBelowBanner(*area(), Frame6, *panel);
     for (TextField* field : {&txtAirVolume, &txtHeatLoad}) {
         field->setBackColour(Colours::LightCyan);
         field->setForeColour(Colours::Black);

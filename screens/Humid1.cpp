@@ -7,7 +7,6 @@
 #include "screens/Shell.h"
 #include "screens/humid2.h"
 
-#include <QVBoxLayout>
 #include <QWidget>
 
 Humid1::Humid1() : AirPanel("Humid1", humid1)
@@ -23,10 +22,7 @@ void Humid1::layOut()
     auto* const panel = new QWidget(area());
     layOutActions({&btnCALCULATE, &btnHumidityDesired});
     layOutFrames(*panel);
-    auto* const whole = new QVBoxLayout(area());
-    whole->addWidget(Frame6.widget());
-    whole->addWidget(panel, 1);
-    showAsBanner(Frame6);
+    layOutBelowBanner(*area(), Frame6, *panel);
 }
 
 void Humid1::buildMenus()

@@ -1,7 +1,9 @@
 #include "screens/Rows.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QString>
+#include <QVBoxLayout>
 #include <QWidget>
 
 namespace {
@@ -60,9 +62,22 @@ void layOutPairs(Frame& frame, const std::vector<Pair>& pairs)
     }
 }
 
-void showAsBanner(Frame& frame)
+void layOutBelowBanner(QWidget& area, Frame& banner, QWidget& panel)
 {
-    frame.widget()->setFixedHeight(frame.widget()->fontMetrics().height() * 2);
+    // No frame is drawn around nothing, and its caption stands where those of the panel's frames do.
+    banner.widget()->setStyleSheet(banner.widget()->styleSheet() +
+                                   "QGroupBox { border: none; }"
+                                   "QGroupBox::title { subcontrol-origin: margin; left: 0px; }");
+    banner.widget()->setFixedHeight(banner.widget()->fontMetrics().height() + 4);
+    auto* const line = new QHBoxLayout;
+    line->setContentsMargins(16, 0, 16, 0);
+    line->addWidget(banner.widget());
+
+    auto* const whole = new QVBoxLayout(&area);
+    whole->setContentsMargins(0, 12, 0, 0);
+    whole->setSpacing(0);
+    whole->addLayout(line);
+    whole->addWidget(&panel, 1);
 }
 
 void colourEntry(TextField& field, Colour colour)

@@ -8,6 +8,7 @@
 #include <vector>
 
 class QGridLayout;
+class QWidget;
 
 /// One row of a frame: a caption, the field that it describes, the unit beside it.
 struct Row
@@ -33,8 +34,8 @@ void layOutInFrame(Frame& frame, const std::vector<Row>& rows);
 /// Lays fields out under one another, each with its unit.
 void layOutPairs(Frame& frame, const std::vector<Pair>& pairs);
 
-/// Shapes a frame that holds nothing: its caption is a line of instruction across the form.
-void showAsBanner(Frame& frame);
+/// Lays a form out as a frame that holds nothing, whose caption is a line of instruction, above a panel.
+void layOutBelowBanner(QWidget& area, Frame& banner, QWidget& panel);
 
 /// Gives a field a light back colour, black text on it, and its value the right place.
 void colourEntry(TextField& field, Colour colour);

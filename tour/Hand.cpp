@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -128,6 +129,12 @@ void Hand::key(const QString& key)
 {
     xdotool({"key", key});
     settle();
+}
+
+QString Hand::reportFile(const QString& name) const
+{
+    QDir(folder).mkpath("reports");
+    return folder + "/reports/" + name + "report.txt";
 }
 
 void Hand::picture(const QString& name)

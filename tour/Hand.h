@@ -23,6 +23,9 @@ public:
     void enter(const QString& field, const QString& text);
     void key(const QString& key);
 
+    /// Where a report of that name is saved: among the reports beside the pictures.
+    QString reportFile(const QString& name) const;
+
     /// A picture of the window that takes input, with its title bar, under that name.
     void picture(const QString& name);
     /// A picture of all that the program has on the screen.

@@ -11,10 +11,81 @@ struct Walk
     const char* tdb;    ///< a dry bulb
     const char* tooHot; ///< one that is refused
     const char* badPressure;
+    const char* outsideTdb;
+    const char* outsideVolume;
+    const char* returnVolume;
+    const char* dryCoil; ///< a leaving air that needs no wet bulb
+    const char* wetCoil;
+    const char* wetCoilWetBulb;
+    const char* heated;
+    const char* winter;
+    const char* humidifiedVolume;
+    bool prints; ///< once is enough: the second time the dialog would ask about the same file
 };
 
-constexpr Walk english{.units = "english-", .tdb = "70", .tooHot = "125.1", .badPressure = "10.99"};
-constexpr Walk metric{.units = "metric-", .tdb = "20", .tooHot = "50.5", .badPressure = "46.9"};
+constexpr Walk english{
+    .units = "english-",
+    .tdb = "70",
+    .tooHot = "125.1",
+    .badPressure = "10.99",
+    .outsideTdb = "95",
+    .outsideVolume = "1000",
+    .returnVolume = "3000",
+    .dryCoil = "70",
+    .wetCoil = "55",
+    .wetCoilWetBulb = "54",
+    .heated = "90",
+    .winter = "30",
+    .humidifiedVolume = "500",
+    .prints = true,
+};
+
+constexpr Walk metric{
+    .units = "metric-",
+    .tdb = "20",
+    .tooHot = "50.5",
+    .badPressure = "46.9",
+    .outsideTdb = "35",
+    .outsideVolume = "1700",
+    .returnVolume = "5100",
+    .dryCoil = "24",
+    .wetCoil = "13",
+    .wetCoilWetBulb = "12.5",
+    .heated = "35",
+    .winter = "0",
+    .humidifiedVolume = "850",
+    .prints = false,
+};
+
+void calculate(Hand& hand, const char* tdb, const char* relativeHumidity)
+{
+    hand.enter("txtTdb", tdb);
+    hand.enter("txtRH", relativeHumidity);
+    hand.click("btnCALCULATE");
+}
+
+void answerVolume(Hand& hand, const char* volume)
+{
+    hand.enter("txtCFMinput", volume);
+    hand.click("btnOK");
+}
+
+/// Saves the report of the calculator in use through the save dialog.
+void save(Hand& hand, const char* entry, const QString& name)
+{
+    hand.choose(entry);
+    hand.pictureOfAll(name + "save");
+    hand.type(hand.reportFile(name));
+    hand.key("Return");
+}
+
+/// Prints it to a PDF file through the print dialog.
+void print(Hand& hand, const char* entry, const QString& name)
+{
+    hand.choose(entry);
+    hand.pictureOfAll(name + "print");
+    hand.key("Return");
+}
 
 void visitAirProperties(Hand& hand, const Walk& walk)
 {
@@ -43,6 +114,92 @@ void visitAirProperties(Hand& hand, const Walk& walk)
     hand.choose("mnuMain1");
 }
 
+void visitMixedAir(Hand& hand, const Walk& walk)
+{
+    const QString units = walk.units;
+    hand.click("btnMixedAir");
+    calculate(hand, walk.outsideTdb, "40");
+    hand.click("btnSaveOSA");
+    hand.pictureOfAll(units + "air-volume");
+    answerVolume(hand, walk.outsideVolume);
+    calculate(hand, walk.tdb, "50");
+    hand.click("btnRA");
+    answerVolume(hand, walk.returnVolume);
+    hand.picture(units + "mixed-air");
+    hand.click("btnMixedAir");
+    hand.picture(units + "mixed-air-table");
+    save(hand, "mnuSave2File", units + "mixed-air-");
+    if (walk.prints)
+        print(hand, "mnuPrintResults", units + "mixed-air-");
+    hand.click("btnOK");
+    hand.choose("mnuMain1");
+}
+
+void setLeavingAir(Hand& hand, const char* dryBulb, const char* wetBulb)
+{
+    hand.enter("txtLATdb", dryBulb);
+    if (wetBulb != nullptr)
+        hand.enter("txtLATwb", wetBulb);
+}
+
+void sizeCoil(Hand& hand, const Walk& walk, const QString& name, const char* dryBulb, const char* wetBulb)
+{
+    calculate(hand, walk.outsideTdb, "40");
+    hand.click("btnSaveEA");
+    answerVolume(hand, walk.outsideVolume);
+    hand.click("btnSetLA");
+    setLeavingAir(hand, dryBulb, wetBulb);
+    hand.pictureOfAll(name + "-leaving");
+    hand.click("btnOK");
+    hand.picture(name);
+    hand.click("btnCalcLoad");
+    hand.picture(name + "-summary");
+    hand.click("Command1");
+}
+
+void visitCooling(Hand& hand, const Walk& walk)
+{
+    const QString units = walk.units;
+    hand.click("btnCooling");
+    sizeCoil(hand, walk, units + "cooling-dry", walk.dryCoil, nullptr);
+    sizeCoil(hand, walk, units + "cooling-wet", walk.wetCoil, walk.wetCoilWetBulb);
+    save(hand, "mnuSave", units + "cooling-");
+    hand.choose("mnuMain1");
+}
+
+void visitHeating(Hand& hand, const Walk& walk)
+{
+    const QString units = walk.units;
+    hand.click("btnHeating");
+    calculate(hand, walk.tdb, "50");
+    hand.click("btnSaveEnteringAir");
+    answerVolume(hand, walk.outsideVolume);
+    hand.click("btnInputLeavingAir");
+    hand.enter("txtHeatLAT", walk.heated);
+    hand.pictureOfAll(units + "heating-leaving");
+    hand.click("btnOK");
+    hand.picture(units + "heating");
+    save(hand, "mnuSave", units + "heating-");
+    hand.choose("mnuMain1");
+}
+
+void visitHumidification(Hand& hand, const Walk& walk)
+{
+    const QString units = walk.units;
+    hand.click("btnHumidity");
+    calculate(hand, walk.winter, "60");
+    hand.picture(units + "humidification-outside");
+    hand.click("btnHumidityDesired");
+    hand.enter("txtDesT", walk.tdb);
+    hand.enter("txtDesH", "45");
+    hand.enter("txtOSA", walk.humidifiedVolume);
+    hand.click("btnCalcHumid");
+    hand.picture(units + "humidification");
+    save(hand, "mnuSave", units + "humidification-");
+    hand.click("btnOK");
+    hand.choose("mnuMain1");
+}
+
 void visitOptions(Hand& hand, const Walk& walk)
 {
     const QString units = walk.units;
@@ -65,16 +222,25 @@ void changeToMetric(Hand& hand)
     hand.click("btnOK");
 }
 
+void visitCalculators(Hand& hand, const Walk& walk)
+{
+    visitAirProperties(hand, walk);
+    visitMixedAir(hand, walk);
+    visitCooling(hand, walk);
+    visitHeating(hand, walk);
+    visitHumidification(hand, walk);
+}
+
 } // namespace
 
 void walkThroughProgram(Hand& hand)
 {
     hand.picture("english-main-menu");
-    visitAirProperties(hand, english);
+    visitCalculators(hand, english);
     visitOptions(hand, english);
     changeToMetric(hand);
     hand.picture("metric-main-menu");
-    visitAirProperties(hand, metric);
+    visitCalculators(hand, metric);
     visitOptions(hand, metric);
     hand.choose("mnuExit");
 }

@@ -29,7 +29,11 @@ void Label::setBoxed()
     asLabel(this)->setMargin(3);
 }
 
-void Label::alignRight() { asLabel(this)->setAlignment(Qt::AlignRight | Qt::AlignVCenter); }
+void Label::alignRight()
+{
+    asLabel(this)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    asLabel(this)->setIndent(4);
+}
 void Label::setWrapped() { asLabel(this)->setWordWrap(true); }
 
 void Label::setArial()

@@ -76,10 +76,10 @@ TEST_F(AirBlockTest, HasSevenLinesInMetricWithTheHumidityRatioInGrams)
 TEST_F(AirBlockTest, MultipliesTheHumidityRatioIntoASingle)
 {
     inMetric();
-    // The single next to 0.0123455 is 0.01234550029039383; a thousand times that, 12.34550029..., is rounded
-    // to the single 12.345500946044922, and so to the places of the picture.
-    air.W = 0.0123455F;
-    EXPECT_NE(block().find(" 12.3455 "), std::string::npos) << block();
+    // The single next to 0.00090625 is 0.000906249974. A thousand times that, 0.906249974, lies below the
+    // half between 0.9062 and 0.9063, and the single next to it is the half itself, 0.90625.
+    air.W = 0.00090625F;
+    EXPECT_NE(block().find(" 0.9063 "), std::string::npos) << block();
 }
 
 TEST_F(AirBlockTest, StopsBeforeTheLineWhoseHumidityRatioOverflows)
