@@ -74,7 +74,7 @@ Single DewPointFromVaporPressure(Single pw)
         pw = RoundToSingle(pw * KiloPascalPerPsi);
     const Single a = RoundToSingle(NaturalLogarithm(pw));
     const double square = static_cast<double>(a) * a;
-    const double cube = square * a;
+    const double cube = std::pow(a, 3.0);
 
     Single td = RoundToSingle(((square * 0.7389 + (a * 14.526 + 6.54)) + cube * 0.09486) +
                               std::pow(pw, 0.1984) * 0.4569);

@@ -7,6 +7,8 @@
 #include <QPainterPath>
 #include <QPalette>
 
+#include <algorithm>
+
 namespace {
 
 /// What the chart spans, in the units in force.
@@ -47,11 +49,16 @@ struct Plane
     }
 };
 
+/// Far above the picture: where water boils at the pressure in force.
+constexpr Single offTheChart = 1.0F;
+
 Single humidityRatio(Single tdb, Single relativeHumidity)
 {
     const Single pressure = IsMetric() ? BaroPressure * 1000 : BaroPressure;
-    const Single saturation = SaturationPressure(ToAbsolute(tdb));
-    return HumidityRatioFromVaporPressure(VaporPressureFromRH(relativeHumidity, saturation), pressure);
+    const Single vapor = VaporPressureFromRH(relativeHumidity, SaturationPressure(ToAbsolute(tdb)));
+    if (vapor >= pressure)
+        return offTheChart;
+    return std::min(HumidityRatioFromVaporPressure(vapor, pressure), offTheChart);
 }
 
 QPainterPath curveOf(const Plane& plane, Single relativeHumidity)
