@@ -94,6 +94,29 @@ void AirPanel::txtTdb_KeyPress(int& key)
         txtTwb.takeFocus();
 }
 
+void AirPanel::buildMenus(Menu* ownMenu)
+{
+    mnuFile.add(mnuPrintDialog);
+    mnuFile.add(mnuSave);
+    mnuFile.add(fileSeparator);
+    mnuFile.add(mnuExit);
+    mnuHelp1.add(helpEntry);
+    mnuHelp1.add(mnuHSearch);
+    mnuHelp1.add(mnuAbout);
+    addToMenuBar(mnuFile);
+    addToMenuBar(mnuMain1);
+    if (ownMenu != nullptr)
+        addToMenuBar(*ownMenu);
+    addToMenuBar(mnuHelp1);
+
+    mnuPrintDialog.onClick([this] { mnuPrintDialog_Click(); });
+    mnuSave.onClick([this] { mnuSave_Click(); });
+    mnuExit.onClick([this] { mnuExit_Click(); });
+    mnuMain1.onClick([this] { mnuMain1_Click(); });
+    for (MenuCommand* later : {&helpEntry, &mnuHSearch, &mnuAbout})
+        later->disable(); // until there are a help file and an about box
+}
+
 void AirPanel::Form_QueryUnload(CloseReason reason)
 {
     if (reason == CloseReason::ControlMenu) {

@@ -4,6 +4,7 @@
 #include "platform/forms/Form.h"
 #include "platform/forms/Frame.h"
 #include "platform/forms/Label.h"
+#include "platform/forms/Menu.h"
 #include "platform/forms/TextField.h"
 #include "screens/PanelRules.h"
 
@@ -24,8 +25,13 @@ protected:
     void Form_Unload() override;
 
     // Exit doesn't leave the application: like Main Menu it goes back to the main menu.
-    void mnuExit_Click();
-    void mnuMain1_Click();
+    virtual void mnuExit_Click();
+    virtual void mnuMain1_Click();
+    virtual void mnuPrintDialog_Click() = 0;
+    virtual void mnuSave_Click() = 0;
+
+    /// Puts the menus on the bar, with a form's own menu before the help.
+    void buildMenus(Menu* ownMenu = nullptr);
 
     /// Gives the form its size and its place on the screen.
     void placeScreen();
@@ -80,6 +86,17 @@ protected:
     Label lblSpVol2{*this, "lblSpVol2"};
 
     Button btnCALCULATE{*this, "btnCALCULATE", "Calculate Properties"};
+
+    Menu mnuFile{*this, "mnuFile", "&File"};
+    MenuCommand mnuPrintDialog{*this, "mnuPrintDialog", "&Print Results"};
+    MenuCommand mnuSave{*this, "mnuSave", rules.saveCaption};
+    MenuSeparator fileSeparator{*this, rules.fileSeparator};
+    MenuCommand mnuExit{*this, "mnuExit", "E&xit"};
+    MenuCommand mnuMain1{*this, "mnuMain1", "&Main Menu"};
+    Menu mnuHelp1{*this, "mnuHelp1", "&Help"};
+    MenuCommand helpEntry{*this, rules.helpEntry.name, rules.helpEntry.caption};
+    MenuCommand mnuHSearch{*this, "mnuHSearch", rules.searchCaption};
+    MenuCommand mnuAbout{*this, "mnuAbout", "&About Dunmoor"};
 
 private:
     void connectHandlers();

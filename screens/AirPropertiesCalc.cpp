@@ -21,27 +21,6 @@ void AirPropertiesCalc::layOut()
     whole->addWidget(Frame4.widget());
 }
 
-void AirPropertiesCalc::buildMenus()
-{
-    mnuFile.add(mnuPrintDialog);
-    mnuFile.add(mnuSave);
-    mnuFile.add(mnusep2);
-    mnuFile.add(mnuExit);
-    mnuHelp1.add(mnuHelpAirPropCalc);
-    mnuHelp1.add(mnuHSearch);
-    mnuHelp1.add(mnuAbout);
-    addToMenuBar(mnuFile);
-    addToMenuBar(mnuMain1);
-    addToMenuBar(mnuHelp1);
-
-    mnuPrintDialog.onClick([this] { mnuPrintDialog_Click(); });
-    mnuSave.onClick([this] { mnuSave_Click(); });
-    mnuExit.onClick([this] { mnuExit_Click(); });
-    mnuMain1.onClick([this] { mnuMain1_Click(); });
-    for (MenuCommand* later : {&mnuHelpAirPropCalc, &mnuHSearch, &mnuAbout})
-        later->disable(); // until there are a help file and an about box
-}
-
 void AirPropertiesCalc::Form_Load()
 {
     MakeCurrentDirectory(ApplicationFolder()); // the help file is opened by its bare name

@@ -16,6 +16,7 @@ CoolingLoad1::CoolingLoad1() : AirPanel("CoolingLoad1", coolingLoad1)
     setCaption("Cooling Load Calculation (Adiabatic)");
     layOut();
     buildMenus();
+    helpEntry.setShortcut("F1");
     setDefaultButton(btnCALCULATE);
     btnSaveEA.onClick([this] { btnSaveEA_Click(); });
     btnSetLA.onClick([this] { btnSetLA_Click(); });
@@ -30,28 +31,6 @@ void CoolingLoad1::layOut()
     layOutActions({&btnCALCULATE, &btnSaveEA, &btnSetLA, &btnCalcLoad});
     layOutFrames(*panel);
     layOutBelowBanner(*area(), Frame6, *panel);
-}
-
-void CoolingLoad1::buildMenus()
-{
-    mnuFile.add(mnuPrintDialog);
-    mnuFile.add(mnuSave);
-    mnuFile.add(mnusep2);
-    mnuFile.add(mnuExit);
-    mnuHelp1.add(mnuHelpCooling);
-    mnuHelp1.add(mnuHSearch);
-    mnuHelp1.add(mnuAbout);
-    addToMenuBar(mnuFile);
-    addToMenuBar(mnuMain1);
-    addToMenuBar(mnuHelp1);
-
-    mnuPrintDialog.onClick([this] { mnuPrintDialog_Click(); });
-    mnuSave.onClick([this] { mnuSave_Click(); });
-    mnuExit.onClick([this] { mnuExit_Click(); });
-    mnuMain1.onClick([this] { mnuMain1_Click(); });
-    mnuHelpCooling.setShortcut("F1");
-    for (MenuCommand* later : {&mnuHelpCooling, &mnuHSearch, &mnuAbout})
-        later->disable(); // until there are a help file and an about box
 }
 
 // The state isn't cleared: this screen opens on whatever the last one left.

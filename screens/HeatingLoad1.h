@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/forms/Menu.h"
 #include "screens/AirPanel.h"
 
 /// The heating coil calculator: entering air with its volume, then the temperature that the air shall leave
@@ -18,14 +17,13 @@ protected:
 
 private:
     void layOut();
-    void buildMenus();
 
     void btnSaveEnteringAir_Click();
     void btnInputLeavingAir_Click();
     void txtAirVolume_Change();
     void txtHeatLoad_KeyPress(int& key);
-    void mnuPrintDialog_Click();
-    void mnuSave_Click();
+    void mnuPrintDialog_Click() override;
+    void mnuSave_Click() override;
 
     void showLoad();
 
@@ -37,15 +35,4 @@ private:
     Label lblAirVolume{*this, "lblAirVolume"};
     TextField txtHeatLoad{*this, "txtHeatLoad"};
     Label lblHeatLoad{*this, "lblHeatLoad"};
-
-    Menu mnuFile{*this, "mnuFile", "&File"};
-    MenuCommand mnuPrintDialog{*this, "mnuPrintDialog", "&Print Results"};
-    MenuCommand mnuSave{*this, "mnuSave", "&Save Data to File"};
-    MenuSeparator mnuFiledash2{*this, "mnuFiledash2"};
-    MenuCommand mnuExit{*this, "mnuExit", "E&xit"};
-    MenuCommand mnuMain1{*this, "mnuMain1", "&Main Menu"};
-    Menu mnuHelp1{*this, "mnuHelp1", "&Help"};
-    MenuCommand mnuHelpHeat{*this, "mnuHelpHeat", "Help for &Heating Loads"};
-    MenuCommand mnuHSearch{*this, "mnuHSearch", "&Search for Help On"};
-    MenuCommand mnuAbout{*this, "mnuAbout", "&About Dunmoor"};
 };

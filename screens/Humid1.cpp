@@ -25,27 +25,6 @@ void Humid1::layOut()
     layOutBelowBanner(*area(), Frame6, *panel);
 }
 
-void Humid1::buildMenus()
-{
-    mnuFile.add(mnuPrintDialog);
-    mnuFile.add(mnuSave);
-    mnuFile.add(mnuFiledash2);
-    mnuFile.add(mnuExit);
-    mnuHelp1.add(mnuHelpHumidity);
-    mnuHelp1.add(mnuHSearch);
-    mnuHelp1.add(mnuAbout);
-    addToMenuBar(mnuFile);
-    addToMenuBar(mnuMain1);
-    addToMenuBar(mnuHelp1);
-
-    mnuPrintDialog.onClick([this] { mnuPrintDialog_Click(); });
-    mnuSave.onClick([this] { mnuSave_Click(); });
-    mnuExit.onClick([this] { mnuExit_Click(); });
-    mnuMain1.onClick([this] { mnuMain1_Click(); });
-    for (MenuCommand* later : {&mnuHelpHumidity, &mnuHSearch, &mnuAbout})
-        later->disable(); // until there are a help file and an about box
-}
-
 void Humid1::Form_Load()
 {
     ClearStatePoint();

@@ -10,7 +10,8 @@ MixedAir::MixedAir() : AirPanel("MixedAir", mixedAir)
 {
     setCaption("Mixed Air Calculation");
     layOut();
-    buildMenus();
+    buildReviewMenu();
+    buildMenus(&mnuReview);
     btnSaveOSA.onClick([this] { btnSaveOSA_Click(); });
     btnRA.onClick([this] { btnRA_Click(); });
     btnMixedAir.onClick([this] { btnMixedAir_Click(); });
@@ -26,34 +27,16 @@ void MixedAir::layOut()
     Frame4.hide();
 }
 
-void MixedAir::buildMenus()
+void MixedAir::buildReviewMenu()
 {
-    mnuFile.add(mnuPrintDialog);
-    mnuFile.add(mnuSave);
-    mnuFile.add(mnuFiledash2);
-    mnuFile.add(mnuExit);
     mnuReview.add(mnuReviewOutsideAir);
     mnuReview.add(mnuReviewReturnAir);
     mnuReview.add(mnuReviewMixedAir);
-    mnuHelp1.add(mnuHelpMixedAir);
-    mnuHelp1.add(mnuHSearch);
-    mnuHelp1.add(mnuAbout);
-    addToMenuBar(mnuFile);
-    addToMenuBar(mnuMain1);
-    addToMenuBar(mnuReview);
-    addToMenuBar(mnuHelp1);
-
-    mnuPrintDialog.onClick([this] { mnuPrintDialog_Click(); });
-    mnuSave.onClick([this] { mnuSave_Click(); });
-    mnuExit.onClick([this] { mnuExit_Click(); });
-    mnuMain1.onClick([this] { mnuMain1_Click(); });
     mnuReviewOutsideAir.onClick([this] { mnuReviewOutsideAir_Click(); });
     mnuReviewReturnAir.onClick([this] { mnuReviewReturnAir_Click(); });
     mnuReview.hide();
     mnuReview.disable();
     mnuReviewMixedAir.disable(); // for good: the mixture has no review
-    for (MenuCommand* later : {&mnuHelpMixedAir, &mnuHSearch, &mnuAbout})
-        later->disable(); // until there are a help file and an about box
 }
 
 void MixedAir::Form_Load()

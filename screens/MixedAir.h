@@ -17,7 +17,7 @@ protected:
 
 private:
     void layOut();
-    void buildMenus();
+    void buildReviewMenu();
 
     void btnSaveOSA_Click();
     void btnRA_Click();
@@ -26,8 +26,8 @@ private:
     void txtCFM_KeyPress(int& key);
     void mnuReviewOutsideAir_Click();
     void mnuReviewReturnAir_Click();
-    void mnuPrintDialog_Click();
-    void mnuSave_Click();
+    void mnuPrintDialog_Click() override;
+    void mnuSave_Click() override;
 
     void mix();
     void showAnswers();
@@ -45,18 +45,8 @@ private:
     TextField txtCFM{*this, "txtCFM"};
     Label lblcfm3{*this, "lblcfm3"};
 
-    Menu mnuFile{*this, "mnuFile", "&File"};
-    MenuCommand mnuPrintDialog{*this, "mnuPrintDialog", "&Print Results"};
-    MenuCommand mnuSave{*this, "mnuSave", "&Save Results to File"};
-    MenuSeparator mnuFiledash2{*this, "mnuFiledash2"};
-    MenuCommand mnuExit{*this, "mnuExit", "E&xit"};
-    MenuCommand mnuMain1{*this, "mnuMain1", "&Main Menu"};
     Menu mnuReview{*this, "mnuReview", "&Review"};
     MenuCommand mnuReviewOutsideAir{*this, "mnuReviewOutsideAir", "&Outside Air"};
     MenuCommand mnuReviewReturnAir{*this, "mnuReviewReturnAir", "&Return Air"};
     MenuCommand mnuReviewMixedAir{*this, "mnuReviewMixedAir", "&Mixed Air"};
-    Menu mnuHelp1{*this, "mnuHelp1", "&Help"};
-    MenuCommand mnuHelpMixedAir{*this, "mnuHelpMixedAir", "Help for &Mixed Air"};
-    MenuCommand mnuHSearch{*this, "mnuHSearch", "&Search for Help On"};
-    MenuCommand mnuAbout{*this, "mnuAbout", "&About Dunmoor"};
 };

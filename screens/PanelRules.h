@@ -45,6 +45,10 @@ struct PanelRules
     std::string_view metricHumidityUnit;
 
     const PanelLabels& labels;
+    RowLabel helpEntry; ///< in the help menu
+    const char* searchCaption;
+    const char* saveCaption;
+    const char* fileSeparator; ///< the name of the line before Exit
     const char* actions;
     const char* dryBulbFrame;
 
@@ -86,6 +90,10 @@ inline constexpr PanelRules airPropertiesCalc{
     .captionMetric = " Air Properties Calculator - (Metric Units)",
     .metricHumidityUnit = " g moisture/kg dry air",
     .labels = plainLabels,
+    .helpEntry = {"mnuHelpAirPropCalc", "&Help for Air Properties Calc"},
+    .searchCaption = "&Search for Help On ...",
+    .saveCaption = "&Save Results to File",
+    .fileSeparator = "mnusep2",
     .actions = "Actions:",
     .dryBulbFrame = "First Enter Dry Bulb Temperature and Pressure:",
     .allItemsTellChanges = true,
@@ -119,6 +127,10 @@ inline constexpr PanelRules mixedAir{
     .captionMetric = " Adiabatic Mixing of Moist Air - (Metric Units)",
     .metricHumidityUnit = " g water/kg dry air",
     .labels = mixedAirLabels,
+    .helpEntry = {"mnuHelpMixedAir", "Help for &Mixed Air"},
+    .searchCaption = "&Search for Help On",
+    .saveCaption = "&Save Results to File",
+    .fileSeparator = "mnuFiledash2",
     .actions = "Actions:",
     .dryBulbFrame = "First Enter Dry Bulb Temperature and Pressure:",
     .allItemsTellChanges = false,
@@ -152,6 +164,10 @@ inline constexpr PanelRules coolingLoad1{
     .captionMetric = " Cooling of Moist Air - (Metric / SI Units)",
     .metricHumidityUnit = " g water/kg dry air",
     .labels = coolingLabels,
+    .helpEntry = {"mnuHelpCooling", "Help for &Cooling Loads"},
+    .searchCaption = "&Search for Help On ...",
+    .saveCaption = "&Save Results to File",
+    .fileSeparator = "mnusep2",
     .actions = "",
     .dryBulbFrame = "Enter Entering Air Dry Bulb Temperature:",
     .allItemsTellChanges = true,
@@ -173,6 +189,10 @@ inline constexpr PanelRules heatingLoad1{
     .captionMetric = " Heating Load Calculator - (Metric Units)",
     .metricHumidityUnit = " g moisture/kg dry air",
     .labels = plainLabels,
+    .helpEntry = {"mnuHelpHeat", "Help for &Heating Loads"},
+    .searchCaption = "&Search for Help On",
+    .saveCaption = "&Save Data to File",
+    .fileSeparator = "mnuFiledash2",
     .actions = "Actions:",
     .dryBulbFrame = "First Enter Dry Bulb Temperature and Pressure:",
     .allItemsTellChanges = true,
@@ -194,6 +214,10 @@ inline constexpr PanelRules humid1{
     .captionMetric = " Humidification Calculation - (Metric Units)",
     .metricHumidityUnit = " g moisture/kg dry air",
     .labels = plainLabels,
+    .helpEntry = {"mnuHelpHumidity", "Help for Humidity"},
+    .searchCaption = "&Search for Help On",
+    .saveCaption = "&Save Results to File",
+    .fileSeparator = "mnuFiledash2",
     .actions = "Actions :",
     .dryBulbFrame = "Enter Outside Air Dry Bulb Temperature and Pressure:",
     .allItemsTellChanges = true,

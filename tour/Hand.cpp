@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -134,7 +135,9 @@ void Hand::key(const QString& key)
 QString Hand::reportFile(const QString& name) const
 {
     QDir(folder).mkpath("reports");
-    return folder + "/reports/" + name + "report.txt";
+    const QString path = folder + "/reports/" + name;
+    QFile::remove(path); // the print dialog would ask about it
+    return path;
 }
 
 void Hand::picture(const QString& name)

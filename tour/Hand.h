@@ -23,7 +23,7 @@ public:
     void enter(const QString& field, const QString& text);
     void key(const QString& key);
 
-    /// Where a report of that name is saved: among the reports beside the pictures.
+    /// A free place for a report of that name, among the reports beside the pictures.
     QString reportFile(const QString& name) const;
 
     /// A picture of the window that takes input, with its title bar, under that name.

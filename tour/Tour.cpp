@@ -75,7 +75,7 @@ void save(Hand& hand, const char* entry, const QString& name)
 {
     hand.choose(entry);
     hand.pictureOfAll(name + "save");
-    hand.type(hand.reportFile(name));
+    hand.type(hand.reportFile(name + "report.txt"));
     hand.key("Return");
 }
 
@@ -83,6 +83,7 @@ void save(Hand& hand, const char* entry, const QString& name)
 void print(Hand& hand, const char* entry, const QString& name)
 {
     hand.choose(entry);
+    hand.enter("filename", hand.reportFile(name + "report.pdf"));
     hand.pictureOfAll(name + "print");
     hand.key("Return");
 }

@@ -275,6 +275,53 @@ TEST_F(AirPanelScreen, FlagsGrainsThatAreTooFew)
     expectNoWarning("lblGrains2", " grains");
 }
 
+TEST_F(AirPanelScreen, LeavesTheClippedTextAndTheWarningOnShowWhereTheSolverFails)
+{
+    store("Pressure_psi", "0"); // every solver divides by it, after the clip
+    open();
+    struct Clip
+    {
+        const char* field;
+        const char* typed;
+        const char* shown;
+        const char* label;
+        const char* warning;
+    };
+    const Clip clips[] = {{"txtTwb", "71", "69.99", "lblTwb2", " Twb clipped at Tdb"},
+                          {"txttd", "71", "69.99", "lblDewPt2", " Dew Pt. clipped at Tdb"},
+                          {"txtRH", "101", "100", "lblRH2", " RH clipped at 100%"},
+                          {"txtRH", "-1", "0.1", "lblRH2", " RH clipped at 0.1%"},
+                          {"txtW", "-1", "0.00001", "lblW2", " W clipped at 0.00001"},
+                          {"txtGrains", "-1", "0.1", "lblGrains2", " grains clipped at 0.1"}};
+    for (const Clip& clip : clips) {
+        user.messages.clear();
+        calculate("70", clip.field, clip.typed);
+        EXPECT_EQ(user.messages, std::vector{outOfRange}) << clip.warning;
+        EXPECT_EQ(user.text(clip.field), clip.shown);
+        expectWarning(clip.label, clip.warning);
+        EXPECT_FALSE(user.isEnabled("btnCALCULATE"));
+    }
+}
+
+TEST_F(AirPanelScreen, PutsTheKilogramFigureIntoTheFieldInMetric)
+{
+    store("Pressure_kPa", "0");
+    open(true);
+    calculate("20", "txtW", "0.005");
+    EXPECT_EQ(user.messages, std::vector{outOfRange});
+    EXPECT_EQ(user.text("txtW"), "0.00001");
+}
+
+TEST_F(AirPanelScreen, ShiftsTheLastDigitOnASecondPressWithNothingTyped)
+{
+    open();
+    calculate("70", "txtRH", "50");
+    const std::string first = user.text("txtW");
+    user.click("btnCALCULATE"); // from the grains as displayed
+    EXPECT_EQ(first, "0.00778");
+    EXPECT_EQ(user.text("txtW"), "0.00779");
+}
+
 TEST_F(AirPanelScreen, TakesABlankDryBulbForZeroDegrees)
 {
     open();

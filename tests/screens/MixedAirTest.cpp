@@ -1,6 +1,9 @@
 #include "tests/screens/MixedAirFixture.h"
 
 #include <QAction>
+#include <QDir>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QWidget>
 
 using MixedAirScreen = MixedAirTest;
@@ -512,4 +515,135 @@ TEST_F(MixedAirScreen, KeepsItsStreamsWhenItIsLeft)
     user.click("btnMixedAir");
     EXPECT_EQ(user.text("txtTdb"), "");
     EXPECT_FALSE(user.menuEntry("mnuReview")->isVisible());
+}
+
+TEST_F(MixedAirScreen, LeavesForTheMainMenuByEveryWay)
+{
+    start();
+    const std::function<void()> ways[] = {[this] { user.choose("mnuExit"); },
+                                          [this] { user.choose("mnuMain1"); },
+                                          [this] { user.closeWindow(); }};
+    for (const auto& leave : ways) {
+        user.click("btnMixedAir");
+        EXPECT_EQ(user.window(), "MixedAir");
+        leave();
+        EXPECT_EQ(user.window(), "MainForm");
+        EXPECT_FALSE(isLoaded<MixedAir>());
+    }
+}
+
+TEST_F(MixedAirScreen, StandsAQuarterDownInTheMiddleOfTheScreen)
+{
+    open();
+    const QWidget* const window = User::findWindow("MixedAir");
+    const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
+    EXPECT_EQ(window->size(), QSize(800, 660));
+    EXPECT_EQ(window->pos(), QPoint((screen.width() - 800) / 2, (screen.height() - 660) / 4));
+    calculate("95", "txtRH", "40");
+    save("btnSaveOSA", "1000");
+    EXPECT_EQ(window->size(), QSize(800, 660)) << "the volumes have their room";
+}
+
+TEST_F(MixedAirScreen, LeavesTheCurrentFolderAsItIs)
+{
+    QDir::setCurrent("/");
+    open();
+    EXPECT_EQ(QDir::currentPath(), "/");
+}
+
+TEST_F(MixedAirScreen, TurnsTheButtonsOffByAClickOnAnyHumidityItem)
+{
+    open();
+    for (const char* field : {"txtTwb", "txttd", "txtRH", "txtW", "txtGrains"}) {
+        calculate("95", "txtRH", "40");
+        save("btnSaveOSA", "1000");
+        expectButtons(true, true, true);
+        user.click(field);
+        expectButtons(true, false, false);
+    }
+}
+
+TEST_F(MixedAirScreen, TurnsTheButtonsOffByAChangeOfTheWetBulbOrTheDewPointAlone)
+{
+    open();
+    calculate("95", "txtRH", "40");
+    save("btnSaveOSA", "1000");
+    for (const char* quiet : {"txtRH", "txtW", "txtGrains"}) {
+        user.type(quiet, "3");
+        expectButtons(true, true, true);
+    }
+    user.type("txtTwb", "60");
+    expectButtons(true, false, false);
+    calculate("95", "txtRH", "40");
+    save("btnSaveOSA", "1000");
+    user.type("txttd", "60");
+    expectButtons(true, false, false);
+}
+
+TEST_F(MixedAirScreen, EmptiesTheTwoResultsOnAClickOnTheDryBulbAndLeavesTheButtons)
+{
+    open();
+    calculate("95", "txtRH", "40");
+    save("btnSaveOSA", "1000");
+    user.click("txtTdb");
+    EXPECT_EQ(user.text("txth"), "");
+    EXPECT_EQ(user.text("txtSpVol"), "");
+    EXPECT_EQ(user.text("txtTdb"), "95");
+    EXPECT_EQ(user.text("txtRH"), "40.0");
+    expectButtons(true, true, true);
+}
+
+TEST_F(MixedAirScreen, LeavesNothingToBeTypedIntoTheResults)
+{
+    open();
+    calculate("95", "txtRH", "40");
+    for (const char* field : {"txth", "txtSpVol"}) {
+        const std::string before = user.text(field);
+        user.widget(field)->setFocus();
+        user.keys("12");
+        EXPECT_EQ(user.text(field), before);
+    }
+}
+
+TEST_F(MixedAirScreen, RefusesADryBulbThatIsNoNumberAndKeepsTheSaveButtons)
+{
+    open();
+    calculate("95", "txtRH", "40");
+    user.type("txtTdb", "abc");
+    user.click("btnCALCULATE");
+    EXPECT_EQ(user.messages, std::vector{outOfRange});
+    expectButtons(false, true, false);
+}
+
+TEST_F(MixedAirScreen, TakesTheWholeRangeOfDryBulbsInMetric)
+{
+    open(true);
+    for (const char* tdb : {"125", "-40"}) {
+        calculate(tdb, "txtRH", "10");
+        EXPECT_TRUE(user.messages.empty()) << tdb;
+        EXPECT_NE(user.text("txth"), "") << tdb;
+    }
+}
+
+TEST_F(MixedAirScreen, ClearsTheStateWhenItOpens)
+{
+    start();
+    user.click("btnAirCalc");
+    calculate("70", "txtRH", "50");
+    user.choose("mnuMain1");
+    user.click("btnMixedAir");
+    EXPECT_EQ(StatePoint.Tdb, 0.0F);
+    EXPECT_EQ(StatePoint.Grains.kind(), NumberKind::Int16);
+    EXPECT_EQ(AirVolume.kind(), NumberKind::Int16);
+}
+
+TEST_F(MixedAirScreen, FlagsTheClipsOfTheOtherItems)
+{
+    open();
+    calculate("70", "txtRH", "101");
+    EXPECT_EQ(user.text("lblRH2"), " RH clipped at 100%");
+    calculate("70", "txtRH", "0");
+    EXPECT_EQ(user.text("lblRH2"), " RH clipped at 0.1%");
+    calculate("70", "txtW", "0");
+    EXPECT_EQ(user.text("lblW2"), " W clipped at 0.00001");
 }

@@ -109,9 +109,11 @@ TEST_F(OptionsScreen, RefusesMetricPressuresOutsideFortySevenToOneHundredEight)
             user.type("txtBP", refused);
             user.click("btnOK");
             EXPECT_EQ(user.messages, std::vector{kPaRange}) << refused;
+            EXPECT_EQ(user.window(), "Settings");
             user.click("btnCancel");
         });
     }
+    EXPECT_EQ(stored("Pressure_kPa"), "(nothing)");
 }
 
 TEST_F(OptionsScreen, TakesFortySevenAndOneHundredEightKPa)
@@ -229,6 +231,14 @@ TEST_F(OptionsScreen, ChangesTheUnitsBeforeItRefusesThePressure)
     user.click("btnAirCalc");
     EXPECT_EQ(user.title(), " Air Properties Calculator - (Metric Units)");
     EXPECT_EQ(user.text("txtP"), "14.696");
+
+    user.choose("mnuMain1");
+    user.choose("mnuExit"); // stores the units in force, and no pressure that is read
+    EXPECT_EQ(stored("Metric_Units"), "True");
+    EXPECT_EQ(stored("Baro_Pressure"), "14.696");
+    start();
+    EXPECT_EQ(UnitSystem, -1);
+    EXPECT_EQ(BaroPressure, 101.352F);
 }
 
 TEST_F(OptionsScreen, EndsTheProgramOnAPressureThatIsNoNumber)
