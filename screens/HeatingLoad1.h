@@ -28,8 +28,8 @@ private:
     void showLoad();
 
     Frame Frame6{*this, "Frame6", "Set Entering Air Conditions ... then click 'Entering Air'"};
-    Button btnInputLeavingAir{*this, "btnInputLeavingAir", "Input Leaving Air"};
     Button btnSaveEnteringAir{*this, "btnSaveEnteringAir", "Save Entering Air"};
+    Button btnInputLeavingAir{*this, "btnInputLeavingAir", "Input Leaving Air"};
     Frame Frame4{*this, "Frame4"};
     TextField txtAirVolume{*this, "txtAirVolume"};
     Label lblAirVolume{*this, "lblAirVolume"};

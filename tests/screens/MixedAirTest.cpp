@@ -502,6 +502,10 @@ TEST_F(MixedAirScreen, GoesOnWithAMixtureAboveSaturation)
     EXPECT_EQ(user.window(), "Answers1");
     EXPECT_GT(MixedResultAir.RH, 1.0F);
     EXPECT_EQ(MixedResultAir.SpVol, staleVolume) << "left behind by the last state";
+    EXPECT_EQ(user.text("lblRH(2)"), FormatNumber(TaggedNumber(MixedResultAir.RH) * 100, "##0.0"));
+    EXPECT_EQ(user.text("lblTwb(2)"), user.text("lblTwb(1)"));
+    EXPECT_EQ(user.text("lbltd(2)"), user.text("lbltd(1)"));
+    EXPECT_EQ(user.text("lblSpVol(2)"), user.text("lblSpVol(1)"));
 }
 
 TEST_F(MixedAirScreen, KeepsItsStreamsWhenItIsLeft)
@@ -646,4 +650,53 @@ TEST_F(MixedAirScreen, FlagsTheClipsOfTheOtherItems)
     EXPECT_EQ(user.text("lblRH2"), " RH clipped at 0.1%");
     calculate("70", "txtW", "0");
     EXPECT_EQ(user.text("lblW2"), " W clipped at 0.00001");
+}
+
+TEST_F(MixedAirScreen, OffersTheReturnVolumeOnTheOtherScreensToo)
+{
+    open();
+    std::string offered;
+    const auto answerVolume = [&](const std::string& button, const std::string& volume) {
+        user.inDialog("cfmForm", [&, volume] {
+            offered = user.text("txtCFMinput");
+            user.type("txtCFMinput", volume);
+            user.click("btnOK");
+        });
+        user.click(button);
+    };
+    calculate("75", "txtRH", "50");
+    save("btnRA", "3000");
+    save("btnRA", "3500");
+    user.choose("mnuMain1");
+
+    user.click("btnCooling");
+    calculate("95", "txtRH", "40");
+    answerVolume("btnSaveEA", "0");
+    EXPECT_EQ(offered, "3000");
+    EXPECT_EQ(CoolingEnteringAir.AirVolume, 0.0F);
+    user.choose("mnuMain1");
+
+    user.click("btnHeating");
+    calculate("70", "txtRH", "50");
+    answerVolume("btnSaveEnteringAir", "0");
+    EXPECT_EQ(offered, "3000");
+    EXPECT_EQ(user.text("txtAirVolume"), "0") << "a typed 0 is a volume like any other here";
+    EXPECT_EQ(HeatingEnteringAir.AirVolume, 0.0F);
+}
+
+TEST_F(MixedAirScreen, LiesNearerToTheColderStreamAtEqualVolumes)
+{
+    open();
+    calculate("95", "txtRH", "40");
+    save("btnSaveOSA", "1000");
+    calculate("50", "txtRH", "50");
+    save("btnRA", "1000");
+    user.click("btnMixedAir");
+    const AirSnapshot& warm = MixedOutsideAir;
+    const AirSnapshot& cold = MixedReturnAir;
+    const double warmMass = 1000.0 / warm.SpVol;
+    const double coldMass = 1000.0 / cold.SpVol;
+    EXPECT_LT(MixedResultAir.W, (warm.W + cold.W) / 2);
+    EXPECT_LT(MixedResultAir.h, (warm.h + cold.h) / 2);
+    EXPECT_NEAR(MixedResultAir.h, (warm.h * warmMass + cold.h * coldMass) / (warmMass + coldMass), 1e-4);
 }

@@ -1,0 +1,157 @@
+// The save and print entries of every form, through the real dialogs.
+
+#include "reports/ReportFolders.h"
+#include "tests/platform/Dialogs.h"
+#include "tests/support/ProgramTest.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+class ReportCommands : public ProgramTest
+{
+protected:
+    void SetUp() override
+    {
+        qputenv("CUPS_SERVER", "/nowhere"); // no printer of this machine's user gets a page
+        reportsFolder = folder.path().toStdString();
+        ReportsBase = [] { return reportsFolder; };
+    }
+
+    std::string saved(const std::string& entry)
+    {
+        const QString path = folder.filePath("report");
+        QFile::remove(path);
+        user.inDialog("SaveDialog", [path] { saveAs(path)(dialog()); });
+        user.choose(entry);
+        return bytesOf(path);
+    }
+
+    /// What the temporary file holds after printing to a PDF.
+    std::string printed(const std::string& entry, const std::string& temporaryFile)
+    {
+        const QString path = folder.filePath("paper.pdf");
+        QFile::remove(path);
+        user.inDialog("PrintDialog", [path] { printTo(path)(dialog()); });
+        user.choose(entry);
+        EXPECT_NE(bytesOf(path), "(none)") << "a document was printed";
+        return bytesOf(folder.filePath("tempdata/") + QString::fromStdString(temporaryFile));
+    }
+
+    void calculate(const std::string& tdb, const std::string& rh)
+    {
+        user.type("txtTdb", tdb);
+        user.click("txtRH");
+        user.type("txtRH", rh);
+        user.click("btnCALCULATE");
+    }
+
+    void answerVolume(const std::string& button, const std::string& volume)
+    {
+        user.inDialog("cfmForm", [this, volume] {
+            offered = user.text("txtCFMinput");
+            if (!volume.empty())
+                user.type("txtCFMinput", volume);
+            user.click("btnOK");
+        });
+        user.click(button);
+    }
+
+    static bool has(const std::string& text, const std::string& part)
+    {
+        return text.find(part) != std::string::npos;
+    }
+
+    std::string offered;
+
+private:
+    static QDialog& dialog() { return *qobject_cast<QDialog*>(QApplication::activeModalWidget()); }
+
+    static std::string bytesOf(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(none)";
+    }
+
+    static inline std::string reportsFolder;
+    QTemporaryDir folder;
+};
+
+TEST_F(ReportCommands, OfTheAirPropertiesWriteTheFieldsOnTheScreen)
+{
+    start();
+    user.click("btnAirCalc");
+    calculate("70", "50");
+    const std::string report = saved("mnuSave");
+    EXPECT_TRUE(has(report, "\n Calculated Psychrometric Properties\n"));
+    EXPECT_TRUE(has(report, "\n Relative Humidity =        50.0%\n"));
+    EXPECT_EQ(printed("mnuPrintDialog", "Airprop.txt"), report);
+}
+
+TEST_F(ReportCommands, OfTheAirPropertiesEndSilentlyForTheRestOfTheRunAfterAnEmptyHumidity)
+{
+    start();
+    user.click("btnAirCalc");
+    const std::string broken = saved("mnuSave");
+    EXPECT_TRUE(has(broken, "Dew Point Temp = "));
+    EXPECT_FALSE(has(broken, "Relative Humidity"));
+    calculate("70", "50");
+    EXPECT_EQ(saved("mnuSave"), "(none)");
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(ReportCommands, OfBothMixedAirScreensWriteTheSameRecords)
+{
+    start();
+    user.click("btnMixedAir");
+    calculate("95", "40");
+    answerVolume("btnSaveOSA", "1000");
+    calculate("75", "50");
+    answerVolume("btnRA", "3000");
+    user.click("btnMixedAir");
+    const std::string report = saved("mnuSave2File");
+    EXPECT_TRUE(has(report, "\n Air Flow Rate =            4,000          cfm\n"));
+    EXPECT_EQ(printed("mnuPrintResults", "mixedair.txt"), report);
+    user.click("btnOK");
+    EXPECT_EQ(saved("mnuSave"), report);
+    EXPECT_EQ(printed("mnuPrintDialog", "mixedair.txt"), report);
+}
+
+TEST_F(ReportCommands, OfTheCoolingCalculatorWriteBeforeAnythingWasSaved)
+{
+    start();
+    user.click("btnCooling");
+    const std::string report = saved("mnuSave");
+    EXPECT_TRUE(has(report, "\n Cooling Load Summary\n"));
+    EXPECT_EQ(printed("mnuPrintDialog", "cooling.txt"), report);
+}
+
+TEST_F(ReportCommands, OfTheHeatingCalculatorWriteTheirTwoLayouts)
+{
+    start();
+    user.click("btnHeating");
+    const std::string report = saved("mnuSave");
+    const std::string paper = printed("mnuPrintDialog", "heating.txt");
+    EXPECT_TRUE(has(report, "\n Heating Load Summary\n"));
+    EXPECT_TRUE(has(paper, "\n Heating Load Summary\n"));
+    EXPECT_NE(paper, report);
+}
+
+TEST_F(ReportCommands, OfBothHumidificationScreensWriteTheSame)
+{
+    start();
+    user.click("btnHumidity");
+    const std::string report = saved("mnuSave");
+    const std::string paper = printed("mnuPrintDialog", "humidity.txt");
+    EXPECT_TRUE(has(report, "\n Moisture Required\n"));
+    EXPECT_TRUE(has(paper, "\n Moisture Required\n"));
+    calculate("30", "60");
+    const std::string calculated = saved("mnuSave");
+    const std::string calculatedPaper = printed("mnuPrintDialog", "humidity.txt");
+    EXPECT_NE(calculated, report);
+    user.inDialog("humid2", [&] {
+        EXPECT_EQ(saved("mnuSave"), calculated);
+        EXPECT_EQ(printed("mnuPrint", "humidity.txt"), calculatedPaper);
+        user.click("btnOK");
+    });
+    user.click("btnHumidityDesired");
+}
