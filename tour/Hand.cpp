@@ -135,7 +135,7 @@ void Hand::key(const QString& key)
 QString Hand::reportFile(const QString& name) const
 {
     QDir(folder).mkpath("reports");
-    const QString path = folder + "/reports/" + name;
+    QString path = folder + "/reports/" + name;
     QFile::remove(path); // the print dialog would ask about it
     return path;
 }

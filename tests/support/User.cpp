@@ -142,9 +142,9 @@ void User::key(Qt::Key key, Qt::KeyboardModifiers modifiers)
 
 void User::keys(const std::string& text) { QTest::keyClicks(windowInUse()->focusWidget(), q(text)); }
 
-void User::choose(const std::string& name)
+void User::choose(const std::string& menuEntryName)
 {
-    QAction* const entry = menuEntry(name);
+    QAction* const entry = menuEntry(menuEntryName);
     auto* const bar = static_cast<QMainWindow*>(windowInUse())->menuBar();
     for (QAction* onBar : bar->actions()) {
         const bool isIt = onBar == entry;

@@ -44,7 +44,7 @@ public:
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void keys(const std::string& text);
 
-    void choose(const std::string& menuEntry);
+    void choose(const std::string& menuEntryName);
     void chooseFromList(const std::string& list, const std::string& entry);
     void closeWindow();
 
