@@ -57,7 +57,7 @@ void AirPanel::layOutRows()
 void AirPanel::placeScreen()
 {
     setSize(8000, 6600);
-    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 4);
+    placeInTheMiddle(4);
 }
 
 void AirPanel::layOutActions(std::initializer_list<Button*> buttons)

@@ -104,7 +104,7 @@ void Answers1::buildMenus()
 void Answers1::Form_Load()
 {
     setSize(8000, 6600);
-    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 4);
+    placeInTheMiddle(4);
     RepaintForm();
 }
 

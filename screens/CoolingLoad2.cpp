@@ -20,12 +20,6 @@ CoolingLoad2::CoolingLoad2() : Form("CoolingLoad2", FormKind::Dialog)
 
 void CoolingLoad2::layOut()
 {
-    auto* const buttons = new QHBoxLayout;
-    buttons->setSpacing(10);
-    buttons->addStretch();
-    buttons->addWidget(btnOK.widget());
-    buttons->addWidget(btnCancel.widget());
-
     Label1.setWrapped();
     Label1.widget()->setMinimumHeight(Label1.widget()->fontMetrics().height() * 2);
     auto* const grid = new QGridLayout(area());
@@ -42,7 +36,7 @@ void CoolingLoad2::layOut()
     grid->setColumnMinimumWidth(1, Label1.widget()->fontMetrics().averageCharWidth() * 16);
     grid->setColumnMinimumWidth(2, Label1.widget()->fontMetrics().averageCharWidth() * 20);
     grid->setRowMinimumHeight(3, 8);
-    grid->addLayout(buttons, 4, 0, 1, 3);
+    grid->addLayout(buttonRow({}, {&btnOK, &btnCancel}), 4, 0, 1, 3);
     txtLATdb.alignRight();
     txtLATwb.alignRight();
     Label2.describe(txtLATdb);

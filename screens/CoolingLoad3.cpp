@@ -49,7 +49,7 @@ void CoolingLoad3::layOut()
     grid->setColumnMinimumWidth(Value, Label1.widget()->fontMetrics().averageCharWidth() * 18);
     for (Label* sign : {&Label4, &Label5})
         sign->setPointSize(12);
-    setTabOrder({&txtcfm1, &txtBTU[1], &txtBTU[2], &txtBTU[0], &Command1});
+    setTabOrder({&txtcfm1, &txtBTU[1], &txtBTU[2], &txtBTU.front(), &Command1});
 }
 
 /// Tab goes down the sum, not along the indexes of its fields.
@@ -68,7 +68,7 @@ void CoolingLoad3::Form_Load()
     setBackColour(Colours::LightGrey);
     RepaintCooling3();
     fitToControls();
-    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 4);
+    placeInTheMiddle(4);
     txtcfm1.setText(FormatNumber(AirVolume, "#,###.0#")); // as held: the text of the dialog, or 0
 }
 

@@ -39,7 +39,7 @@ void HeatingLoad2::layOut()
 void HeatingLoad2::Form_Load()
 {
     fitToControls();
-    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 4);
+    placeInTheMiddle(4);
 }
 
 void HeatingLoad2::Form_QueryUnload(CloseReason reason)

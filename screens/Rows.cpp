@@ -80,6 +80,18 @@ void layOutBelowBanner(QWidget& area, Frame& banner, QWidget& panel)
     whole->addWidget(&panel, 1);
 }
 
+QHBoxLayout* buttonRow(std::initializer_list<Button*> left, std::initializer_list<Button*> right)
+{
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(10);
+    for (const Button* button : left)
+        row->addWidget(button->widget());
+    row->addStretch();
+    for (const Button* button : right)
+        row->addWidget(button->widget());
+    return row;
+}
+
 void colourEntry(TextField& field, Colour colour)
 {
     field.setBackColour(colour);

@@ -1,13 +1,16 @@
 #pragma once
 
+#include "platform/forms/Button.h"
 #include "platform/forms/Frame.h"
 #include "platform/forms/Label.h"
 #include "platform/forms/TextField.h"
 
+#include <initializer_list>
 #include <string>
 #include <vector>
 
 class QGridLayout;
+class QHBoxLayout;
 class QWidget;
 
 /// One row of a frame: a caption, the field that it describes, the unit beside it.
@@ -36,6 +39,9 @@ void layOutPairs(Frame& frame, const std::vector<Pair>& pairs);
 
 /// Lays a form out as a frame that holds nothing, whose caption is a line of instruction, above a panel.
 void layOutBelowBanner(QWidget& area, Frame& banner, QWidget& panel);
+
+/// The row of buttons at the foot of a dialog: some at its left edge, the others at its right.
+QHBoxLayout* buttonRow(std::initializer_list<Button*> left, std::initializer_list<Button*> right);
 
 /// Gives a field a light back colour, black text on it, and its value the right place.
 void colourEntry(TextField& field, Colour colour);

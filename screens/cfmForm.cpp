@@ -21,12 +21,6 @@ cfmForm::cfmForm() : Form("cfmForm", FormKind::Dialog)
 
 void cfmForm::layOut()
 {
-    auto* const buttons = new QHBoxLayout;
-    buttons->setSpacing(10);
-    buttons->addStretch();
-    buttons->addWidget(btnOK.widget());
-    buttons->addWidget(btnCancel.widget());
-
     auto* const grid = new QGridLayout(area());
     grid->setContentsMargins(20, 20, 20, 20);
     grid->setVerticalSpacing(14);
@@ -37,7 +31,7 @@ void cfmForm::layOut()
     grid->setColumnMinimumWidth(0, label2.widget()->fontMetrics().averageCharWidth() * 18);
     grid->setColumnMinimumWidth(1, label2.widget()->fontMetrics().averageCharWidth() * 24);
     grid->setRowMinimumHeight(2, 8);
-    grid->addLayout(buttons, 3, 0, 1, 2);
+    grid->addLayout(buttonRow({}, {&btnOK, &btnCancel}), 3, 0, 1, 2);
     txtCFMinput.alignRight();
     Label1.describe(txtCFMinput);
 }
@@ -45,7 +39,7 @@ void cfmForm::layOut()
 void cfmForm::Form_Load()
 {
     fitToControls();
-    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 2);
+    placeInTheMiddle(2);
 }
 
 void cfmForm::Form_Activate()

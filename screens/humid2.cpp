@@ -36,7 +36,7 @@ void humid2::buildMenus()
 void humid2::Form_Load()
 {
     setSize(8000, 6600);
-    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 4);
+    placeInTheMiddle(4);
     RepaintHumid2();
 }
 

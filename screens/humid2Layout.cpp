@@ -52,17 +52,13 @@ void humid2::layOut()
 
     giveRoom(btnCalcHumid);
     giveRoom(btnOK);
-    auto* const buttons = new QHBoxLayout;
-    buttons->addWidget(btnCalcHumid.widget());
-    buttons->addStretch();
-    buttons->addWidget(btnOK.widget());
 
     auto* const whole = new QVBoxLayout(area());
     whole->setContentsMargins(16, 16, 16, 16);
     whole->setSpacing(16);
     whole->addWidget(Frame2.widget());
     whole->addWidget(Frame1.widget());
-    whole->addLayout(buttons);
+    whole->addLayout(buttonRow({&btnCalcHumid}, {&btnOK}));
     whole->addWidget(Frame3.widget());
     whole->addStretch();
 

@@ -80,7 +80,7 @@ void MainForm::buildMenus()
 void MainForm::Form_Load()
 {
     setSize(8000, 6600);
-    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 4);
+    placeInTheMiddle(4);
     UnitSystem = ParseBoolean(StoredText("Metric_Units", "false"));
     const std::string pressure =
         IsMetric() ? StoredText("Pressure_kPa", defaultKPa) : StoredText("Pressure_psi", defaultPsi);
@@ -108,35 +108,18 @@ void MainForm::Form_Unload()
     Unload();
 }
 
-void MainForm::btnAirCalc_Click()
+template <class Calculator>
+void MainForm::open()
 {
     Hide();
-    form<AirPropertiesCalc>().Show();
+    form<Calculator>().Show();
 }
 
-void MainForm::btnMixedAir_Click()
-{
-    Hide();
-    form<MixedAir>().Show();
-}
-
-void MainForm::btnCooling_Click()
-{
-    Hide();
-    form<CoolingLoad1>().Show();
-}
-
-void MainForm::btnHeating_Click()
-{
-    Hide();
-    form<HeatingLoad1>().Show();
-}
-
-void MainForm::btnHumidity_Click()
-{
-    Hide();
-    form<Humid1>().Show();
-}
+void MainForm::btnAirCalc_Click() { open<AirPropertiesCalc>(); }
+void MainForm::btnMixedAir_Click() { open<MixedAir>(); }
+void MainForm::btnCooling_Click() { open<CoolingLoad1>(); }
+void MainForm::btnHeating_Click() { open<HeatingLoad1>(); }
+void MainForm::btnHumidity_Click() { open<Humid1>(); }
 
 void MainForm::mnuExit_Click()
 {

@@ -22,6 +22,9 @@ private:
     void layOut();
     void buildMenus();
 
+    template <class Calculator>
+    void open();
+
     void btnAirCalc_Click();
     void btnMixedAir_Click();
     void btnCooling_Click();

@@ -79,13 +79,6 @@ Settings::Settings() : Form("Settings", FormKind::Dialog)
 
 void Settings::layOut()
 {
-    auto* const buttons = new QHBoxLayout;
-    buttons->setSpacing(10);
-    buttons->addWidget(btnDefault.widget());
-    buttons->addStretch();
-    buttons->addWidget(btnOK.widget());
-    buttons->addWidget(btnCancel.widget());
-
     auto* const grid = new QGridLayout(area());
     grid->setContentsMargins(20, 20, 20, 20);
     grid->setVerticalSpacing(14);
@@ -98,7 +91,7 @@ void Settings::layOut()
     grid->setColumnMinimumWidth(2, Label1.widget()->fontMetrics().averageCharWidth() * 6);
     grid->setColumnStretch(1, 1);
     grid->setRowMinimumHeight(2, 12);
-    grid->addLayout(buttons, 3, 0, 1, 3);
+    grid->addLayout(buttonRow({&btnDefault}, {&btnOK, &btnCancel}), 3, 0, 1, 3);
 
     txtBP.alignRight();
     lblUnits.describe(Combo1);
@@ -112,7 +105,7 @@ void Settings::Form_Load()
     Combo1.addItem(metric.entry);
     Combo1.select(IsMetric() ? 1 : 0);
     fitToControls();
-    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / 2);
+    placeInTheMiddle(2);
 }
 
 /// Shows what is stored for the chosen system, which need not be the pressure in force.

@@ -77,8 +77,10 @@ void Form::endWait()
 
 void Form::Unload(CloseReason reason)
 {
-    if (unloading)
+    if (unloading) {
+        Hide(); // asked for by its own unload handlers, who may show another form next
         return;
+    }
     unloading = true;
     const RunningHandler running(*this);
     runHandler(*this, [this, reason] { Form_QueryUnload(reason); });
@@ -103,6 +105,11 @@ void Form::setSize(Twips width, Twips height) { frame->setLeastSize({toPixels(wi
 
 void Form::fitToControls() { setSize(0, 0); }
 void Form::moveTo(Twips left, Twips top) { frame->move(toPixels(left), toPixels(top)); }
+void Form::placeInTheMiddle(int topPart)
+{
+    moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / topPart);
+}
+
 Twips Form::width() const { return toTwips(frame->width()); }
 Twips Form::height() const { return toTwips(frame->height()); }
 bool Form::isVisible() const { return frame->isVisible(); }

@@ -52,7 +52,7 @@ public:
     /// Takes the form off the screen and keeps it with all its fields.
     void Hide();
     /// Runs Form_QueryUnload and Form_Unload and destroys the form once none of its handlers runs any more.
-    /// A second call is harmless.
+    /// A second call is harmless; from one of these handlers it takes the window off the screen at once.
     void Unload(CloseReason reason = CloseReason::Code);
 
     void setBackColour(Colour colour);
@@ -64,6 +64,8 @@ public:
     /// Makes the window as large as its controls ask for.
     void fitToControls();
     void moveTo(Twips left, Twips top);
+    /// Centres the window across the screen, with one part of so many of the free height above it.
+    void placeInTheMiddle(int topPart);
     Twips width() const;
     Twips height() const;
     bool isVisible() const;

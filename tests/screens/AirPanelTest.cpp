@@ -1,6 +1,6 @@
 // The air-state panel, seen on the air properties calculator.
 
-#include "tests/support/ProgramTest.h"
+#include "tests/screens/CalculatorFixture.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -8,52 +8,13 @@
 #include <QTest>
 #include <QWidget>
 
-class AirPanelScreen : public ProgramTest
+class AirPanelScreen : public CalculatorTest
 {
 protected:
     void open(bool metric = false)
     {
         metric ? startInMetric() : start();
         user.click("btnAirCalc");
-    }
-
-    /// Gives a dry bulb and one item the way most users do, and presses the button.
-    void calculate(const std::string& tdb, const std::string& field, const std::string& text)
-    {
-        enter(tdb, field, text);
-        user.click("btnCALCULATE");
-    }
-
-    void enter(const std::string& tdb, const std::string& field, const std::string& text)
-    {
-        user.type("txtTdb", tdb);
-        user.click(field);
-        user.type(field, text);
-    }
-
-    QColor back(const std::string& control)
-    {
-        const QWidget* const shown = user.widget(control);
-        return shown->palette().color(shown->backgroundRole());
-    }
-    QColor fore(const std::string& control)
-    {
-        const QWidget* const shown = user.widget(control);
-        return shown->palette().color(shown->foregroundRole());
-    }
-
-    void expectWarning(const std::string& label, const std::string& caption)
-    {
-        EXPECT_EQ(user.text(label), caption);
-        EXPECT_EQ(back(label), QColor(255, 0, 0));
-        EXPECT_EQ(fore(label), QColor(255, 255, 255));
-    }
-
-    void expectNoWarning(const std::string& label, const std::string& caption)
-    {
-        EXPECT_EQ(user.text(label), caption);
-        EXPECT_EQ(back(label), QColor(192, 192, 192));
-        EXPECT_EQ(fore(label), QColor(0, 0, 0));
     }
 };
 
@@ -368,38 +329,14 @@ TEST_F(AirPanelScreen, RefusesAWetBulbFarBelowTheDryBulb)
 TEST_F(AirPanelScreen, EmptiesTheOtherItemsOnAClick)
 {
     open();
-    const std::pair<const char*, const char*> items[] = {{"txtTwb", "Wetbulb"},
-                                                         {"txttd", "Dew Point"},
-                                                         {"txtRH", "Rel"},
-                                                         {"txtW", "W"},
-                                                         {"txtGrains", "Grains"}};
-    for (const auto& [clicked, selector] : items) {
-        calculate("70", "txtRH", "50");
-        const std::string kept = user.text(clicked);
-        user.click(clicked);
-        EXPECT_EQ(user.text(clicked), kept);
-        EXPECT_EQ(HumiditySelector, selector);
-        for (const auto& [other, unused] : items) {
-            if (std::string(other) != clicked) {
-                EXPECT_EQ(user.text(other), "") << other << " after a click on " << clicked;
-            }
-        }
-        EXPECT_EQ(user.text("txth"), "");
-        EXPECT_EQ(user.text("txtSpVol"), "");
-        EXPECT_EQ(user.text("txtTdb"), "70");
-        EXPECT_TRUE(user.isEnabled("btnCALCULATE"));
-    }
+    const auto buttonIsOn = [this] { EXPECT_TRUE(user.isEnabled("btnCALCULATE")); };
+    expectEachClickToEmptyTheOthers(buttonIsOn, buttonIsOn);
 }
 
 TEST_F(AirPanelScreen, SelectsAnItemByTypingWithoutAClick)
 {
     open();
-    const std::pair<const char*, const char*> items[] = {{"txtTwb", "Wetbulb"},
-                                                         {"txttd", "Dew Point"},
-                                                         {"txtRH", "Rel"},
-                                                         {"txtW", "W"},
-                                                         {"txtGrains", "Grains"}};
-    for (const auto& [field, selector] : items) {
+    for (const auto& [field, selector] : humidityItems) {
         user.type(field, "5");
         EXPECT_EQ(HumiditySelector, selector);
         EXPECT_TRUE(user.isEnabled("btnCALCULATE"));

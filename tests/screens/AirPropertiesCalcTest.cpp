@@ -1,7 +1,7 @@
 #include "screens/AirPropertiesCalc.h"
 
 #include "platform/Desktop.h"
-#include "tests/support/ProgramTest.h"
+#include "tests/screens/CalculatorFixture.h"
 
 #include <QAction>
 #include <QDir>
@@ -10,7 +10,7 @@
 #include <QScreen>
 #include <QWidget>
 
-class AirPropertiesScreen : public ProgramTest
+class AirPropertiesScreen : public CalculatorTest
 {
 protected:
     void open()
@@ -129,17 +129,14 @@ TEST_F(AirPropertiesScreen, MakesTheProgramsFolderCurrent)
 TEST_F(AirPropertiesScreen, LeavesForTheMainMenuByEveryWay)
 {
     start();
-    const std::function<void()> ways[] = {[this] { user.choose("mnuExit"); },
-                                          [this] { user.choose("mnuMain1"); }, [this] { user.closeWindow(); },
-                                          [this] { user.key(Qt::Key_M, Qt::AltModifier); }};
-    for (const auto& leave : ways) {
-        user.click("btnAirCalc");
-        EXPECT_EQ(user.window(), "AirPropertiesCalc");
-        EXPECT_FALSE(User::findWindow("MainForm")->isVisible());
-        leave();
-        EXPECT_EQ(user.window(), "MainForm");
-        EXPECT_FALSE(isLoaded<AirPropertiesCalc>());
-    }
+    expectToLeaveByEveryWay<AirPropertiesCalc>("btnAirCalc");
+}
+
+TEST_F(AirPropertiesScreen, LeavesForTheMainMenuByTheMenusAccessKey)
+{
+    open();
+    user.key(Qt::Key_M, Qt::AltModifier);
+    EXPECT_EQ(user.window(), "MainForm");
 }
 
 TEST_F(AirPropertiesScreen, ClearsTheStateEachTimeItOpens)

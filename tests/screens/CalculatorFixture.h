@@ -19,6 +19,16 @@ class CalculatorTest : public ProgramTest
 {
 protected:
     using Names = std::vector<std::string>;
+    /// The five humidity items with the name that selects each.
+    static inline const std::pair<std::string, std::string> humidityItems[] = {{"txtTwb", "Wetbulb"},
+                                                                               {"txttd", "Dew Point"},
+                                                                               {"txtRH", "Rel"},
+                                                                               {"txtW", "W"},
+                                                                               {"txtGrains", "Grains"}};
+
+    /// What the air volume dialog offered when it was answered last.
+    std::string offeredVolume;
+
     using Captions = std::vector<std::pair<std::string, std::string>>;
 
     /// Gives a dry bulb and one item the way most users do.
@@ -33,6 +43,72 @@ protected:
     {
         enter(tdb, field, text);
         user.click("btnCALCULATE");
+    }
+
+    /// Presses a button that asks for an air volume, and answers.
+    void answerVolume(const std::string& button, const std::string& volume)
+    {
+        user.inDialog("cfmForm", [this, volume] {
+            offeredVolume = user.text("txtCFMinput");
+            user.type("txtCFMinput", volume);
+            user.click("btnOK");
+        });
+        user.click(button);
+    }
+
+    void cancelVolume(const std::string& button)
+    {
+        user.inDialog("cfmForm", [this] { user.click("btnCancel"); });
+        user.click(button);
+    }
+
+    /// Opens a calculator and leaves it, by each of its ways back to the main menu.
+    template <class Calculator>
+    void expectToLeaveByEveryWay(const std::string& button)
+    {
+        const std::function<void()> ways[] = {[this] { user.choose("mnuExit"); },
+                                              [this] { user.choose("mnuMain1"); },
+                                              [this] { user.closeWindow(); }};
+        for (const auto& leave : ways) {
+            user.click(button);
+            EXPECT_TRUE(isLoaded<Calculator>());
+            EXPECT_FALSE(User::findWindow("MainForm")->isVisible());
+            leave();
+            EXPECT_EQ(user.window(), "MainForm");
+            EXPECT_FALSE(isLoaded<Calculator>());
+        }
+    }
+
+    /// Edits each humidity item after a calculation; what an edit does to the buttons is looked at by the
+    /// caller's two functions.
+    void expectEachEditToSelectItsItem(const std::function<void()>& before,
+                                       const std::function<void()>& after)
+    {
+        for (const auto& [field, selector] : humidityItems) {
+            calculate("70", "txtRH", "50");
+            before();
+            user.type(field, "0.005");
+            after();
+            EXPECT_EQ(HumiditySelector, selector);
+        }
+    }
+
+    /// Clicks each humidity item after a calculation: the others and the two results are emptied.
+    void expectEachClickToEmptyTheOthers(const std::function<void()>& before,
+                                         const std::function<void()>& after)
+    {
+        for (const auto& [item, selector] : humidityItems) {
+            calculate("70", "txtRH", "50");
+            before();
+            const std::string kept = user.text(item);
+            user.click(item);
+            after();
+            EXPECT_EQ(HumiditySelector, selector);
+            EXPECT_EQ(user.text("txtTdb"), "70");
+            for (const std::string other :
+                 {"txtTwb", "txttd", "txtRH", "txtW", "txtGrains", "txth", "txtSpVol"})
+                EXPECT_EQ(user.text(other), other == item ? kept : "") << item << " clicked: " << other;
+        }
     }
 
     void expectCaptions(const Captions& captions)
@@ -83,6 +159,13 @@ protected:
         EXPECT_EQ(user.text(label), caption);
         EXPECT_EQ(back(label), QColor(255, 0, 0));
         EXPECT_EQ(fore(label), QColor(255, 255, 255));
+    }
+
+    void expectNoWarning(const std::string& label, const std::string& caption)
+    {
+        EXPECT_EQ(user.text(label), caption);
+        EXPECT_EQ(back(label), QColor(192, 192, 192));
+        EXPECT_EQ(fore(label), QColor(0, 0, 0));
     }
 
     /// What has the focus once a dialog that has just come up is the active window.

@@ -4,7 +4,7 @@
 #include "screens/CoolingLoad1.h"
 #include "screens/CoolingLoad2.h"
 #include "screens/CoolingLoad3.h"
-#include "tests/support/ProgramTest.h"
+#include "tests/screens/CalculatorFixture.h"
 
 #include <QWidget>
 
@@ -12,7 +12,7 @@
 #include <vector>
 
 /// A user at the cooling load calculator.
-class CoolingTest : public ProgramTest
+class CoolingTest : public CalculatorTest
 {
 protected:
     using Texts = std::vector<std::string>;
@@ -23,29 +23,8 @@ protected:
         user.click("btnCooling");
     }
 
-    void calculate(const std::string& tdb, const std::string& field, const std::string& text)
-    {
-        user.type("txtTdb", tdb);
-        user.click(field);
-        user.type(field, text);
-        user.click("btnCALCULATE");
-    }
-
-    /// Presses Save Entering Air and answers with a volume.
-    void saveEntering(const std::string& volume = "1000")
-    {
-        user.inDialog("cfmForm", [this, volume] {
-            user.type("txtCFMinput", volume);
-            user.click("btnOK");
-        });
-        user.click("btnSaveEA");
-    }
-
-    void cancelVolume()
-    {
-        user.inDialog("cfmForm", [this] { user.click("btnCancel"); });
-        user.click("btnSaveEA");
-    }
+    void saveEntering(const std::string& volume = "1000") { answerVolume("btnSaveEA", volume); }
+    void cancelVolume() { CalculatorTest::cancelVolume("btnSaveEA"); }
 
     /// Entering air of 80 deg F, or 30 deg C, at half saturation: its dew point is 59.8, or 18.5.
     void openWithEnteringAir(bool metric = false)

@@ -157,16 +157,7 @@ TEST_F(CoolingScreen, ShowsItsMenus)
 TEST_F(CoolingScreen, LeavesForTheMainMenuByEveryWay)
 {
     start();
-    const std::function<void()> ways[] = {[this] { user.choose("mnuExit"); },
-                                          [this] { user.choose("mnuMain1"); },
-                                          [this] { user.closeWindow(); }};
-    for (const auto& leave : ways) {
-        user.click("btnCooling");
-        EXPECT_EQ(user.window(), "CoolingLoad1");
-        leave();
-        EXPECT_EQ(user.window(), "MainForm");
-        EXPECT_FALSE(isLoaded<CoolingLoad1>());
-    }
+    expectToLeaveByEveryWay<CoolingLoad1>("btnCooling");
 }
 
 TEST_F(CoolingScreen, LeavesTheStateAsTheLastScreenLeftIt)

@@ -30,21 +30,8 @@ protected:
         open(true);
     }
 
-    /// Presses "Save Entering Air" and answers the air volume dialog.
-    void saveEntering(const std::string& volume)
-    {
-        user.inDialog("cfmForm", [this, volume] {
-            user.type("txtCFMinput", volume);
-            user.click("btnOK");
-        });
-        user.click("btnSaveEnteringAir");
-    }
-
-    void cancelEntering()
-    {
-        user.inDialog("cfmForm", [this] { user.click("btnCancel"); });
-        user.click("btnSaveEnteringAir");
-    }
+    void saveEntering(const std::string& volume) { answerVolume("btnSaveEnteringAir", volume); }
+    void cancelEntering() { cancelVolume("btnSaveEnteringAir"); }
 
     void inLeavingDialog(const std::function<void()>& actions)
     {

@@ -119,48 +119,21 @@ TEST_F(HeatingScreen, LeavesNothingToBeTypedIntoItsResults)
 TEST_F(HeatingScreen, LeavesForTheMainMenuByEveryWay)
 {
     start();
-    const std::function<void()> ways[] = {[this] { user.choose("mnuExit"); },
-                                          [this] { user.choose("mnuMain1"); },
-                                          [this] { user.closeWindow(); }};
-    for (const auto& leave : ways) {
-        user.click("btnHeating");
-        EXPECT_EQ(user.window(), "HeatingLoad1");
-        EXPECT_FALSE(User::findWindow("MainForm")->isVisible());
-        leave();
-        EXPECT_EQ(user.window(), "MainForm");
-        EXPECT_FALSE(isLoaded<HeatingLoad1>());
-    }
+    expectToLeaveByEveryWay<HeatingLoad1>("btnHeating");
 }
 
 TEST_F(HeatingScreen, TurnsCalculateOnAtAnEditOfAnyItemAndLeavesTheOthers)
 {
-    const std::pair<const char*, const char*> items[] = {{"txtTwb", "Wetbulb"},
-                                                         {"txttd", "Dew Point"},
-                                                         {"txtRH", "Rel"},
-                                                         {"txtW", "W"},
-                                                         {"txtGrains", "Grains"}};
     open();
-    for (const auto& [field, selector] : items) {
-        calculate("70", "txtRH", "50");
-        expectButtons(false, true);
-        user.type(field, "0.005");
-        expectButtons(true, true);
-        EXPECT_EQ(HumiditySelector, selector);
-    }
+    expectEachEditToSelectItsItem([this] { expectButtons(false, true); },
+                                  [this] { expectButtons(true, true); });
 }
 
 TEST_F(HeatingScreen, TurnsTheOtherButtonsOffAtAClickOnAnItem)
 {
     open();
-    for (const char* item : {"txtTwb", "txttd", "txtRH", "txtW", "txtGrains"}) {
-        calculate("70", "txtRH", "50");
-        expectButtons(false, true);
-        const std::string kept = user.text(item);
-        user.click(item);
-        expectButtons(true, false);
-        for (const std::string other : {"txtTwb", "txttd", "txtRH", "txtW", "txtGrains", "txth", "txtSpVol"})
-            EXPECT_EQ(user.text(other), other == item ? kept : "") << item << " clicked: " << other;
-    }
+    expectEachClickToEmptyTheOthers([this] { expectButtons(false, true); },
+                                    [this] { expectButtons(true, false); });
 }
 
 TEST_F(HeatingScreen, ThrowsTheDryBulbAwayAtAClickOnIt)

@@ -79,49 +79,22 @@ TEST_F(HumidificationScreen, ShowsItsMenus)
 TEST_F(HumidificationScreen, LeavesWithItsSecondScreenByEveryWay)
 {
     start();
-    const std::function<void()> ways[] = {[this] { user.choose("mnuExit"); },
-                                          [this] { user.choose("mnuMain1"); },
-                                          [this] { user.closeWindow(); }};
-    for (const auto& leave : ways) {
-        user.click("btnHumidity");
-        EXPECT_EQ(user.window(), "Humid1");
-        EXPECT_FALSE(User::findWindow("MainForm")->isVisible());
-        leave();
-        EXPECT_EQ(user.window(), "MainForm");
-        EXPECT_FALSE(isLoaded<Humid1>());
-        EXPECT_FALSE(isLoaded<humid2>());
-    }
+    expectToLeaveByEveryWay<Humid1>("btnHumidity");
+    EXPECT_FALSE(isLoaded<humid2>());
 }
 
 TEST_F(HumidificationScreen, TurnsCalculateOnAtAnEditOfAnyItemAndLeavesTheOther)
 {
-    const std::pair<const char*, const char*> items[] = {{"txtTwb", "Wetbulb"},
-                                                         {"txttd", "Dew Point"},
-                                                         {"txtRH", "Rel"},
-                                                         {"txtW", "W"},
-                                                         {"txtGrains", "Grains"}};
     open();
-    for (const auto& [field, selector] : items) {
-        calculate("70", "txtRH", "50");
-        expectButtons(false, true);
-        user.type(field, "0.005");
-        expectButtons(true, true);
-        EXPECT_EQ(HumiditySelector, selector);
-    }
+    expectEachEditToSelectItsItem([this] { expectButtons(false, true); },
+                                  [this] { expectButtons(true, true); });
 }
 
 TEST_F(HumidificationScreen, TurnsHumidityDesiredOffAtAClickOnAnItem)
 {
     open();
-    for (const char* item : {"txtTwb", "txttd", "txtRH", "txtW", "txtGrains"}) {
-        calculate("70", "txtRH", "50");
-        expectButtons(false, true);
-        const std::string kept = user.text(item);
-        user.click(item);
-        expectButtons(true, false);
-        for (const std::string other : {"txtTwb", "txttd", "txtRH", "txtW", "txtGrains", "txth", "txtSpVol"})
-            EXPECT_EQ(user.text(other), other == item ? kept : "") << item << " clicked: " << other;
-    }
+    expectEachClickToEmptyTheOthers([this] { expectButtons(false, true); },
+                                    [this] { expectButtons(true, false); });
 }
 
 TEST_F(HumidificationScreen, KeepsTheDryBulbAtAClickOnIt)

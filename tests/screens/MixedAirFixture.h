@@ -3,10 +3,10 @@
 #include "screens/Answers1.h"
 #include "screens/MixedAir.h"
 #include "screens/cfmForm.h"
-#include "tests/support/ProgramTest.h"
+#include "tests/screens/CalculatorFixture.h"
 
 /// A user at the mixed air calculator.
-class MixedAirTest : public ProgramTest
+class MixedAirTest : public CalculatorTest
 {
 protected:
     void open(bool metric = false)
@@ -15,29 +15,8 @@ protected:
         user.click("btnMixedAir");
     }
 
-    void calculate(const std::string& tdb, const std::string& field, const std::string& text)
-    {
-        user.type("txtTdb", tdb);
-        user.click(field);
-        user.type(field, text);
-        user.click("btnCALCULATE");
-    }
-
-    /// Presses a save button and answers the air volume dialog.
-    void save(const std::string& button, const std::string& volume)
-    {
-        user.inDialog("cfmForm", [this, volume] {
-            user.type("txtCFMinput", volume);
-            user.click("btnOK");
-        });
-        user.click(button);
-    }
-
-    void cancelSave(const std::string& button)
-    {
-        user.inDialog("cfmForm", [this] { user.click("btnCancel"); });
-        user.click(button);
-    }
+    void save(const std::string& button, const std::string& volume) { answerVolume(button, volume); }
+    void cancelSave(const std::string& button) { cancelVolume(button); }
 
     /// 1000 cfm of outside air at 95 deg F and 3000 cfm of return air at 75 deg F.
     void saveBothStreams()

@@ -524,16 +524,7 @@ TEST_F(MixedAirScreen, KeepsItsStreamsWhenItIsLeft)
 TEST_F(MixedAirScreen, LeavesForTheMainMenuByEveryWay)
 {
     start();
-    const std::function<void()> ways[] = {[this] { user.choose("mnuExit"); },
-                                          [this] { user.choose("mnuMain1"); },
-                                          [this] { user.closeWindow(); }};
-    for (const auto& leave : ways) {
-        user.click("btnMixedAir");
-        EXPECT_EQ(user.window(), "MixedAir");
-        leave();
-        EXPECT_EQ(user.window(), "MainForm");
-        EXPECT_FALSE(isLoaded<MixedAir>());
-    }
+    expectToLeaveByEveryWay<MixedAir>("btnMixedAir");
 }
 
 TEST_F(MixedAirScreen, StandsAQuarterDownInTheMiddleOfTheScreen)
@@ -655,15 +646,6 @@ TEST_F(MixedAirScreen, FlagsTheClipsOfTheOtherItems)
 TEST_F(MixedAirScreen, OffersTheReturnVolumeOnTheOtherScreensToo)
 {
     open();
-    std::string offered;
-    const auto answerVolume = [&](const std::string& button, const std::string& volume) {
-        user.inDialog("cfmForm", [&, volume] {
-            offered = user.text("txtCFMinput");
-            user.type("txtCFMinput", volume);
-            user.click("btnOK");
-        });
-        user.click(button);
-    };
     calculate("75", "txtRH", "50");
     save("btnRA", "3000");
     save("btnRA", "3500");
@@ -672,14 +654,14 @@ TEST_F(MixedAirScreen, OffersTheReturnVolumeOnTheOtherScreensToo)
     user.click("btnCooling");
     calculate("95", "txtRH", "40");
     answerVolume("btnSaveEA", "0");
-    EXPECT_EQ(offered, "3000");
+    EXPECT_EQ(offeredVolume, "3000");
     EXPECT_EQ(CoolingEnteringAir.AirVolume, 0.0F);
     user.choose("mnuMain1");
 
     user.click("btnHeating");
     calculate("70", "txtRH", "50");
     answerVolume("btnSaveEnteringAir", "0");
-    EXPECT_EQ(offered, "3000");
+    EXPECT_EQ(offeredVolume, "3000");
     EXPECT_EQ(user.text("txtAirVolume"), "0") << "a typed 0 is a volume like any other here";
     EXPECT_EQ(HeatingEnteringAir.AirVolume, 0.0F);
 }

@@ -1,13 +1,11 @@
 // The save and print entries of every form, through the real dialogs.
 
-#include "reports/ReportFolders.h"
-#include "tests/platform/Dialogs.h"
-#include "tests/support/ProgramTest.h"
+#include "tests/screens/CalculatorFixture.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 
-class ReportCommands : public ProgramTest
+class ReportCommands : public CalculatorTest
 {
 protected:
     void SetUp() override
@@ -37,31 +35,10 @@ protected:
         return bytesOf(folder.filePath("tempdata/") + QString::fromStdString(temporaryFile));
     }
 
-    void calculate(const std::string& tdb, const std::string& rh)
-    {
-        user.type("txtTdb", tdb);
-        user.click("txtRH");
-        user.type("txtRH", rh);
-        user.click("btnCALCULATE");
-    }
-
-    void answerVolume(const std::string& button, const std::string& volume)
-    {
-        user.inDialog("cfmForm", [this, volume] {
-            offered = user.text("txtCFMinput");
-            if (!volume.empty())
-                user.type("txtCFMinput", volume);
-            user.click("btnOK");
-        });
-        user.click(button);
-    }
-
     static bool has(const std::string& text, const std::string& part)
     {
         return text.find(part) != std::string::npos;
     }
-
-    std::string offered;
 
 private:
     static QDialog& dialog() { return *qobject_cast<QDialog*>(QApplication::activeModalWidget()); }
@@ -80,7 +57,7 @@ TEST_F(ReportCommands, OfTheAirPropertiesWriteTheFieldsOnTheScreen)
 {
     start();
     user.click("btnAirCalc");
-    calculate("70", "50");
+    calculate("70", "txtRH", "50");
     const std::string report = saved("mnuSave");
     EXPECT_TRUE(has(report, "\n Calculated Psychrometric Properties\n"));
     EXPECT_TRUE(has(report, "\n Relative Humidity =        50.0%\n"));
@@ -94,7 +71,7 @@ TEST_F(ReportCommands, OfTheAirPropertiesEndSilentlyForTheRestOfTheRunAfterAnEmp
     const std::string broken = saved("mnuSave");
     EXPECT_TRUE(has(broken, "Dew Point Temp = "));
     EXPECT_FALSE(has(broken, "Relative Humidity"));
-    calculate("70", "50");
+    calculate("70", "txtRH", "50");
     EXPECT_EQ(saved("mnuSave"), "(none)");
     EXPECT_TRUE(user.messages.empty());
 }
@@ -103,9 +80,9 @@ TEST_F(ReportCommands, OfBothMixedAirScreensWriteTheSameRecords)
 {
     start();
     user.click("btnMixedAir");
-    calculate("95", "40");
+    calculate("95", "txtRH", "40");
     answerVolume("btnSaveOSA", "1000");
-    calculate("75", "50");
+    calculate("75", "txtRH", "50");
     answerVolume("btnRA", "3000");
     user.click("btnMixedAir");
     const std::string report = saved("mnuSave2File");
@@ -144,7 +121,7 @@ TEST_F(ReportCommands, OfBothHumidificationScreensWriteTheSame)
     const std::string paper = printed("mnuPrintDialog", "humidity.txt");
     EXPECT_TRUE(has(report, "\n Moisture Required\n"));
     EXPECT_TRUE(has(paper, "\n Moisture Required\n"));
-    calculate("30", "60");
+    calculate("30", "txtRH", "60");
     const std::string calculated = saved("mnuSave");
     const std::string calculatedPaper = printed("mnuPrintDialog", "humidity.txt");
     EXPECT_NE(calculated, report);

@@ -38,13 +38,13 @@ QPoint centre(const QWidget& widget) { return widget.rect().center(); }
 
 } // namespace
 
-User::User() { lookAgain(); }
-User::~User() { isGone = true; }
+User::User() : looking(std::make_unique<QObject>()) { lookAgain(); }
+User::~User() = default;
 
 void User::lookAgain()
 {
     // A fresh timer each time, so that looking goes on inside the event loops of dialogs.
-    QTimer::singleShot(1, qApp, [this] {
+    QTimer::singleShot(1, looking.get(), [this] {
         lookAgain();
         lookAtScreen();
     });

@@ -4,10 +4,12 @@
 
 #include <deque>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 class QAction;
+class QObject;
 class QWidget;
 
 /// A message box as the user saw it.
@@ -76,5 +78,5 @@ private:
     };
     std::deque<DialogPlan> plans;
     std::function<void()> messageActions;
-    bool isGone = false;
+    std::unique_ptr<QObject> looking; // the looking ends with the user
 };

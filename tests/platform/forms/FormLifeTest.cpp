@@ -195,6 +195,21 @@ TEST_F(FormLife, UnloadsAnotherFormFromItsUnloadHandler)
     EXPECT_FALSE(isLoaded<SecondScreen>());
 }
 
+TEST_F(FormLife, LeavesTheScreenAtOnceWhenItsUnloadHandlerUnloadsItAgain)
+{
+    FirstScreen::life.unload = [] {
+        form<FirstScreen>().Unload();
+        calls.push_back(form<FirstScreen>().isVisible() ? "in sight" : "out of sight");
+        form<SecondScreen>().Show();
+    };
+    showFirstScreen();
+    user.closeWindow();
+    comeToRest();
+    EXPECT_EQ(only({"FirstScreen.Form_Unload", "in sight", "out of sight", "FirstScreen is destroyed"}),
+              (Calls{"FirstScreen.Form_Unload", "out of sight", "FirstScreen is destroyed"}));
+    EXPECT_EQ(user.window(), "SecondScreen");
+}
+
 TEST_F(FormLife, MayUnloadItselfInItsLoadHandler)
 {
     FirstScreen::life.load = [] { form<FirstScreen>().Unload(); };
