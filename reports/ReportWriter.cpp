@@ -1,6 +1,5 @@
 #include "reports/ReportWriter.h"
 
-#include "platform/ShortDate.h"
 #include "reports/LineForms.h"
 
 void ReportWriter::blankLines(int count)
@@ -9,7 +8,7 @@ void ReportWriter::blankLines(int count)
         write({});
 }
 
-void ReportWriter::dateLine() { write(DateLine(ShortDate())); }
+void ReportWriter::dateLine() { write(DateLine(today())); }
 void ReportWriter::heading(std::string_view text) { write(Heading(text)); }
 void ReportWriter::rule() { write(Rule()); }
 
@@ -29,7 +28,7 @@ void ReportWriter::valueAndUnit(std::string_view value, std::string_view unit)
 }
 
 void ReportWriter::column4Line(std::string_view value) { write(Column4Line(value)); }
-void ReportWriter::column4DateLine() { column4Line(ShortDate()); }
+void ReportWriter::column4DateLine() { column4Line(today()); }
 
 void ReportWriter::emptyColumn4Lines(int count)
 {

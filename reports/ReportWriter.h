@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/ShortDate.h"
+
 #include <functional>
 #include <string>
 #include <string_view>
@@ -11,8 +13,11 @@ class ReportWriter
 public:
     /// Takes a finished line, without its line end.
     using TakeLine = std::function<void(const std::string& line)>;
+    using ReadDate = std::string (*)();
 
-    explicit ReportWriter(TakeLine takeLine) : write(std::move(takeLine)) {}
+    explicit ReportWriter(TakeLine takeLine, ReadDate readDate = ShortDate)
+        : write(std::move(takeLine)), today(readDate)
+    {}
 
     void blankLines(int count);
     /// Today, read anew for each such line.
@@ -28,6 +33,7 @@ public:
 
 private:
     TakeLine write;
+    ReadDate today;
 };
 
 /// A report, as a frame asks for it.

@@ -170,6 +170,31 @@ TEST_F(EnglishSolvers, ADewPointAHairBelowTheDryBulbIsAlmostSaturated)
     EXPECT_EQ(StatePoint.Twb.kind(), NumberKind::Single);
 }
 
+TEST_F(EnglishSolvers, TakeTheShortcutFromARatioJustBelowSaturation)
+{
+    const Single vapor = VaporPressureFromRH(0.9995F, SaturationPressure(ToAbsolute(70.0F)));
+    const Single ratio = HumidityRatioFromVaporPressure(vapor, 14.696F);
+    const std::pair<std::function<void()>, const char*> solvers[] = {{[&] {
+                                                                          StatePoint.W = ratio;
+                                                                          SolveFromW();
+                                                                      },
+                                                                      "W"},
+                                                                     {[&] {
+                                                                          StatePoint.Grains = ratio * 7000.0;
+                                                                          SolveFromGrains();
+                                                                      },
+                                                                      "Grains"}};
+    for (const auto& [solve, item] : solvers) {
+        Litter();
+        SetAir(70.0F, 14.696F);
+        solve();
+        EXPECT_NEAR(StatePoint.RH.asDouble(), 0.9995, 1e-6) << item;
+        EXPECT_EQ(StatePoint.Twb.kind(), NumberKind::Double) << item;
+        EXPECT_EQ(StatePoint.Twb.asDouble(), 69.995) << item;
+        EXPECT_FALSE(HumidityRatioTooHigh || GrainsTooHigh) << item;
+    }
+}
+
 TEST_F(EnglishSolvers, RefuseTooManyGrainsAndLeaveTheRestOfTheState)
 {
     Litter();

@@ -49,7 +49,7 @@ TEST_F(TextFileTest, EndsEveryLineAndKeepsTrailingBlanks)
     EXPECT_EQ(bytes(), "one\n\n   \n");
 }
 
-TEST_F(TextFileTest, WritesTheEncodingOfTheLocale)
+TEST_F(TextFileTest, WritesUtf8)
 {
     ASSERT_EQ(file.openForOutput(path()), FileFault::None);
     EXPECT_EQ(file.writeLine("1\u202f234 °C"), FileFault::None);

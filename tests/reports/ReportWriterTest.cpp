@@ -28,6 +28,24 @@ TEST(ReportWriter, WritesEveryFormAsALine)
                         date + "\n   \n   \n");
 }
 
+/// Another day each time it is asked, as at midnight.
+std::string tomorrow()
+{
+    static int day = 0;
+    return std::to_string(++day) + " May 2001";
+}
+
+TEST(ReportWriter, ReadsTheDateAnewForEachLineThatHoldsIt)
+{
+    std::string text;
+    ReportWriter report([&text](const std::string& line) { text += line + '\n'; }, tomorrow);
+    report.dateLine();
+    report.column4DateLine();
+    report.dateLine();
+    EXPECT_EQ(text,
+              std::string(39, ' ') + "1 May 2001\n   2 May 2001\n" + std::string(39, ' ') + "3 May 2001\n");
+}
+
 class AirBlockTest : public testing::Test
 {
 protected:
@@ -80,6 +98,14 @@ TEST_F(AirBlockTest, MultipliesTheHumidityRatioIntoASingle)
     // half between 0.9062 and 0.9063, and the single next to it is the half itself, 0.90625.
     air.W = 0.00090625F;
     EXPECT_NE(block().find(" 0.9063 "), std::string::npos) << block();
+}
+
+TEST_F(AirBlockTest, KeepsThePointOfAWholeValueWithNoDigitBehindIt)
+{
+    air = {.SpVol = 14.0F, .h = 28.0F};
+    EXPECT_NE(block().find(" Specific Volume =          14.            ft3 per Lb.\n"), std::string::npos)
+        << block();
+    EXPECT_NE(block().find(" Enthalpy =   28.            Btu/lb.\n"), std::string::npos) << block();
 }
 
 TEST_F(AirBlockTest, StopsBeforeTheLineWhoseHumidityRatioOverflows)

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QPalette>
 #include <QTest>
 #include <QWidget>
@@ -512,4 +513,21 @@ TEST_F(AirPanelScreen, WalksThroughTheEntriesByTab)
         EXPECT_EQ(user.focus(), next);
         EXPECT_EQ(HumiditySelector, "") << "moving there is no click";
     }
+}
+
+/// The calculators, by the main menu's buttons; the air properties calculator alone moves.
+class CurrentFolder : public CalculatorTest, public testing::WithParamInterface<const char*>
+{};
+
+INSTANTIATE_TEST_SUITE_P(Of, CurrentFolder,
+                         testing::Values("btnMixedAir", "btnCooling", "btnHeating", "btnHumidity"),
+                         [](const auto& button) { return std::string(button.param).substr(3); });
+
+TEST_P(CurrentFolder, IsLeftAsItIs)
+{
+    QDir::setCurrent("/");
+    start();
+    user.click(GetParam());
+    EXPECT_NE(user.window(), "MainForm");
+    EXPECT_EQ(QDir::currentPath(), "/");
 }

@@ -3,6 +3,8 @@
 #include <QAction>
 #include <QWidget>
 
+#include <array>
+
 /// The table of the mixed air, after 1000 cfm at 95 and 3000 cfm at 75 degrees were mixed.
 class MixedAirTable : public MixedAirTest
 {
@@ -26,6 +28,75 @@ protected:
 
     int top(const std::string& control) { return user.widget(control)->y() * 10; }
     int left(const std::string& control) { return user.widget(control)->x() * 10; }
+    static std::string cell(const std::string& array, std::size_t column)
+    {
+        return array + "(" + std::to_string(column) + ")";
+    }
+
+    struct TableRow
+    {
+        const char* caption;
+        const char* array;
+        const char* unit;
+        int top;
+        int metricTop;
+    };
+    static constexpr std::array<int, 3> columnLeft{2100, 2940, 3780};
+    static constexpr TableRow rows[] = {
+        {"Label10", "lblcfm", "lblcfmTail", 735, 735},
+        {"Label1", "lblTdb", "lblTdbTail", 1155, 1155},
+        {"Label2", "lblTwb", "lblTwbTail", 1575, 1575},
+        {"Label16", "lbltd", "lbltdTail", 1995, 1995},
+        {"Label12", "lblRH", "lblRHTail", 2415, 2415},
+        {"Label17", "lblW", "lblWTail", 2835, 2835},
+        {"lblGrainsHead", "lblGrains", "lblGrainsTail", 3255, 3255},
+        {"lblSpVolHead", "lblSpVol", "lblSpVolTail", 3675, 3255},
+        {"lblHHead", "lblH", "lblHTail", 4095, 3675},
+    };
+
+    /// Places in twips, ten of which are a pixel.
+    void expectPlace(const std::string& label, int atLeft, int atTop, const QSize& size)
+    {
+        EXPECT_EQ(left(label), atLeft / 10 * 10) << label;
+        EXPECT_EQ(top(label), atTop / 10 * 10) << label;
+        EXPECT_EQ(user.widget(label)->size(), size) << label;
+    }
+
+    void expectRowAt(const TableRow& row, int atTop)
+    {
+        EXPECT_EQ(top(row.caption), atTop / 10 * 10) << row.caption;
+        EXPECT_EQ(top(row.unit), atTop / 10 * 10) << row.unit;
+        for (std::size_t column = 0; column < columnLeft.size(); ++column)
+            expectPlace(cell(row.array, column), columnLeft[column], atTop, QSize(75, 27));
+    }
+
+    void expectColumn(std::size_t column, const AirSnapshot& stream)
+    {
+        const bool metric = IsMetric();
+        const std::pair<const char*, std::string> cells[] = {
+            {"lblcfm", FormatNumber(stream.AirVolume, "##,##")},
+            {"lblTdb", FormatNumber(stream.Tdb, "##0.0")},
+            {"lblTwb", FormatNumber(stream.Twb, "##0.0")},
+            {"lbltd", FormatNumber(stream.td, "##0.0")},
+            {"lblRH", FormatNumber(RoundToSingle(stream.RH * 100.0), "##0.0")},
+            {"lblW", metric ? FormatNumber(RoundToSingle(stream.W * 1000.0), "#0.00")
+                            : FormatNumber(stream.W, "#0.0000")},
+            {"lblGrains", metric ? "" : FormatNumber(stream.Grains, "##0.0")},
+            {"lblSpVol", FormatNumber(stream.SpVol, "##0.000")},
+            {"lblH", FormatNumber(stream.h, "##0.00")},
+        };
+        for (const auto& [array, text] : cells) {
+            EXPECT_EQ(user.text(cell(array, column)), text) << cell(array, column);
+            EXPECT_EQ(user.isEnabled(cell(array, column)), !metric || array != std::string("lblGrains"));
+        }
+    }
+
+    void expectThreeColumns()
+    {
+        expectColumn(0, MixedOutsideAir);
+        expectColumn(1, MixedReturnAir);
+        expectColumn(2, MixedResultAir);
+    }
 };
 
 TEST_F(MixedAirTable, ShowsTheThreeStatesSideBySide)
@@ -34,15 +105,10 @@ TEST_F(MixedAirTable, ShowsTheThreeStatesSideBySide)
     EXPECT_EQ(user.title(), "Mixed Air Properties");
     EXPECT_EQ(row("lblHeading"), (Row{" Outside       Air", " Return        Air", "  Mixed         Air"}));
     EXPECT_EQ(row("lblcfm"), (Row{"1,000", "3,000", "4,000"}));
-    EXPECT_EQ(row("lblTdb"), (Row{"95.0", "75.0", FormatNumber(MixedResultAir.Tdb, "##0.0")}));
+    EXPECT_EQ(row("lblTdb"), (Row{"95.0", "75.0", "79.9"}));
     EXPECT_EQ(row("lblRH")[0], "40.0");
     EXPECT_EQ(row("lblRH")[1], "50.0");
-    EXPECT_EQ(row("lblW")[0], FormatNumber(MixedOutsideAir.W, "#0.0000"));
-    EXPECT_EQ(row("lblTwb")[2], FormatNumber(MixedResultAir.Twb, "##0.0"));
-    EXPECT_EQ(row("lbltd")[2], FormatNumber(MixedResultAir.td, "##0.0"));
-    EXPECT_EQ(row("lblGrains")[1], FormatNumber(MixedReturnAir.Grains, "##0.0"));
-    EXPECT_EQ(row("lblSpVol")[2], FormatNumber(MixedResultAir.SpVol, "##0.000"));
-    EXPECT_EQ(row("lblH")[2], FormatNumber(MixedResultAir.h, "##0.00"));
+    expectThreeColumns();
     EXPECT_FALSE(User::findWindow("MixedAir")->isVisible());
     EXPECT_TRUE(isLoaded<MixedAir>());
 }
@@ -78,20 +144,14 @@ TEST_F(MixedAirTable, ShowsItsCaptionsAndUnits)
 TEST_F(MixedAirTable, StandsInItsPlaces)
 {
     openTable();
-    EXPECT_EQ(left("lblTdb(0)"), 2100);
-    EXPECT_EQ(left("lblTdb(1)"), 2940);
-    EXPECT_EQ(left("lblTdb(2)"), 3780);
-    EXPECT_EQ(left("Label1"), 210);
-    EXPECT_EQ(left("lblTdbTail"), 4620);
-    EXPECT_EQ(user.widget("lblTdb(0)")->size(), QSize(75, 27));
-    EXPECT_EQ(user.widget("lblHeading(0)")->height(), 54);
-    EXPECT_EQ(top("lblHeading(0)"), 105 / 10 * 10);
-    const std::pair<const char*, int> tops[] = {
-        {"lblcfm(0)", 735}, {"lblTdb(0)", 1155}, {"lblTwb(0)", 1575},    {"lbltd(0)", 1995},
-        {"lblRH(0)", 2415}, {"lblW(0)", 2835},   {"lblGrains(0)", 3255}, {"lblSpVol(0)", 3675},
-        {"lblH(0)", 4095},  {"btnOK", 5040}};
-    for (const auto& [control, twips] : tops)
-        EXPECT_EQ(top(control), twips / 10 * 10) << control;
+    for (std::size_t column = 0; column < columnLeft.size(); ++column)
+        expectPlace(cell("lblHeading", column), columnLeft[column], 105, QSize(75, 54));
+    for (const auto& row : rows) {
+        expectRowAt(row, row.top);
+        EXPECT_EQ(left(row.caption), 210) << row.caption;
+        EXPECT_EQ(left(row.unit), 4620) << row.unit;
+    }
+    EXPECT_EQ(top("btnOK"), 5040);
 }
 
 TEST_F(MixedAirTable, MovesUpPastTheGrainsInMetric)
@@ -103,14 +163,18 @@ TEST_F(MixedAirTable, MovesUpPastTheGrainsInMetric)
         EXPECT_FALSE(user.isVisible(hidden)) << hidden;
     EXPECT_FALSE(user.isEnabled("lblGrains(0)"));
     EXPECT_EQ(user.text("lblGrains(0)"), "");
-    for (const char* specificVolume : {"lblSpVolHead", "lblSpVolTail", "lblSpVol(0)", "lblSpVol(2)"})
-        EXPECT_EQ(top(specificVolume), 3250);
-    for (const char* enthalpy : {"lblHHead", "lblHTail", "lblH(0)", "lblH(2)"})
-        EXPECT_EQ(top(enthalpy), 3670);
+    for (const auto& row : rows)
+        if (row.array != std::string("lblGrains"))
+            expectRowAt(row, row.metricTop);
     EXPECT_EQ(top("btnOK"), 4250);
     EXPECT_EQ(user.text("lblcfmTail"), " m3 / h");
+    for (const char* degrees : {"lblTdbTail", "lblTwbTail", "lbltdTail"})
+        EXPECT_EQ(user.text(degrees), " Deg. C");
+    EXPECT_EQ(user.text("lblRHTail"), " % R.H.");
+    EXPECT_EQ(user.text("lblGrainsTail"), " ");
+    EXPECT_EQ(user.text("lblGrainsHead"), " ");
     EXPECT_EQ(user.text("lblWTail"), " g water/kg dry air");
-    EXPECT_EQ(user.text("lblW(0)"), FormatNumber(TaggedNumber(MixedOutsideAir.W) * 1000, "#0.00"));
+    expectThreeColumns();
     EXPECT_EQ(user.text("lblcfm(0)"), "500") << "no separator below a thousand";
     EXPECT_EQ(user.text("lblSpVolTail"), " m3/kg dry air");
     EXPECT_EQ(user.text("lblHTail"), " kJ/kg");
@@ -173,15 +237,20 @@ TEST_F(MixedAirTable, ShowsItsMenus)
     EXPECT_TRUE(user.menuEntry("mnusep3")->isSeparator());
 }
 
-TEST_F(MixedAirTable, ColoursItsCells)
+TEST_F(MixedAirTable, ColoursItsCellsAndWritesThemInArial)
 {
     openTable();
-    const auto back = [this](const char* name) {
-        return user.widget(name)->palette().color(user.widget(name)->backgroundRole());
+    const auto expectLook = [this](const std::string& label, const QColor& colour) {
+        EXPECT_EQ(back(label), colour) << label;
+        EXPECT_EQ(fore(label), QColor(0, 0, 0)) << label;
+        EXPECT_EQ(user.widget(label)->font().families().first(), "Arial") << label;
     };
-    EXPECT_EQ(back("lblTdb(0)"), QColor(0x80, 0xFF, 0xFF));
-    EXPECT_EQ(back("Label1"), QColor(0xFF, 0xFF, 0xC0));
-    EXPECT_EQ(back("lblTdbTail"), QColor(0xFF, 0xFF, 0xC0));
-    EXPECT_EQ(back("lblHeading(1)"), QColor(0xC0, 0xFF, 0xFF));
-    EXPECT_EQ(user.widget("lblTdb(0)")->font().families().first(), "Arial");
+    for (std::size_t column = 0; column < columnLeft.size(); ++column)
+        expectLook(cell("lblHeading", column), QColor(0xC0, 0xFF, 0xFF));
+    for (const auto& row : rows) {
+        expectLook(row.caption, QColor(0xFF, 0xFF, 0xC0));
+        expectLook(row.unit, QColor(0xFF, 0xFF, 0xC0));
+        for (std::size_t column = 0; column < columnLeft.size(); ++column)
+            expectLook(cell(row.array, column), QColor(0x80, 0xFF, 0xFF));
+    }
 }

@@ -143,6 +143,7 @@ TEST_F(CoolingSummary, ShowsTheVolumeAsItWasTypedWithOneDecimalAtLeast)
     EXPECT_EQ(volumeShownFor("1,234.5678"), "1,234.57");
     EXPECT_EQ(volumeShownFor("16777217"), "16,777,217.0") << "a single would hold 16777216";
     EXPECT_EQ(volumeShownFor("0.25"), ".25");
+    EXPECT_EQ(volumeShownFor("0"), ".0");
     EXPECT_EQ(volumeShownFor(""), ".0");
 }
 

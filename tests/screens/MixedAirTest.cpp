@@ -1,7 +1,6 @@
 #include "tests/screens/MixedAirFixture.h"
 
 #include <QAction>
-#include <QDir>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
@@ -537,13 +536,6 @@ TEST_F(MixedAirScreen, StandsAQuarterDownInTheMiddleOfTheScreen)
     calculate("95", "txtRH", "40");
     save("btnSaveOSA", "1000");
     EXPECT_EQ(window->size(), QSize(800, 660)) << "the volumes have their room";
-}
-
-TEST_F(MixedAirScreen, LeavesTheCurrentFolderAsItIs)
-{
-    QDir::setCurrent("/");
-    open();
-    EXPECT_EQ(QDir::currentPath(), "/");
 }
 
 TEST_F(MixedAirScreen, TurnsTheButtonsOffByAClickOnAnyHumidityItem)

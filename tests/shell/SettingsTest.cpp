@@ -241,6 +241,22 @@ TEST_F(OptionsScreen, ChangesTheUnitsBeforeItRefusesThePressure)
     EXPECT_EQ(BaroPressure, 101.352F);
 }
 
+TEST_F(OptionsScreen, ChangesBackToEnglishBeforeItRefusesThePressure)
+{
+    startInMetric();
+    inOptions([this] {
+        user.chooseFromList("Combo1", "English, I-P");
+        user.type("txtBP", "101.325");
+        user.click("btnOK");
+        EXPECT_EQ(user.messages, std::vector{psiRange});
+        user.click("btnCancel");
+    });
+    EXPECT_EQ(UnitSystem, 0);
+    EXPECT_EQ(BaroPressure, 101.352F) << "a number of kPa, in English";
+    EXPECT_EQ(stored("Metric_Units"), "True");
+    EXPECT_EQ(stored("Pressure_psi"), "(nothing)");
+}
+
 TEST_F(OptionsScreen, EndsTheProgramOnAPressureThatIsNoNumber)
 {
     start();
