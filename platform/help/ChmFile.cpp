@@ -28,6 +28,18 @@ bool isForPeople(const QString& name)
            !name.startsWith("::");
 }
 
+/// The bytes as the unpacking library accepts them. Some compilers write the first of the two identifiers in
+/// the header twice, which it takes for a wrong signature.
+QByteArray withSecondIdentifier(QByteArray bytes)
+{
+    constexpr qsizetype first = 0x18;
+    constexpr qsizetype length = 16;
+    constexpr qsizetype second = first + length;
+    if (bytes.size() >= second + length && bytes.mid(first, length) == bytes.mid(second, length))
+        bytes[second] = 0x11; // the one byte in which they differ
+    return bytes;
+}
+
 } // namespace
 
 ChmFile::ChmFile(const QByteArray& bytes)
@@ -45,7 +57,7 @@ std::unique_ptr<ChmFile> ChmFile::open(const QByteArray& bytes)
 {
     if (bytes.size() > largestFile)
         return nullptr;
-    std::unique_ptr<ChmFile> file(new ChmFile(bytes));
+    std::unique_ptr<ChmFile> file(new ChmFile(withSecondIdentifier(bytes)));
     if (file->unpacker == nullptr)
         return nullptr;
     file->header = file->unpacker->open(file->unpacker, MemorySystem::inputName);

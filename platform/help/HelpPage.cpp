@@ -55,7 +55,6 @@ HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent)
     setObjectName("helpPage");
     setAccessibleName("Help page");
     setOpenLinks(false);
-    setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
     document()->setDocumentMargin(22);
     connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& address) { follow(address); });
     restyle();
@@ -64,9 +63,7 @@ HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent)
 void HelpPage::setBook(std::shared_ptr<const HelpBook> shown)
 {
     book = std::move(shown);
-    document()->clear();
-    setSource(QUrl());
-    clearHistory();
+    isOfOtherBook = true;
 }
 
 QUrl HelpPage::addressOf(const QString& reference) const
@@ -82,23 +79,16 @@ QUrl HelpPage::addressOf(const QString& reference) const
 
 void HelpPage::open(const QString& reference, const QStringList& wordsToMark)
 {
+    setSource(addressOf(reference));
+    if (isOfOtherBook) { // which has a page of the same name
+        reload();
+        clearHistory();
+    }
     words = wordsToMark;
-    const QUrl address = addressOf(reference);
-    setSource(address);
-    words = wordsToMark; // showing another page has cleared them
     markWords();
 }
 
-QString HelpPage::pageName() const { return nameIn(source()); }
-
-void HelpPage::doSetSource(const QUrl& url, QTextDocument::ResourceType type)
-{
-    if (!isRestyling) {
-        words.clear();
-        setExtraSelections({});
-    }
-    QTextBrowser::doSetSource(url, type);
-}
+QString HelpPage::pageName() const { return nameIn(current); }
 
 void HelpPage::follow(const QUrl& address)
 {
@@ -110,11 +100,12 @@ void HelpPage::follow(const QUrl& address)
 
 QVariant HelpPage::loadResource(int type, const QUrl& name)
 {
-    const QUrl address = source().resolved(name);
+    const QUrl address = current.resolved(name);
     if (book == nullptr || address.scheme() != "help")
         return {};
     switch (type) {
     case QTextDocument::HtmlResource:
+        startPage(address);
         return pageText(nameIn(address));
     case QTextDocument::StyleSheetResource:
         return StyleToShow(book->readPage(nameIn(address)).value_or(QString()));
@@ -123,6 +114,17 @@ QVariant HelpPage::loadResource(int type, const QUrl& name)
     default:
         return {};
     }
+}
+
+/// Takes note of the page that is about to be shown; the toolkit's own note comes later than its pictures.
+void HelpPage::startPage(const QUrl& address)
+{
+    current = address.adjusted(QUrl::RemoveFragment);
+    isOfOtherBook = false;
+    if (isRestyling)
+        return;
+    words.clear();
+    setExtraSelections({});
 }
 
 QString HelpPage::pageText(const QString& name) const
@@ -158,7 +160,7 @@ QVariant HelpPage::picture(const QUrl& address) const
 void HelpPage::restyle()
 {
     document()->setDefaultStyleSheet(HelpStyleSheet(HelpColours(palette())));
-    if (source().isEmpty())
+    if (current.isEmpty())
         return;
     const int place = verticalScrollBar()->value();
     isRestyling = true;

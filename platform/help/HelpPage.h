@@ -4,8 +4,8 @@
 
 #include <QStringList>
 #include <QTextBrowser>
+#include <QUrl>
 
-#include <functional>
 #include <memory>
 
 class QPrinter;
@@ -36,18 +36,20 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
-    void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
 
 private:
     QUrl addressOf(const QString& reference) const;
     QString pageText(const QString& name) const;
     QVariant picture(const QUrl& address) const;
+    void startPage(const QUrl& address);
     void follow(const QUrl& address);
     void restyle();
     void markWords();
 
     std::shared_ptr<const HelpBook> book;
+    QUrl current;      // the page shown
     QStringList words; // to mark on the page shown
     int step = 0;
     bool isRestyling = false;
+    bool isOfOtherBook = false; // what is shown
 };

@@ -37,7 +37,6 @@ QListWidget* makeList(const QString& name, const QString& accessibleName,
     auto* const list = new QListWidget;
     list->setObjectName(name);
     list->setAccessibleName(accessibleName);
-    list->setSpacing(1);
     list->setUniformItemSizes(true);
     const auto open = [openPage](const QListWidgetItem* item) { openPage(item->data(pageRole).toString()); };
     QObject::connect(list, &QListWidget::itemClicked, list, open);
@@ -59,11 +58,15 @@ QString pageOf(const SitemapEntry& entry)
     return entry.targets.isEmpty() ? QString() : entry.targets[0].page;
 }
 
+/// Room for a line of a list or a tree with air around it.
+QSize lineSize(const QWidget& list) { return {0, list.fontMetrics().height() + 9}; }
+
 void addLine(QListWidget& list, const QString& text, const QString& page)
 {
     auto* const item = new QListWidgetItem(text, &list);
     item->setData(pageRole, page);
     item->setToolTip(text);
+    item->setSizeHint(lineSize(list));
 }
 
 } // namespace
@@ -93,6 +96,7 @@ void ContentsPane::setBook(const HelpBook& book)
         auto* const item = new QTreeWidgetItem({entry.title});
         item->setData(0, pageRole, pageOf(entry));
         item->setToolTip(0, entry.title);
+        item->setSizeHint(0, lineSize(*tree));
         if (parents.isEmpty())
             tree->addTopLevelItem(item);
         else
@@ -105,7 +109,7 @@ void ContentsPane::setBook(const HelpBook& book)
 void ContentsPane::showPage(const QString& page)
 {
     const auto isItsOwn = [&page](const QTreeWidgetItem* item) {
-        return item != nullptr &&
+        return item != nullptr && !page.isEmpty() &&
                item->data(0, pageRole).toString().section('#', 0, 0).compare(page, Qt::CaseInsensitive) == 0;
     };
     if (isItsOwn(tree->currentItem()))

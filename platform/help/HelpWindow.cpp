@@ -11,7 +11,6 @@
 #include <QPrinter>
 #include <QScreen>
 #include <QSplitter>
-#include <QStyle>
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolBar>
@@ -83,14 +82,12 @@ QWidget* HelpWindow::makePanes()
     return tabs;
 }
 
-QAction* HelpWindow::addCommand(const QString& name, const QString& text, const QList<QKeySequence>& keys,
+QAction* HelpWindow::addCommand(const QString& name, const QString& text, const QKeySequence& key,
                                 const std::function<void()>& handler)
 {
     auto* const action = new QAction(text, this);
     action->setObjectName(name);
-    action->setShortcuts(keys);
-    if (!keys.isEmpty())
-        action->setToolTip(text + " (" + keys.first().toString(QKeySequence::NativeText) + ")");
+    action->setShortcut(key);
     connect(action, &QAction::triggered, this, handler);
     addAction(action);
     return action;
@@ -98,52 +95,47 @@ QAction* HelpWindow::addCommand(const QString& name, const QString& text, const 
 
 void HelpWindow::makeToolBar()
 {
-    const auto icon = [this](const char* name, QStyle::StandardPixmap standard) {
-        return QIcon::fromTheme(name, style()->standardIcon(standard));
-    };
-    QAction* const back =
-        addCommand("helpBack", "Back", {Qt::ALT | Qt::Key_Left}, [this] { page->backward(); });
-    QAction* const forward =
-        addCommand("helpForward", "Forward", {Qt::ALT | Qt::Key_Right}, [this] { page->forward(); });
-    QAction* const home =
-        addCommand("helpHome", "Home", {Qt::ALT | Qt::Key_Home}, [this] { openPage(book->homePage(), {}); });
-    QAction* const copy = addCommand("helpCopy", "Copy", {QKeySequence::Copy}, [this] { page->copy(); });
-    QAction* const onPaper = addCommand("helpPrint", "Print", {QKeySequence::Print}, [this] { print(); });
-    QAction* const smaller = addCommand("helpSmaller", "Smaller text", {Qt::CTRL | Qt::Key_Minus},
-                                        [this] { page->setTextSize(page->textSize() - 1); });
-    QAction* const normal =
-        addCommand("helpNormal", "Normal text", {Qt::CTRL | Qt::Key_0}, [this] { page->setTextSize(0); });
-    QAction* const larger =
-        addCommand("helpLarger", "Larger text", {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal},
-                   [this] { page->setTextSize(page->textSize() + 1); });
-    back->setIcon(icon("go-previous", QStyle::SP_ArrowBack));
-    forward->setIcon(icon("go-next", QStyle::SP_ArrowForward));
-    home->setIcon(icon("go-home", QStyle::SP_DirHomeIcon));
-    smaller->setIconText(QString::fromUtf8("A\u2212"));
-    normal->setIconText("A");
-    larger->setIconText("A+");
-
-    tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    tools->addActions({back, forward, home});
+    back = addButton("helpBack", "Back", "\u2190 Back", Qt::ALT | Qt::Key_Left, [this] { page->backward(); });
+    forward = addButton("helpForward", "Forward", "Forward \u2192", Qt::ALT | Qt::Key_Right,
+                        [this] { page->forward(); });
+    addButton("helpHome", "Home", "Home", Qt::ALT | Qt::Key_Home, [this] { openPage(book->homePage(), {}); });
     tools->addSeparator();
-    tools->addActions({smaller, normal, larger});
+    addButton("helpSmaller", "Smaller text", "A\u2212", Qt::CTRL | Qt::Key_Minus,
+              [this] { page->setTextSize(page->textSize() - 1); });
+    addButton("helpNormal", "Normal text", "A", Qt::CTRL | Qt::Key_0, [this] { page->setTextSize(0); });
+    addButton("helpLarger", "Larger text", "A+", Qt::CTRL | Qt::Key_Plus,
+              [this] { page->setTextSize(page->textSize() + 1); });
     tools->addSeparator();
-    tools->addActions({copy, onPaper});
+    QAction* const copy = addButton("helpCopy", "Copy", "Copy", QKeySequence::Copy, [this] { page->copy(); });
+    addButton("helpPrint", "Print", "Print", QKeySequence::Print, [this] { print(); });
 
-    back->setEnabled(false);
-    forward->setEnabled(false);
-    copy->setEnabled(false);
+    for (QAction* later : {back, forward, copy})
+        later->setEnabled(false);
     connect(page, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
     connect(page, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
     connect(page, &QTextBrowser::copyAvailable, copy, &QAction::setEnabled);
 }
 
+/// A command on the tool bar. Its button shows words alone, which any desktop has.
+QAction* HelpWindow::addButton(const QString& name, const QString& text, const char* label,
+                               const QKeySequence& key, const std::function<void()>& handler)
+{
+    QAction* const action = addCommand(name, text, key, handler);
+    action->setIconText(QString::fromUtf8(label));
+    action->setToolTip(text + " (" + key.toString(QKeySequence::NativeText) + ")");
+    tools->addAction(action);
+    tools->widgetForAction(action)->setAccessibleName(text);
+    return action;
+}
+
 void HelpWindow::makeShortcuts()
 {
-    addCommand("helpSearch", "Search", {QKeySequence::Find}, [this] { startSearch(); });
-    addCommand("helpSearchOn", "Search on", {Qt::Key_F3}, [this] { searchOn(); });
-    addCommand("helpSwitchPanes", "Switch panes", {Qt::Key_F6}, [this] { switchPanes(); });
-    addCommand("helpClose", "Close", {Qt::Key_Escape}, [this] { close(); });
+    addCommand("helpLargerToo", "Larger text", Qt::CTRL | Qt::Key_Equal,
+               [this] { page->setTextSize(page->textSize() + 1); }); // + without Shift
+    addCommand("helpSearch", "Search", QKeySequence::Find, [this] { startSearch(); });
+    addCommand("helpSearchOn", "Search on", Qt::Key_F3, [this] { searchOn(); });
+    addCommand("helpSwitchPanes", "Switch panes", Qt::Key_F6, [this] { switchPanes(); });
+    addCommand("helpClose", "Close", Qt::Key_Escape, [this] { close(); });
 }
 
 void HelpWindow::setBook(std::shared_ptr<const HelpBook> shown)

@@ -2,15 +2,17 @@
 
 #include "platform/help/HelpBook.h"
 
+#include <QKeySequence>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class ContentsPane;
 class HelpPage;
 class IndexPane;
+class QAction;
 class QLabel;
-class QSplitter;
 class QTabWidget;
 class QToolBar;
 class QWindow;
@@ -36,8 +38,10 @@ private:
     QWidget* makePanes();
     void makeToolBar();
     void makeShortcuts();
-    QAction* addCommand(const QString& name, const QString& text, const QList<QKeySequence>& keys,
+    QAction* addCommand(const QString& name, const QString& text, const QKeySequence& key,
                         const std::function<void()>& handler);
+    QAction* addButton(const QString& name, const QString& text, const char* label, const QKeySequence& key,
+                       const std::function<void()>& handler);
     void attachTo(QWindow* before);
     void placeBeside(const QWidget& asking);
     void openPage(const QString& reference, const QStringList& words);
@@ -49,6 +53,8 @@ private:
 
     std::shared_ptr<const HelpBook> book;
     QToolBar* tools;
+    QAction* back = nullptr;
+    QAction* forward = nullptr;
     QTabWidget* tabs;
     ContentsPane* contents;
     IndexPane* index;
