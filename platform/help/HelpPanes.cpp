@@ -78,6 +78,7 @@ ContentsPane::ContentsPane(OpenHelpPage openPage) : tree(new QTreeWidget)
     tree->setHeaderHidden(true);
     tree->setUniformRowHeights(true);
     makeColumn(this)->addWidget(tree);
+    setFocusProxy(tree);
     const auto open = [openPage = std::move(openPage)](const QTreeWidgetItem* item) {
         const QString page = item->data(0, pageRole).toString();
         if (!page.isEmpty())
@@ -134,6 +135,7 @@ IndexPane::IndexPane(OpenHelpPage openPage)
     column->addWidget(makeLabel("&Keyword", field));
     column->addWidget(field);
     column->addWidget(list);
+    setFocusProxy(field);
     connect(field, &QLineEdit::textChanged, this, [this](const QString& text) { filter(text); });
     connect(field, &QLineEdit::returnPressed, list, [this] {
         if (list->currentItem() != nullptr && !list->currentItem()->isHidden())
@@ -190,6 +192,7 @@ SearchPane::SearchPane(OpenHelpPage openPage)
     column->addLayout(line);
     column->addWidget(summary);
     column->addWidget(results);
+    setFocusProxy(field);
     connect(button, &QPushButton::clicked, this, [this] { search(); });
     connect(field, &QLineEdit::returnPressed, this, [this] { search(); });
 }

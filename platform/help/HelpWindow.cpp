@@ -184,9 +184,7 @@ void HelpWindow::searchOn()
 
 void HelpWindow::switchPanes()
 {
-    const bool isInPage = page->hasFocus();
-    QWidget* const pane = tabs->currentWidget();
-    QWidget* const there = isInPage ? pane->nextInFocusChain() : page;
+    QWidget* const there = page->hasFocus() ? tabs->currentWidget() : page;
     there->setFocus(Qt::ShortcutFocusReason);
 }
 
