@@ -61,10 +61,12 @@ void DamagedHelp::readInWindow(const std::shared_ptr<const HelpBook>& book)
 {
     window.setBook(book);
     auto* const page = window.findChild<QTextBrowser*>("helpPage");
-    for (const int topic : {100, 105, 110, 120, 130, 140, 4000})
+    for (const int topic : {100, 999})
         window.goToTopic(topic);
-    for (const QString& name : book->pages())
+    for (const QString& name : book->pages()) {
+        damagedPages += book->readPage(name) ? 0 : 1;
         page->setSource(QUrl("help:/" + name));
+    }
     page->backward();
     auto* const search = window.findChild<QLineEdit*>("helpSearchField");
     search->setText("air");

@@ -25,8 +25,9 @@ public:
     void read(const QByteArray& bytes);
 
     qsizetype size() const { return whole.size(); }
-    int readable = 0;   ///< of the damaged files, those that could be opened
-    int unreadable = 0; ///< and the others
+    int readable = 0;     ///< of the damaged files, those that could be opened
+    int unreadable = 0;   ///< and the others
+    int damagedPages = 0; ///< of those that could be opened
 
     /// The most memory that this process has used so far, in MiB.
     static long mostMemory();
