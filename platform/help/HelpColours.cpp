@@ -1,0 +1,57 @@
+#include "platform/help/HelpColours.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double readable = 4.5;
+
+/// The share of a colour's light that one channel gives. [WCAG 2.1]
+double linear(float channel)
+{
+    const double value = channel;
+    return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& colour)
+{
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+/// A colour on the way from one to another; none of the way is 0, all of it 1.
+QColor between(const QColor& from, const QColor& to, float way)
+{
+    return QColor::fromRgbF(std::lerp(from.redF(), to.redF(), way),
+                            std::lerp(from.greenF(), to.greenF(), way),
+                            std::lerp(from.blueF(), to.blueF(), way));
+}
+
+} // namespace
+
+double Contrast(const QColor& one, const QColor& other)
+{
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+QColor ReadableOn(const QColor& ground, const QColor& colour)
+{
+    const QColor end = Contrast(ground, Qt::white) > Contrast(ground, Qt::black) ? Qt::white : Qt::black;
+    QColor tried = colour;
+    for (int step = 1; step <= 10 && Contrast(tried, ground) < readable; ++step)
+        tried = between(colour, end, static_cast<float>(step) / 10);
+    return tried;
+}
+
+HelpColours::HelpColours(const QPalette& palette)
+    : page(palette.color(QPalette::Active, QPalette::Base)),
+      text(ReadableOn(page, palette.color(QPalette::Active, QPalette::Text))),
+      quietText(ReadableOn(page, between(text, page, 0.35F))),
+      link(ReadableOn(page, palette.color(QPalette::Active, QPalette::Link))),
+      rule(between(page, text, 0.25F)),
+      shade(between(page, text, 0.07F)),
+      mark(between(page, QColor(255, 196, 0), 0.45F)),
+      marked(ReadableOn(mark, text))
+{}
