@@ -1,6 +1,6 @@
-// The help's table of deviations from published figures, worked out again with the program's own relations. The
-// figures of the program stand there with five digits, its deviations in percent with two decimals; where a
-// figure's bound is an absolute one, both with two decimals more than the published figure.
+// The help's table of deviations from published figures, worked out again with the program's own relations.
+// The figures of the program stand there with five digits (or whole), its deviations in percent with two
+// decimals; where a figure's bound is an absolute one, both with two decimals more than the published figure.
 
 #include "core/MainMod.h"
 #include "tests/help/HelpPage.h"
@@ -8,6 +8,8 @@
 #include <QFile>
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 namespace {
 
@@ -98,7 +100,8 @@ QStringList tableRow(const Published& published)
         row << QString::asprintf("%.*f", decimals, real) << QString::asprintf("%+.*f", decimals, deviation);
     } else {
         const double percent = 100 * deviation / std::fabs(published.figure().toDouble());
-        row << QString::asprintf("%.5g", real) << QString::asprintf("%+.2f %%", percent);
+        row << QString::asprintf(std::fabs(real) < 1e5 ? "%.5g" : "%.0f", real)
+            << QString::asprintf("%+.2f %%", percent);
     }
     return row;
 }

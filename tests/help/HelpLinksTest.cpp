@@ -102,7 +102,7 @@ TEST(HelpLinks, IndexLeadsSomewhereInTheOrderOfItsWords)
     QString before;
     for (const auto& [word, target] : index) {
         EXPECT_TRUE(leadsSomewhere(target)) << word.toStdString() << ": " << target.toStdString();
-        EXPECT_LE(before, word.toLower());
+        EXPECT_LE(before.toStdString(), word.toLower().toStdString());
         before = word.toLower();
     }
 }

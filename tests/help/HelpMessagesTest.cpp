@@ -15,7 +15,8 @@ QString programSources()
 {
     QString all;
     for (const QString floor : {"core", "platform", "reports", "screens", "shell"}) {
-        QDirIterator files(DUNMOOR_SOURCES "/" + floor, {"*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
+        QDirIterator files(DUNMOOR_SOURCES "/" + floor, {"*.cpp", "*.h"}, QDir::Files,
+                           QDirIterator::Subdirectories);
         while (files.hasNext()) {
             QFile file(files.next());
             EXPECT_TRUE(file.open(QIODevice::ReadOnly));
@@ -66,7 +67,7 @@ constexpr Kind kinds[] = {
     {"run-time errors", R"(case ErrorNumber::\w+:\s*return ([^;]*);)", 8},
     {"the unknown error", R"(\}\s*return ("Unknown error");)", 1},
     {"the fatal report", R"(return ("Run-time error '"))", 1},
-    {"lines that lead", R"(Frame6(?:\.setCaption\(|\{[^}]*, )("[^"]+ [^"]+"))", 4},
+    {"lines that lead", R"(Frame6(?:\.setCaption\(|\{\*this, "Frame6",\s*)("[^"]+"))", 4},
 };
 
 } // namespace

@@ -26,7 +26,8 @@ struct HelpElement
     /// Calls the visitor with each element in it, itself first, in the order of the page.
     void visit(const std::function<void(const HelpElement&)>& visitor) const;
     std::vector<const HelpElement*> all(const QString& elementName, const QString& ofClass = {}) const&;
-    std::vector<const HelpElement*> all(const QString& elementName, const QString& ofClass = {}) const&& = delete;
+    std::vector<const HelpElement*> all(const QString& elementName,
+                                        const QString& ofClass = {}) const&& = delete;
 };
 
 /// The folder of the help's sources, and the names of the pages in it.

@@ -48,9 +48,9 @@ struct HelpStep
 ///
 /// A step is a sentence of "Click", "Type", "Press", "Choose", "Pick ... in the list", "Close the window" and
 /// "The message ...", with <b class="CONTROL">caption</b>, <kbd>keys</kbd> and <samp>message</samp>. A remark
-/// stands in <span class="note">. "The dialog <i>title</i> opens" leads to <ol class="dialog FORM">, a list of
-/// the steps in it. Behind the sentence may stand <table class="figures">, with <td class="figure CONTROL">
-/// and <td class="unit CONTROL">, and <pre class="report">.
+/// stands in <span class="note">. "The dialog <i>title</i> opens" leads to <ol class="dialog FORM">, a list
+/// of the steps in it. Behind the sentence may stand <table class="figures">, with <td class="figure
+/// CONTROL"> and <td class="unit CONTROL">, and <pre class="report">.
 struct WorkedExample
 {
     QString page;

@@ -95,7 +95,8 @@ protected:
     void expectCaption(const HelpAction& action) const
     {
         const bool isField = qobject_cast<QLineEdit*>(user.widget(action.control.toStdString())) != nullptr;
-        EXPECT_EQ(str(action.text), str(isField ? captionOf(action.control) : shown(action.control))) << where();
+        EXPECT_EQ(str(action.text), str(isField ? captionOf(action.control) : shown(action.control)))
+            << where();
     }
 
     void press(const QString& keys)
@@ -202,10 +203,7 @@ protected:
         EXPECT_EQ(str(told), str(real.join('\n'))) << where();
     }
 
-    std::string where() const
-    {
-        return "help/" + GetParam().page + ":" + std::to_string(line) + ": ";
-    }
+    std::string where() const { return "help/" + GetParam().page + ":" + std::to_string(line) + ": "; }
 
     QTemporaryDir folder;
     static inline std::string reportsBase;
