@@ -9,26 +9,37 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-QString runChmls(const QStringList& arguments)
+/// A copy of the compiled file to look into. chmls locks what it reads, so tests that run at the same time
+/// each need their own.
+class CompiledHelp : public testing::Test
 {
-    QProcess chmls;
-    chmls.start(DUNMOOR_CHMLS, arguments);
-    EXPECT_TRUE(chmls.waitForFinished());
-    EXPECT_EQ(chmls.exitCode(), 0);
-    return QString::fromLatin1(chmls.readAllStandardOutput());
-}
+protected:
+    void SetUp() override { ASSERT_TRUE(QFile::copy(DUNMOOR_HELP_FILE, file)); }
 
-/// A file out of the compiled one.
-QByteArray member(const QString& name)
-{
+    static QString runChmls(const QStringList& arguments)
+    {
+        QProcess chmls;
+        chmls.start(DUNMOOR_CHMLS, arguments);
+        EXPECT_TRUE(chmls.waitForFinished());
+        EXPECT_EQ(chmls.exitCode(), 0) << chmls.readAllStandardError().toStdString();
+        return QString::fromLatin1(chmls.readAllStandardOutput());
+    }
+
+    /// A file out of the compiled one.
+    QByteArray member(const QString& name) const
+    {
+        QFile extracted(folder.filePath("member"));
+        extracted.remove();
+        runChmls({"extract", file, name, extracted.fileName()});
+        EXPECT_TRUE(extracted.open(QIODevice::ReadOnly)) << name.toStdString();
+        return extracted.readAll();
+    }
+
     const QTemporaryDir folder;
-    QFile file(folder.filePath("member"));
-    runChmls({"extract", DUNMOOR_HELP_FILE, name, file.fileName()});
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-    return file.readAll();
-}
+    const QString file = folder.filePath("dunmoor.chm");
+};
+
+namespace {
 
 /// Four bytes, the lowest first.
 quint32 number(const QByteArray& bytes, qsizetype at)
@@ -38,7 +49,7 @@ quint32 number(const QByteArray& bytes, qsizetype at)
 
 } // namespace
 
-TEST(CompiledHelp, MapsTheSixNumberedTopics)
+TEST_F(CompiledHelp, MapsTheSixNumberedTopics)
 {
     const QByteArray map = member("/#IVB");
     const QByteArray strings = member("/#STRINGS");
@@ -55,15 +66,15 @@ TEST(CompiledHelp, MapsTheSixNumberedTopics)
         EXPECT_EQ(topics[topic].toStdString(), wanted[topic].toStdString()) << topic;
 }
 
-TEST(CompiledHelp, NamesItsTitleDefaultTopicContentsAndIndex)
+TEST_F(CompiledHelp, NamesItsTitleDefaultTopicContentsAndIndex)
 {
-    const QString system = runChmls({"printsystem", DUNMOOR_HELP_FILE});
+    const QString system = runChmls({"printsystem", file});
     for (const char* line : {"[options]  :index.html", "[options]          :Dunmoor", ":dunmoor.hhc",
                              ":dunmoor.hhk", "fullttext search is on     : 1"})
         EXPECT_TRUE(system.contains(line)) << line << "\n" << system.toStdString();
 }
 
-TEST(CompiledHelp, HoldsEveryPageAsItIs)
+TEST_F(CompiledHelp, HoldsEveryPageAsItIs)
 {
     for (const QString& name : helpPages()) {
         QFile page(helpFolder() + '/' + name);
@@ -72,9 +83,9 @@ TEST(CompiledHelp, HoldsEveryPageAsItIs)
     }
 }
 
-TEST(CompiledHelp, HoldsPicturesContentsIndexAndSearch)
+TEST_F(CompiledHelp, HoldsPicturesContentsIndexAndSearch)
 {
-    const QStringList names = runChmls({"-n", "list", DUNMOOR_HELP_FILE}).split('\n');
+    const QStringList names = runChmls({"-n", "list", file}).split('\n');
     for (const QString& name : helpPages()) {
         const HelpElement page = readHelpPage(name);
         for (const HelpElement* picture : page.all("img"))
@@ -85,7 +96,7 @@ TEST(CompiledHelp, HoldsPicturesContentsIndexAndSearch)
 }
 
 // The folder that the file was built in is nobody's business, and in the map of topics it would lead nowhere.
-TEST(CompiledHelp, NamesNoFolderOfTheBuild)
+TEST_F(CompiledHelp, NamesNoFolderOfTheBuild)
 {
     EXPECT_FALSE(member("/#STRINGS").contains("/proc"));
     EXPECT_FALSE(member("/#STRINGS").contains(DUNMOOR_SOURCES));
