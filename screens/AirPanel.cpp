@@ -113,9 +113,14 @@ void AirPanel::buildMenus(Menu* ownMenu)
     mnuSave.onClick([this] { mnuSave_Click(); });
     mnuExit.onClick([this] { mnuExit_Click(); });
     mnuMain1.onClick([this] { mnuMain1_Click(); });
-    for (MenuCommand* later : {&helpEntry, &mnuHSearch, &mnuAbout})
-        later->disable(); // until there are a help file and an about box
+    helpEntry.onClick([this] { OpenHelp(*this, rules.helpEntry.topic); });
+    mnuHSearch.onClick([this] { mnuHSearch_Click(); });
+    mnuAbout.onClick([this] { mnuAbout_Click(); });
 }
+
+// On every calculator the search opens this one topic.
+void AirPanel::mnuHSearch_Click() { OpenHelp(*this, HelpTopic::AirProperties); }
+void AirPanel::mnuAbout_Click() { ShowAbout(); }
 
 void AirPanel::Form_QueryUnload(CloseReason reason)
 {

@@ -120,6 +120,8 @@ private:
     void txth_KeyPress(int& key);
     void txtSpVol_KeyPress(int& key);
     void btnCALCULATE_Click();
+    void mnuHSearch_Click();
+    void mnuAbout_Click();
 
     void itemChanged(const char* selector);
     void itemClicked(std::initializer_list<TextField*> othersInOrder, const char* selector);

@@ -93,13 +93,13 @@ void AirPanel::layOutFrames(QWidget& container, Frame* underActions)
 
 void AirPanel::nameFields()
 {
-    nameWithUnit(txtTdb, "Dry bulb temperature", lblTdb2);
-    nameWithUnit(txtP, "Barometric pressure " + txtP.caption(), lblP2);
-    nameWithUnit(txtTwb, "Wet bulb temperature", lblTwb2);
-    nameWithUnit(txttd, "Dew point temperature", lblDewPt2);
-    nameWithUnit(txtRH, "Relative humidity", lblRH2);
-    nameWithUnit(txtW, "Humidity ratio W", lblW2);
-    nameWithUnit(txtGrains, "Humidity ratio in grains", lblGrains2);
-    nameWithUnit(txth, "Enthalpy", lblEnthalpy2);
-    nameWithUnit(txtSpVol, "Specific volume", lblSpVol2);
+    nameWithUnit(txtTdb, "Dry bulb temperature", lblTdb2.caption());
+    nameWithUnit(txtP, "Barometric pressure " + txtP.caption(), lblP2.caption());
+    nameWithUnit(txtTwb, "Wet bulb temperature", lblTwb2.caption());
+    nameWithUnit(txttd, "Dew point temperature", lblDewPt2.caption());
+    nameWithUnit(txtRH, "Relative humidity", lblRH2.caption());
+    nameWithUnit(txtW, "Humidity ratio W", lblW2.caption());
+    nameWithUnit(txtGrains, "Humidity ratio in grains", lblGrains2.caption());
+    nameWithUnit(txth, "Enthalpy", lblEnthalpy2.caption());
+    nameWithUnit(txtSpVol, "Specific volume", lblSpVol2.caption());
 }

@@ -3,6 +3,7 @@
 #include "core/MainMod.h"
 #include "platform/forms/Forms.h"
 #include "reports/MixedAirReport.h"
+#include "screens/Help.h"
 #include "screens/MixedAir.h"
 #include "screens/Shell.h"
 
@@ -97,8 +98,8 @@ void Answers1::buildMenus()
     mnuSave2File.onClick([this] { mnuSave2File_Click(); });
     mnuPrevious.onClick([this] { mnuPrevious_Click(); });
     mnuExit.onClick([this] { mnuExit_Click(); });
-    for (MenuCommand* later : {&mnuHContents, &mnuAbout})
-        later->disable(); // until there are a help file and an about box
+    mnuHContents.onClick([this] { mnuHContents_Click(); });
+    mnuAbout.onClick([this] { mnuAbout_Click(); });
 }
 
 void Answers1::Form_Load()
@@ -200,3 +201,5 @@ void Answers1::mnuExit_Click()
 
 void Answers1::mnuPrintResults_Click() { PrintMixedAir(*this); }
 void Answers1::mnuSave2File_Click() { SaveMixedAir(*this); }
+void Answers1::mnuHContents_Click() { OpenHelp(*this, HelpTopic::AirProperties); }
+void Answers1::mnuAbout_Click() { ShowAbout(); }

@@ -38,6 +38,8 @@ private:
     void mnuExit_Click();
     void mnuPrintResults_Click();
     void mnuSave2File_Click();
+    void mnuHContents_Click();
+    void mnuAbout_Click();
 
     Cells lblHeading = makeCells("lblHeading");
     Label Label10{*this, "Label10", "  Volume"};

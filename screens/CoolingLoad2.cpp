@@ -54,8 +54,8 @@ void CoolingLoad2::Form_Activate()
 {
     for (Label* unit : {&Label3, &Label5})
         unit->setCaption(IsMetric() ? "° C" : "° F");
-    nameWithUnit(txtLATdb, "Leaving air dry bulb", Label3);
-    nameWithUnit(txtLATwb, "Leaving air wet bulb", Label5);
+    nameWithUnit(txtLATdb, "Leaving air dry bulb", Label3.caption());
+    nameWithUnit(txtLATwb, "Leaving air wet bulb", Label5.caption());
 }
 
 // By the close box neither flag changes, so that a former acceptance counts once more.

@@ -82,10 +82,11 @@ void CoolingLoad3::RepaintCooling3()
     lblBTU[2].setCaption(isMetric ? " kW Latent " : " BTU Latent ");
     lblBTU[0].setCaption(isMetric ? " kW Total " : " BTU Total ");
     Label3.setCaption(isMetric ? " @ 1.2072 kWh /m3 deg C " : " @ 1.08 BTU per CFM deg F ");
-    nameWithUnit(txtcfm1, "Air volume", lblcfm1);
-    nameWithUnit(txtBTU[1], "Sensible load", lblBTU[1]);
-    nameWithUnit(txtBTU[2], "Latent load", lblBTU[2]);
-    nameWithUnit(txtBTU[0], "Total load", lblBTU[0]);
+    const char* const loadUnit = isMetric ? "kW" : "BTU";
+    nameWithUnit(txtcfm1, "Air volume", lblcfm1.caption());
+    nameWithUnit(txtBTU[1], "Sensible load", loadUnit);
+    nameWithUnit(txtBTU[2], "Latent load", loadUnit);
+    nameWithUnit(txtBTU[0], "Total load", loadUnit);
 }
 
 void CoolingLoad3::Command1_Click()

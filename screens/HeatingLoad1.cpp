@@ -37,8 +37,6 @@ void HeatingLoad1::layOut()
         field->setBackColour(Colours::LightYellow);
         field->setForeColour(Colours::Black);
     }
-    nameWithUnit(txtAirVolume, "Air volume", lblAirVolume);
-    nameWithUnit(txtHeatLoad, "Heating load", lblHeatLoad);
 }
 
 void HeatingLoad1::Form_Load()
@@ -49,6 +47,8 @@ void HeatingLoad1::Form_Load()
     for (Button* button : {&btnCALCULATE, &btnSaveEnteringAir, &btnInputLeavingAir})
         button->disable();
     RepaintForm();
+    nameWithUnit(txtAirVolume, "Air volume", IsMetric() ? "cubic meter per hour" : "CFM");
+    nameWithUnit(txtHeatLoad, "Heating load", IsMetric() ? "kW" : "BTU");
 }
 
 // It turns nothing off: the entering air can be saved again with another volume.
@@ -58,7 +58,6 @@ void HeatingLoad1::btnSaveEnteringAir_Click()
     txtAirVolume.setText(PlainText(AirVolume));
     HeatingEnteringAir = AirSnapshot::of(StatePoint, AirVolume);
     lblAirVolume.setCaption(IsMetric() ? " cubic meter per hour " : " CFM air flow ");
-    nameWithUnit(txtAirVolume, "Air volume", lblAirVolume);
     txtAirVolume.show();
 }
 
@@ -99,7 +98,6 @@ void HeatingLoad1::showLoad()
         lblHeatLoad.setCaption(" BTU Heating Load ");
         txtHeatLoad.setText(FormatNumber(HeatingLoadValue, "#,###"));
     }
-    nameWithUnit(txtHeatLoad, "Heating load", lblHeatLoad);
 }
 
 void HeatingLoad1::showLeavingEntry(Single tdb, Single w)

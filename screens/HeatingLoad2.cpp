@@ -33,7 +33,7 @@ void HeatingLoad2::layOut()
     txtHeatLAT.setBackColour(Colours::LightYellow);
     txtHeatLAT.setForeColour(Colours::Black);
     Label3.describe(txtHeatLAT);
-    nameWithUnit(txtHeatLAT, "Leaving air temperature", Label2);
+    nameWithUnit(txtHeatLAT, "Leaving air temperature", IsMetric() ? "Deg. C" : "Deg. F");
 }
 
 void HeatingLoad2::Form_Load()

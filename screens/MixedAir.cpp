@@ -61,9 +61,10 @@ void MixedAir::repaintExtras()
     lblcfm1.setCaption(isMetric ? " m3/h Outside Air" : " Cfm Outside Air");
     lblcfm2.setCaption(isMetric ? " m3/h Return Air" : " Cfm Return Air");
     lblcfm3.setCaption(isMetric ? " m3/h Total Mixed Air" : " CFM Total Mixed Air");
-    nameWithUnit(txtcfm1, "Outside air volume", lblcfm1);
-    nameWithUnit(txtcfm2, "Return air volume", lblcfm2);
-    nameWithUnit(txtCFM, "Total air volume", lblcfm3);
+    const char* const unit = isMetric ? "m3/h" : "cfm";
+    nameWithUnit(txtcfm1, "Outside air volume", unit);
+    nameWithUnit(txtcfm2, "Return air volume", unit);
+    nameWithUnit(txtCFM, "Total air volume", unit);
     // A calculation starts here: the grains typed in English are thrown away for those of the last one.
     if (!isMetric)
         txtGrains.setText(PlainText(StatePoint.Grains));

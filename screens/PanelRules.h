@@ -1,5 +1,7 @@
 #pragma once
 
+#include "screens/Help.h"
+
 #include <array>
 #include <string_view>
 
@@ -17,6 +19,14 @@ struct RowLabel
 {
     const char* name;
     const char* caption;
+};
+
+/// The entry that opens the calculator's own page of the help.
+struct HelpEntry
+{
+    const char* name;
+    const char* caption;
+    HelpTopic topic;
 };
 
 /// The labels of the nine rows.
@@ -45,7 +55,7 @@ struct PanelRules
     std::string_view metricHumidityUnit;
 
     const PanelLabels& labels;
-    RowLabel helpEntry; ///< in the help menu
+    HelpEntry helpEntry; ///< in the help menu
     const char* searchCaption;
     const char* saveCaption;
     const char* fileSeparator; ///< the name of the line before Exit
@@ -90,7 +100,7 @@ inline constexpr PanelRules airPropertiesCalc{
     .captionMetric = " Air Properties Calculator - (Metric Units)",
     .metricHumidityUnit = " g moisture/kg dry air",
     .labels = plainLabels,
-    .helpEntry = {"mnuHelpAirPropCalc", "&Help for Air Properties Calc"},
+    .helpEntry = {"mnuHelpAirPropCalc", "&Help for Air Properties Calc", HelpTopic::AirProperties},
     .searchCaption = "&Search for Help On ...",
     .saveCaption = "&Save Results to File",
     .fileSeparator = "mnusep2",
@@ -127,7 +137,7 @@ inline constexpr PanelRules mixedAir{
     .captionMetric = " Adiabatic Mixing of Moist Air - (Metric Units)",
     .metricHumidityUnit = " g water/kg dry air",
     .labels = mixedAirLabels,
-    .helpEntry = {"mnuHelpMixedAir", "Help for &Mixed Air"},
+    .helpEntry = {"mnuHelpMixedAir", "Help for &Mixed Air", HelpTopic::MixedAir},
     .searchCaption = "&Search for Help On",
     .saveCaption = "&Save Results to File",
     .fileSeparator = "mnuFiledash2",
@@ -164,7 +174,7 @@ inline constexpr PanelRules coolingLoad1{
     .captionMetric = " Cooling of Moist Air - (Metric / SI Units)",
     .metricHumidityUnit = " g water/kg dry air",
     .labels = coolingLabels,
-    .helpEntry = {"mnuHelpCooling", "Help for &Cooling Loads"},
+    .helpEntry = {"mnuHelpCooling", "Help for &Cooling Loads", HelpTopic::Cooling},
     .searchCaption = "&Search for Help On ...",
     .saveCaption = "&Save Results to File",
     .fileSeparator = "mnusep2",
@@ -189,7 +199,7 @@ inline constexpr PanelRules heatingLoad1{
     .captionMetric = " Heating Load Calculator - (Metric Units)",
     .metricHumidityUnit = " g moisture/kg dry air",
     .labels = plainLabels,
-    .helpEntry = {"mnuHelpHeat", "Help for &Heating Loads"},
+    .helpEntry = {"mnuHelpHeat", "Help for &Heating Loads", HelpTopic::Heating},
     .searchCaption = "&Search for Help On",
     .saveCaption = "&Save Data to File",
     .fileSeparator = "mnuFiledash2",
@@ -214,7 +224,7 @@ inline constexpr PanelRules humid1{
     .captionMetric = " Humidification Calculation - (Metric Units)",
     .metricHumidityUnit = " g moisture/kg dry air",
     .labels = plainLabels,
-    .helpEntry = {"mnuHelpHumidity", "Help for Humidity"},
+    .helpEntry = {"mnuHelpHumidity", "Help for Humidity", HelpTopic::Humidification},
     .searchCaption = "&Search for Help On",
     .saveCaption = "&Save Results to File",
     .fileSeparator = "mnuFiledash2",

@@ -99,8 +99,7 @@ void colourEntry(TextField& field, Colour colour)
     field.alignRight();
 }
 
-void nameWithUnit(Control& field, const std::string& what, const Label& unit)
+void nameWithUnit(Control& field, const std::string& what, const std::string& unit)
 {
-    const QString unitText = QString::fromStdString(unit.caption()).trimmed();
-    field.setAccessibleName(unitText.isEmpty() ? what : what + ", " + unitText.toStdString());
+    field.setAccessibleName(what + ", " + QString::fromStdString(unit).trimmed().toStdString());
 }

@@ -46,5 +46,5 @@ QHBoxLayout* buttonRow(std::initializer_list<Button*> left, std::initializer_lis
 /// Gives a field a light back colour, black text on it, and its value the right place.
 void colourEntry(TextField& field, Colour colour);
 
-/// Calls a field by what it is and the unit that stands beside it.
-void nameWithUnit(Control& field, const std::string& what, const Label& unit);
+/// Calls a field by what it is and its unit.
+void nameWithUnit(Control& field, const std::string& what, const std::string& unit);

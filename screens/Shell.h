@@ -4,3 +4,6 @@
 
 /// Shows the main menu, or brings it to the front.
 void ShowMainForm();
+
+/// Shows the about box, and returns when it is closed.
+void ShowAbout();

@@ -1,6 +1,7 @@
 #include "screens/cfmForm.h"
 
 #include "core/MainMod.h"
+#include "screens/Help.h"
 #include "screens/Rows.h"
 
 #include <QGridLayout>
@@ -13,7 +14,7 @@ cfmForm::cfmForm() : Form("cfmForm", FormKind::Dialog)
     layOut();
     mnuHelp.add(mnuSearch);
     addToMenuBar(mnuHelp);
-    mnuSearch.disable(); // until there is a help file
+    mnuSearch.onClick([this] { mnuSearch_Click(); });
     btnOK.onClick([this] { btnOK_Click(); });
     btnCancel.onClick([this] { btnCancel_Click(); });
     setDefaultButton(btnOK);
@@ -48,7 +49,7 @@ void cfmForm::Form_Activate()
     label2.setCaption(IsMetric() ? " cubic meter per hour" : " CFM ");
     if (AirVolumePreset > 0)
         txtCFMinput.setText(PlainText(AirVolumePreset));
-    nameWithUnit(txtCFMinput, "Air volume", label2);
+    nameWithUnit(txtCFMinput, "Air volume", label2.caption());
 }
 
 void cfmForm::btnOK_Click()
@@ -65,3 +66,6 @@ void cfmForm::btnCancel_Click()
     AirVolume = 0;
     Hide();
 }
+
+// A dialog of the mixed air calculator first of all, it opens the cooling topic.
+void cfmForm::mnuSearch_Click() { OpenHelp(*this, HelpTopic::Cooling); }

@@ -22,6 +22,7 @@ private:
 
     void btnOK_Click();
     void btnCancel_Click();
+    void mnuSearch_Click();
 
     Label Label1{*this, "Label1", "Enter the Air Volume:"};
     TextField txtCFMinput{*this, "txtCFMinput"};

@@ -2,6 +2,8 @@
 
 #include "core/Humidification.h"
 #include "core/MainMod.h"
+#include "screens/Help.h"
+#include "screens/Shell.h"
 
 humid2::humid2() : Form("humid2", FormKind::Screen)
 {
@@ -29,8 +31,9 @@ void humid2::buildMenus()
     mnuSave.onClick([this] { mnuSave_Click(); });
     mnuExit.onClick([this] { mnuExit_Click(); });
     mnuMain.onClick([this] { mnuMain_Click(); });
-    for (MenuCommand* later : {&mnuHumid2Help, &mnuSearch, &mnuAbout})
-        later->disable(); // until there are a help file and an about box
+    mnuHumid2Help.onClick([this] { mnuHumid2Help_Click(); });
+    mnuSearch.onClick([this] { mnuSearch_Click(); });
+    mnuAbout.onClick([this] { mnuAbout_Click(); });
 }
 
 void humid2::Form_Load()
@@ -134,3 +137,7 @@ void humid2::mnuSave_Click()
 {
     SaveHumidity(*this, [this] { return texts(); });
 }
+
+void humid2::mnuHumid2Help_Click() { OpenHelp(*this, HelpTopic::Humidification); }
+void humid2::mnuSearch_Click() { OpenHelp(*this, HelpTopic::AirProperties); }
+void humid2::mnuAbout_Click() { ShowAbout(); }

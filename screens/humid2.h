@@ -38,6 +38,9 @@ private:
     void mnuSave_Click();
     void mnuExit_Click();
     void mnuMain_Click();
+    void mnuHumid2Help_Click();
+    void mnuSearch_Click();
+    void mnuAbout_Click();
 
     void solveDesiredAir();
     void showMoisture();

@@ -118,13 +118,13 @@ void humid2::layOutMoisture()
 
 void humid2::nameFields()
 {
-    nameWithUnit(txtDesT, "Desired space temperature", lblT);
-    nameWithUnit(txtDesH, "Desired relative humidity", lblRH);
-    nameWithUnit(txtVol, "Volume of space", lblSpaceVol);
-    nameWithUnit(txtAC, "Estimated air changes", lblAC);
-    nameWithUnit(txtOSA, "Volume of outside air", lblOSAFlow2);
-    nameWithUnit(txtMassPerHour, "Required moisture, mass", lblMassPerHour);
-    nameWithUnit(txtMassPerDay, "Required moisture, mass", lblMassPerDay);
-    nameWithUnit(txtFlowPerHour, "Required moisture, flow", lblFlowPerHour);
-    nameWithUnit(txtFlowPerDay, "Required moisture, flow", lblFlowPerDay);
+    nameWithUnit(txtDesT, "Desired space temperature", lblT.caption());
+    nameWithUnit(txtDesH, "Desired relative humidity", lblRH.caption());
+    nameWithUnit(txtVol, "Volume of space", lblSpaceVol.caption());
+    nameWithUnit(txtAC, "Estimated air changes", lblAC.caption());
+    nameWithUnit(txtOSA, "Volume of outside air", lblOSAFlow2.caption());
+    nameWithUnit(txtMassPerHour, "Required moisture", lblMassPerHour.caption());
+    nameWithUnit(txtMassPerDay, "Required moisture", lblMassPerDay.caption());
+    nameWithUnit(txtFlowPerHour, "Required moisture", lblFlowPerHour.caption());
+    nameWithUnit(txtFlowPerDay, "Required moisture", lblFlowPerDay.caption());
 }

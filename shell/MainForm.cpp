@@ -5,9 +5,11 @@
 #include "screens/AirPropertiesCalc.h"
 #include "screens/CoolingLoad1.h"
 #include "screens/HeatingLoad1.h"
+#include "screens/Help.h"
 #include "screens/Humid1.h"
 #include "screens/MixedAir.h"
 #include "screens/Shell.h"
+#include "shell/About.h"
 #include "shell/ChartPicture.h"
 #include "shell/Settings.h"
 #include "shell/Store.h"
@@ -17,6 +19,7 @@
 #include <QWidget>
 
 void ShowMainForm() { form<MainForm>().Show(); }
+void ShowAbout() { form<About>().ShowModal(); }
 
 MainForm::MainForm() : Form("MainForm", FormKind::Screen), Image1(*this, "Image1", paintChart)
 {
@@ -73,8 +76,8 @@ void MainForm::buildMenus()
 
     mnuExit.onClick([this] { mnuExit_Click(); });
     mnuOptions.onClick([this] { mnuOptions_Click(); });
-    for (MenuCommand* later : {&mnuHSearch, &mnuAbout})
-        later->disable(); // until there are a help file and an about box
+    mnuHSearch.onClick([this] { mnuHSearch_Click(); });
+    mnuAbout.onClick([this] { mnuAbout_Click(); });
 }
 
 void MainForm::Form_Load()
@@ -126,6 +129,9 @@ void MainForm::mnuExit_Click()
     Unload();
     endProcess();
 }
+
+void MainForm::mnuHSearch_Click() { OpenHelp(*this, HelpTopic::MainPage); }
+void MainForm::mnuAbout_Click() { ShowAbout(); }
 
 void MainForm::mnuOptions_Click()
 {

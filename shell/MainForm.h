@@ -32,6 +32,8 @@ private:
     void btnHumidity_Click();
     void mnuExit_Click();
     void mnuOptions_Click();
+    void mnuHSearch_Click();
+    void mnuAbout_Click();
 
     Label lblProductName{*this, "lblProductName", "Dunmoor"};
     Label lblProduct{*this, "lblProduct", "Psychrometric Calculator"};

@@ -117,7 +117,7 @@ void Settings::Combo1_Click()
     nameField();
 }
 
-void Settings::nameField() { nameWithUnit(txtBP, "Barometric pressure", Label1); }
+void Settings::nameField() { nameWithUnit(txtBP, "Barometric pressure", Label1.caption()); }
 
 void Settings::btnOK_Click()
 {

@@ -65,7 +65,8 @@ bool LineEdit::event(QEvent* event)
     // The toolkit moves the focus on Tab before the key reaches keyPressEvent.
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Tab) {
         const QWidget* const focusBefore = window()->focusWidget();
-        if (field.swallows(Key::Tab) || window()->focusWidget() != focusBefore)
+        field.swallows(Key::Tab); // a field that swallows every key is no trap: Tab moves, it edits nothing
+        if (window()->focusWidget() != focusBefore)
             return true;
     }
     return QLineEdit::event(event);

@@ -76,6 +76,15 @@ TEST_F(FieldEnterAndTab, GoOnToTheNextFieldAtATabWithoutAHandler)
     EXPECT_EQ(user.focus(), "txtSecond");
 }
 
+TEST_F(FieldEnterAndTab, GoOnToTheNextFieldFromOneThatSwallowsEveryKey)
+{
+    FirstScreen& screen = showFirstScreen();
+    screen.txtFirst.onKeyPress([](int& key) { key = Key::Swallowed; });
+    screen.txtFirst.takeFocus();
+    user.key(Qt::Key_Tab);
+    EXPECT_EQ(user.focus(), "txtSecond");
+}
+
 TEST_F(FieldEnterAndTab, PressNoDefaultButtonThatTheirHandlerTurnsOn)
 {
     FirstScreen& screen = showPassing();

@@ -1,0 +1,8 @@
+#include "screens/Help.h"
+
+#include "platform/help/HtmlHelp.h"
+
+void OpenHelp(Form& form, HelpTopic topic)
+{
+    HtmlHelpA(form, "dunmoor.chm", HH_HELP_CONTEXT, static_cast<int>(topic));
+}

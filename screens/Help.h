@@ -1,0 +1,18 @@
+#pragma once
+
+class Form;
+
+/// The numbered topics of the help file.
+enum class HelpTopic
+{
+    MainPage = 100,
+    AirProperties = 105,
+    MixedAir = 110,
+    Cooling = 120,
+    Heating = 130,
+    Humidification = 140,
+};
+
+/// Opens the help file at a topic. Its bare name is found from the current directory, which is the
+/// application's once the air properties calculator has been opened.
+void OpenHelp(Form& form, HelpTopic topic);

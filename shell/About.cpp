@@ -1,0 +1,72 @@
+#include "shell/About.h"
+
+#include "platform/Launch.h"
+#include "screens/Rows.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <QWidget>
+
+namespace {
+
+constexpr const char* supportAddress = "mailto:support@dunmoor.example";
+constexpr const char* webAddress = "https://www.dunmoor.example/";
+constexpr const char* linkFolder = "c:\\";
+
+std::string applicationTitle() { return QCoreApplication::applicationName().toStdString(); }
+
+} // namespace
+
+About::About() : Form("About", FormKind::Dialog)
+{
+    setCaption("About Dunmoor");
+    layOut();
+    btnEMAIL.onClick([this] { btnEMAIL_Click(); });
+    btnURL.onClick([this] { btnURL_Click(); });
+    cmdOK.onClick([this] { cmdOK_Click(); });
+    setDefaultButton(cmdOK);
+}
+
+void About::layOut()
+{
+    lblTitle.setFontSize(240, true);
+    lblMoreDescription.hide();
+    btnEMAIL.setToolTip("support@dunmoor.example");
+    btnURL.setToolTip(webAddress);
+
+    auto* const column = new QVBoxLayout(area());
+    column->setContentsMargins(28, 24, 28, 20);
+    column->setSpacing(8);
+    for (Label* line : {&lblTitle, &lblVersion, &lblCopyright, &lblCompany, &lblDescription})
+        column->addWidget(line->widget());
+    column->addWidget(lblMoreDescription.widget());
+    column->addWidget(Line1.widget());
+    column->addSpacing(8);
+    column->addLayout(buttonRow({&btnEMAIL, &btnURL}, {&cmdOK}));
+}
+
+void About::Form_Load()
+{
+    setCaption("About " + applicationTitle());
+    lblTitle.setCaption(applicationTitle());
+    lblVersion.setCaption("Version " + QCoreApplication::applicationVersion().toStdString());
+    lblCopyright.setCaption("Copyright 2026 the Dunmoor authors, MIT licence");
+    lblCompany.setCaption("Psychrometric Calculator");
+    fitToControls();
+    placeInTheMiddle(2);
+}
+
+void About::Form_Activate() { cmdOK.takeFocus(); }
+
+void About::btnEMAIL_Click()
+{
+    shellResult = ShellExecuteA(*this, "open", supportAddress, "", linkFolder, SW_SHOWNORMAL);
+}
+
+void About::btnURL_Click()
+{
+    shellResult = ShellExecuteA(*this, "open", webAddress, "", linkFolder, SW_SHOWNORMAL);
+}
+
+void About::cmdOK_Click() { Unload(); }

@@ -1,0 +1,70 @@
+"""Drives an installed copy as its user does: help from the first screen on, a calculation, a saved report, a report
+printed to a PDF file, and the end. The folder that it is installed in can't be written by this user."""
+
+import os
+import pathlib
+import sys
+import tempfile
+
+from DesktopProgram import DesktopProgram, wait_for
+
+CALCULATOR = "Air Properties Calculator"
+
+
+def read_help(program):
+    program.choose("Dunmoor", "Help", "Search for Help on ...")
+    program.window("Dunmoor Help")
+    program.keys("Escape")
+    program.gone("Dunmoor Help")
+
+
+def calculate(program):
+    program.click("Dunmoor", "Air Properties")
+    program.type(CALCULATOR, "Dry bulb temperature", "70")
+    program.type(CALCULATOR, "Relative humidity", "50")
+    program.click(CALCULATOR, "Calculate Properties")
+    program.wait_for_text(CALCULATOR, "Wet bulb temperature", "58.4")
+    program.wait_for_text(CALCULATOR, "Dew point temperature", "50.6")
+
+
+def save(program, home):
+    program.choose(CALCULATOR, "File", "Save Results to File")
+    dialog = program.window("Save").get_name()
+    program.type(dialog, "File name:", "room")
+    program.keys("Return")
+    program.gone(dialog)
+    report = pathlib.Path(home, ".local/share/Dunmoor/data/room")
+    text = wait_for(f"the report {report}", lambda: report.exists() and report.read_text())
+    assert " Wet Bulb Temp =            58.4           deg F\n" in text, text
+
+
+def print_to_pdf(program, home):
+    program.choose(CALCULATOR, "File", "Print Results")
+    dialog = program.window("Print").get_name()
+    program.click(dialog, "Print", "push button")
+    program.gone(dialog)
+    pdf = wait_for("a PDF file", lambda: next(iter(pathlib.Path(home).rglob("*.pdf")), None))
+    assert pdf.read_bytes().startswith(b"%PDF"), pdf
+
+
+def main(root):
+    folder = os.path.join(root, "usr/lib/dunmoor")
+    assert os.geteuid() != 0, "for a user who isn't root"
+    assert not os.access(folder, os.W_OK), folder
+    with tempfile.TemporaryDirectory() as home:
+        os.environ["HOME"] = home
+        program = DesktopProgram(os.path.join(root, "usr/bin/dunmoor"), folder)
+        try:
+            read_help(program)
+            calculate(program)
+            save(program, home)
+            print_to_pdf(program, home)
+            program.click(CALCULATOR, "Main Menu", "menu item")
+            program.choose("Dunmoor", "File", "Exit")
+            assert program.wait_for_end() == 0
+            print("help, calculation, saved report, PDF: all there")
+        finally:
+            program.end()
+
+
+main(sys.argv[1])
