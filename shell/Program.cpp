@@ -7,6 +7,7 @@
 #include "shell/MainForm.h"
 
 #include <QApplication>
+#include <QIcon>
 
 namespace {
 
@@ -24,6 +25,10 @@ void StartProgram()
 {
     QCoreApplication::setApplicationName("Dunmoor");
     QCoreApplication::setApplicationVersion("1.4.0");
+    QGuiApplication::setDesktopFileName("dunmoor");
+    QIcon icon(":/dunmoor-32.png");
+    icon.addFile(":/dunmoor-128.png");
+    QGuiApplication::setWindowIcon(icon);
     QGuiApplication::setQuitOnLastWindowClosed(false); // the main menu alone ends the process
 
     const NumberCharacters characters = UserNumberCharacters();

@@ -230,3 +230,11 @@ TEST_F(MainMenu, PaintsItsPictureAtAnyPressureAndTouchesNoState)
         }
     }
 }
+
+TEST_F(MainMenu, BearsTheProgramsIcon)
+{
+    start();
+    const QIcon icon = User::findWindow("MainForm")->windowIcon();
+    EXPECT_FALSE(icon.pixmap(32, 32).isNull());
+    EXPECT_EQ(icon.availableSizes(), (QList<QSize>{{32, 32}, {128, 128}}));
+}
