@@ -8,18 +8,16 @@
 
 namespace {
 
-constexpr const char* viewerKey = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
-constexpr const char* folderKey = "SOFTWARE\\Microsoft\\Shared Tools Location";
+constexpr const char* viewerKey = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
+constexpr const char* folderKey = R"(SOFTWARE\Microsoft\Shared Tools Location)";
 constexpr std::size_t room = 1024; // characters of a value
 
 /// The decimal text of a number whose lowest byte stands first, by way of its hexadecimal digits.
 std::string decimalText(const std::string& bytes)
 {
     constexpr int hexadecimal = 16;
-    QString digits;
-    for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte)
-        digits += QString("%1").arg(static_cast<unsigned char>(*byte), 2, hexadecimal, QChar('0'));
-    return std::to_string(digits.toUInt(nullptr, hexadecimal));
+    const std::string highestFirst(bytes.rbegin(), bytes.rend());
+    return std::to_string(QByteArray::fromStdString(highestFirst).toHex().toUInt(nullptr, hexadecimal));
 }
 
 /// Closes a key on every way out, also one that was never opened.
@@ -69,7 +67,7 @@ void About::StartSysInfo(Registry& registry)
     std::string path;
     bool found = GetKeyValue(HKEY_LOCAL_MACHINE_ROOT, viewerKey, "PATH", path, registry);
     if (!found && GetKeyValue(HKEY_LOCAL_MACHINE_ROOT, folderKey, "MSINFO", path, registry)) {
-        path += "\\MSINFO32.EXE";
+        path += R"(\MSINFO32.EXE)";
         found = QFileInfo::exists(QString::fromStdString(path));
     }
     if (!found || !StartProgramFile(path))
