@@ -158,35 +158,6 @@ TEST_F(MixedAirScreen, ThrowsAwayTypedGrainsForTheLastOnes)
     EXPECT_EQ(user.text("txtGrains"), grains);
 }
 
-TEST_F(MixedAirScreen, TakesDryBulbsUpTo125InMetricToo)
-{
-    open(true);
-    calculate("51", "txtRH", "10");
-    EXPECT_TRUE(user.messages.empty());
-    calculate("125.1", "txtRH", "10");
-    EXPECT_EQ(user.messages, std::vector{temperatureOutOfRange});
-}
-
-TEST_F(MixedAirScreen, ClipsTheWetBulbATenthBelowTheDryBulb)
-{
-    open();
-    calculate("70", "txtTwb", "70");
-    EXPECT_EQ(user.text("lblTwb2"), " Twb clipped at Tdb");
-    EXPECT_EQ(StatePoint.Twb, 70.0 - 0.1);
-    calculate("70", "txttd", "71");
-    EXPECT_EQ(user.text("lblDewPt2"), " Dew Pt. clipped at Tdb");
-    EXPECT_EQ(StatePoint.td, 70.0 - 0.1);
-}
-
-TEST_F(MixedAirScreen, ClipsTheWetBulbLessInMetric)
-{
-    open(true);
-    calculate("20", "txtTwb", "20");
-    EXPECT_EQ(StatePoint.Twb, 20.0 - 0.05);
-    calculate("20", "txttd", "21");
-    EXPECT_EQ(StatePoint.td, 20.0 - 0.1);
-}
-
 TEST_F(MixedAirScreen, OffersToSaveAStateThatTheMessageRefused)
 {
     open();
@@ -622,17 +593,6 @@ TEST_F(MixedAirScreen, ClearsTheStateWhenItOpens)
     EXPECT_EQ(StatePoint.Tdb, 0.0F);
     EXPECT_EQ(StatePoint.Grains.kind(), NumberKind::Int16);
     EXPECT_EQ(AirVolume.kind(), NumberKind::Int16);
-}
-
-TEST_F(MixedAirScreen, FlagsTheClipsOfTheOtherItems)
-{
-    open();
-    calculate("70", "txtRH", "101");
-    EXPECT_EQ(user.text("lblRH2"), " RH clipped at 100%");
-    calculate("70", "txtRH", "0");
-    EXPECT_EQ(user.text("lblRH2"), " RH clipped at 0.1%");
-    calculate("70", "txtW", "0");
-    EXPECT_EQ(user.text("lblW2"), " W clipped at 0.00001");
 }
 
 TEST_F(MixedAirScreen, OffersTheReturnVolumeOnTheOtherScreensToo)
