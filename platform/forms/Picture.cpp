@@ -1,6 +1,7 @@
 #include "platform/forms/Picture.h"
 
 #include "platform/forms/Form.h"
+#include "platform/forms/PackedImage.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -12,7 +13,6 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPalette>
-#include <QPixmap>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
 #include <QTimer>
@@ -52,9 +52,8 @@ protected:
             });
             return;
         }
-        bringUpToDate();
         QPainter painter(this);
-        painter.drawPixmap(0, 0, kept);
+        painter.drawImage(0, 0, upToDate());
         if (hasFocus())
             paintFocus(painter);
     }
@@ -87,18 +86,20 @@ protected:
     }
 
 private:
-    void bringUpToDate()
+    QImage upToDate()
     {
         Key key{size(), devicePixelRatioF(), palette().cacheKey(), font(), contents->version()};
         if (key == keptFor)
-            return;
-        kept = rendered(Qt::transparent);
+            return kept.unpacked();
+        const QImage fresh = rendered(Qt::transparent);
+        kept = PackedImage(fresh);
         keptFor = std::move(key);
+        return fresh;
     }
 
-    QPixmap rendered(const QColor& ground)
+    QImage rendered(const QColor& ground)
     {
-        QPixmap picture(size() * devicePixelRatioF());
+        QImage picture(size() * devicePixelRatioF(), QImage::Format_ARGB32_Premultiplied);
         picture.setDevicePixelRatio(devicePixelRatioF());
         picture.fill(ground);
         QPainter painter(&picture);
@@ -115,12 +116,12 @@ private:
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
     }
 
-    void copy() { QGuiApplication::clipboard()->setPixmap(rendered(palette().color(QPalette::Window))); }
+    void copy() { QGuiApplication::clipboard()->setImage(rendered(palette().color(QPalette::Window))); }
 
     Form& form;
     std::unique_ptr<PictureContents> contents;
     bool isDue = false;
-    QPixmap kept;
+    PackedImage kept;
     Key keptFor;
 };
 

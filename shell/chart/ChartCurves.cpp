@@ -1,11 +1,15 @@
 #include "shell/chart/ChartCurves.h"
 
+#include <QLineF>
+
 #include <algorithm>
 #include <cmath>
 
 namespace {
 
-constexpr double stepPixels = 2;          // along a curve: no chord leaves it by a visible distance
+// So long may a chord be that no point of it lies a tenth of a pixel off its curve.
+constexpr double chordOfBentCurves = 6;
+constexpr double chordOfNearlyStraightOnes = 40;
 constexpr std::size_t mostOfAFamily = 60; // at a pressure that no calculator accepts there may be any number
 
 /// The least argument at which a condition holds that holds from somewhere on; `high` where it never does.
@@ -20,11 +24,12 @@ double firstWhere(double low, double high, const Condition& holds)
     return high;
 }
 
-/// Equal parts of an interval, no longer than a step each.
+/// A curve from one end of an interval to the other, in chords of about that length.
 template <class PlaceAt>
-QPolygonF sampled(double low, double high, double pixels, const PlaceAt& placeAt)
+QPolygonF sampled(double low, double high, double chord, const PlaceAt& placeAt)
 {
-    const int parts = std::max(2, static_cast<int>(std::ceil(pixels / stepPixels)));
+    const double length = QLineF(placeAt(low), placeAt(high)).length();
+    const int parts = std::max(2, static_cast<int>(std::ceil(length / chord)));
     QPolygonF line;
     for (int part = 0; part <= parts; ++part)
         line << placeAt(low + (high - low) * part / parts);
@@ -62,11 +67,11 @@ private:
     /// The ticks of the axes; the lines end at saturation.
     void traceGrid()
     {
-        for (const double t : tdb.multiples(tdb.step(plane.plot.width(), 40))) {
+        for (const double t : tdb.multiples(plane.tdbStep())) {
             const double top = air.isDefined() ? std::min(air.saturated(t), w.high) : w.high;
             keep(ChartFamily::DryBulb, t, {plane.at(t, 0), plane.at(t, top)});
         }
-        for (const double ratio : w.multiples(w.step(plane.plot.height(), 34))) {
+        for (const double ratio : w.multiples(plane.wStep())) {
             const double left = air.isDefined() ? SaturatedTdb(air, tdb, ratio) : tdb.low;
             keep(ChartFamily::HumidityRatio, ratio, {plane.at(left, ratio), plane.at(tdb.high, ratio)});
         }
@@ -79,8 +84,7 @@ private:
             return;
         const double end = firstWhere(tdb.low, tdb.high, [&](double t) { return ratio(t) > w.high; });
         const auto place = [&](double t) { return plane.at(t, std::min(ratio(t), w.high)); };
-        const QPointF extent = place(end) - place(tdb.low);
-        keep(family, percent, sampled(tdb.low, end, std::hypot(extent.x(), extent.y()), place));
+        keep(family, percent, sampled(tdb.low, end, chordOfBentCurves, place));
     }
 
     /// From saturation, or from where it comes into the plot, down to dry air.
@@ -102,7 +106,7 @@ private:
         const double start = firstWhere(leftmost, tdb.high, [&](double t) { return ratio(t) <= w.high; });
         const double end = firstWhere(leftmost, tdb.high, [&](double t) { return ratio(t) < 0; });
         const auto place = [&](double t) { return plane.at(t, ratio(t)); };
-        keep(ChartFamily::WetBulb, twb, sampled(start, end, place(end).x() - place(start).x(), place));
+        keep(ChartFamily::WetBulb, twb, sampled(start, end, chordOfNearlyStraightOnes, place));
     }
 
     void traceVolumes()
@@ -133,8 +137,7 @@ private:
         if (top <= foot)
             return;
         const auto place = [&](double ratio) { return plane.at(dryBulb(ratio), ratio); };
-        keep(ChartFamily::SpecificVolume, volume,
-             sampled(top, foot, place(foot).y() - place(top).y(), place));
+        keep(ChartFamily::SpecificVolume, volume, sampled(top, foot, chordOfNearlyStraightOnes, place));
     }
 
     const ChartAir& air;

@@ -19,6 +19,7 @@ QFont smaller(const QFont& widgetFont)
         font.setPointSizeF(font.pointSizeF() * fontPart);
     else
         font.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * fontPart)));
+    font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
 

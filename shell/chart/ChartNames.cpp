@@ -14,6 +14,7 @@ namespace {
 
 constexpr double markReach = 6; // from a mark's centre to its edge, with some air
 constexpr double curveGap = 3;  // between saturation and the wet bulbs' figures
+constexpr double sideAir = 4;   // at the two ends of a name, together
 constexpr double onePlace = 3;  // marks no farther apart share a label
 
 /// A place on a curve with the direction it goes there.
@@ -56,7 +57,9 @@ QPolygonF squareAround(const QPointF& centre, double reach)
 
 ChartLabel ChartNames::label(const QString& text, ChartFamily family) const
 {
-    return {.text = text, .size = {metrics.horizontalAdvance(text) + 2, metrics.height()}, .family = family};
+    return {.text = text,
+            .size = {metrics.horizontalAdvance(text) + sideAir, metrics.height()},
+            .family = family};
 }
 
 void ChartNames::avoidLine(const QPointF& from, const QPointF& to) { labels.avoid({from, to}); }
@@ -119,7 +122,7 @@ void ChartNames::nameTick(const ChartCurve& tick)
         figure.centre = tick.line.front() + QPointF(0, axisGap + metrics.height() / 2);
         labels.add(figure);
     } else {
-        ChartLabel figure = label(RoundHumidityRatio(tick.value), tick.family);
+        ChartLabel figure = label(HumidityRatioFigure(tick.value, plane.wStep()), tick.family);
         figure.centre = tick.line.back() + QPointF(axisGap + figure.size.width() / 2, 0);
         labels.add(figure);
     }

@@ -47,6 +47,10 @@ struct ChartPlane
         return {plot.left() + span.tdb.part(tdb) * plot.width(),
                 plot.bottom() - span.w.part(w) * plot.height()};
     }
+    /// Between the ticks of the axes.
+    double tdbStep() const { return span.tdb.step(plot.width(), 40); }
+    double wStep() const { return span.w.step(plot.height(), 34); }
+
     double tdbAt(double x) const
     {
         return span.tdb.low + (x - plot.left()) / plot.width() * span.tdb.length();
