@@ -67,8 +67,8 @@ ChartLayout::ChartLayout(const QSize& size, const QFont& widgetFont)
       labels(QRectF(QPointF(0, 0), QSizeF(size)))
 {
     const QFontMetricsF metrics(font);
-    const ChartLegend legend(air, runs, metrics);
     plane = {spanOf(runs), plotIn(size, metrics)};
+    const ChartLegend legend(air, plane.span, runs, metrics);
     const QRectF whole = plane.plot;
     const bool isInCorner = legend.fitsCorner(air, plane);
     if (!isInCorner)

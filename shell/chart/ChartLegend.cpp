@@ -13,13 +13,14 @@ constexpr double lineStep = 1.3; // of the height of the text
 
 } // namespace
 
-ChartLegend::ChartLegend(const ChartAir& air, const std::vector<ChartRun>& runs, const QFontMetricsF& font)
-    : metrics(font)
+ChartLegend::ChartLegend(const ChartAir& air, const ChartSpan& shown, const std::vector<ChartRun>& runs,
+                         const QFontMetricsF& font)
+    : pressure(air.pressure()), span(shown), metrics(font)
 {
-    lines.push_back({entry("At " + PressureText(air.pressure()), std::nullopt)});
+    lines.push_back({entry("At " + PressureText(pressure), std::nullopt)});
     int number = 1;
     for (const ChartRun& run : runs)
-        lines.push_back(lineOf(run, number, air.pressure()));
+        lines.push_back(lineOf(run, number));
 }
 
 ChartLabel ChartLegend::entry(const QString& text, std::optional<std::size_t> calculator) const
@@ -29,15 +30,21 @@ ChartLabel ChartLegend::entry(const QString& text, std::optional<std::size_t> ca
 }
 
 /// A state that was found at another pressure says so: its humidity and its wet bulb can't be read here.
-ChartLegend::Line ChartLegend::lineOf(const ChartRun& run, int& number, Single pressure) const
+QString ChartLegend::nameOf(const ChartState& state) const
+{
+    QString name = QString::fromStdString(state.name);
+    if (state.pressure != pressure)
+        name += " (at " + PressureText(state.pressure) + ")";
+    if (!span.holds(state.tdb, state.w))
+        name += " (off the chart)";
+    return name;
+}
+
+ChartLegend::Line ChartLegend::lineOf(const ChartRun& run, int& number) const
 {
     Line line{entry(QString::fromStdString(run.title) + ":", run.calculator)};
-    for (const ChartState& state : run.states) {
-        QString text = QString::number(number++) + " " + QString::fromStdString(state.name);
-        if (state.pressure != pressure)
-            text += " (at " + PressureText(state.pressure) + ")";
-        line.push_back(entry(text, run.calculator));
-    }
+    for (const ChartState& state : run.states)
+        line.push_back(entry(QString::number(number++) + " " + nameOf(state), run.calculator));
     return line;
 }
 

@@ -13,7 +13,8 @@
 class ChartLegend
 {
 public:
-    ChartLegend(const ChartAir& air, const std::vector<ChartRun>& runs, const QFontMetricsF& metrics);
+    ChartLegend(const ChartAir& air, const ChartSpan& span, const std::vector<ChartRun>& runs,
+                const QFontMetricsF& font);
 
     /// Whether the corner of that plot holds it beside the saturation curve and its labels.
     bool fitsCorner(const ChartAir& air, const ChartPlane& plane) const;
@@ -27,10 +28,13 @@ private:
     using Line = std::vector<ChartLabel>;
 
     ChartLabel entry(const QString& text, std::optional<std::size_t> calculator) const;
-    Line lineOf(const ChartRun& run, int& number, Single pressure) const;
+    Line lineOf(const ChartRun& run, int& number) const;
+    QString nameOf(const ChartState& state) const;
     double widthOf(const Line& line) const;
     std::vector<ChartLabel> placed(const Line& line, QPointF topLeft) const;
 
+    Single pressure;
+    ChartSpan span;
     QFontMetricsF metrics;
     std::vector<Line> lines;
 };
