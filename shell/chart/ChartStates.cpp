@@ -4,8 +4,8 @@
 #include "core/Relations.h"
 #include "shell/chart/ChartAir.h"
 
-#include <algorithm>
-#include <array>
+#include <QPointF>
+
 #include <cmath>
 
 namespace {
@@ -54,25 +54,28 @@ private:
     ChartRun run;
 };
 
-/// The energy that a humidity ratio stands for, so that it can be compared with an enthalpy.
-double latentEnthalpy(double w) { return w * (IsMetric() ? 2501.0 : 1061.0); }
+/// Enthalpy beside humidity ratio, both as energies, so that they can be measured together.
+QPointF energies(const AirSnapshot& air)
+{
+    const double latent = IsMetric() ? 2501.0 : 1061.0;
+    return {air.h, air.W * latent};
+}
 
 /// Whether the mixture lies on the line between its streams, where adiabatic mixing puts it. The air volumes
 /// can't tell: the screens of other calculators change the outside air's. A mixture of streams that were
 /// saved anew since is none of theirs.
 bool isMixtureOfItsStreams()
 {
-    constexpr double rounding = 2e-3;
-    const auto enthalpyPlace = [](const AirSnapshot& air) {
-        return std::array<double, 2>{air.h, latentEnthalpy(air.W)};
-    };
-    const auto from = enthalpyPlace(MixedOutsideAir);
-    const auto to = enthalpyPlace(MixedReturnAir);
-    const auto mix = enthalpyPlace(MixedResultAir);
-    const double length = std::hypot(to[0] - from[0], to[1] - from[1]);
-    const double alongStart = std::hypot(mix[0] - from[0], mix[1] - from[1]);
-    const double alongEnd = std::hypot(mix[0] - to[0], mix[1] - to[1]);
-    return alongStart + alongEnd <= length + rounding;
+    const QPointF from = energies(MixedOutsideAir);
+    const QPointF way = energies(MixedReturnAir) - from;
+    const QPointF part = energies(MixedResultAir) - from;
+    const double rounding = 2e-5 * (1 + std::fabs(from.x()) + std::fabs(way.x())); // of a few singles
+    const double length = std::hypot(way.x(), way.y());
+    if (length <= rounding)
+        return std::hypot(part.x(), part.y()) <= 2 * rounding;
+    const double along = QPointF::dotProduct(way, part) / length;
+    const double aside = (way.x() * part.y() - way.y() * part.x()) / length;
+    return along >= -rounding && along <= length + rounding && std::fabs(aside) <= rounding;
 }
 
 ChartRun mixedAir()

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 
+#include <random>
 #include <string>
 
 namespace {
@@ -63,11 +64,11 @@ TEST_F(ChartStates, AreTrueInEveryModeByEveryItem)
         mode.putInForce();
         HeatingEnteringAir = airAt(33, 64);
         EXPECT_EQ(shown(), Names{"Heating entering"});
-        StatePoint.Twb = 20.0;
+        StatePoint.Twb = IsMetric() ? 20.0 : 29.0;
         SolveFromWetBulb();
         HeatingEnteringAir = AirSnapshot::of(StatePoint, 1);
         EXPECT_EQ(shown(), Names{"Heating entering"});
-        StatePoint.td = 11.0;
+        StatePoint.td = IsMetric() ? 11.0 : 24.0;
         SolveFromDewPoint();
         HeatingEnteringAir = AirSnapshot::of(StatePoint, 1);
         EXPECT_EQ(shown(), Names{"Heating entering"});
@@ -152,6 +153,33 @@ TEST_F(ChartStates, KeepTheMixtureWhenAnotherScreenChangesTheOutsideVolume)
     putMixture(0.4F);
     MixedOutsideAir.AirVolume = 5;
     EXPECT_EQ(processes(), 1U);
+}
+
+TEST_F(ChartStates, KnowEveryMixtureAsTheCalculatorRoundsIt)
+{
+    std::mt19937 random(7);
+    std::uniform_real_distribution<Single> anyTdb(0, 45);
+    std::uniform_real_distribution<Single> anyRH(5, 95);
+    std::uniform_real_distribution<Single> anyVolume(1, 9999);
+    for (const ChartMode& mode : chartModes) {
+        mode.putInForce();
+        const Single warmer = IsMetric() ? 0.0F : 60.0F;
+        int mixtures = 0;
+        for (int count = 0; count < 400; ++count) {
+            MixedOutsideAir = airAt(anyTdb(random) + warmer, anyRH(random), anyVolume(random));
+            MixedReturnAir = airAt(anyTdb(random) + warmer, anyRH(random), anyVolume(random));
+            const TaggedNumber outside = TaggedNumber(MixedOutsideAir.AirVolume) / MixedOutsideAir.SpVol;
+            const TaggedNumber back = TaggedNumber(MixedReturnAir.AirVolume) / MixedReturnAir.SpVol;
+            const TaggedNumber w = (MixedOutsideAir.W * outside + MixedReturnAir.W * back) / (back + outside);
+            const TaggedNumber h = (MixedOutsideAir.h * outside + MixedReturnAir.h * back) / (back + outside);
+            MixedResultAir = airOfRatio(DryBulbFromEnthalpy(h.asSingle(), w.asSingle()), w.asSingle());
+            if (HumidityRatioTooHigh != False16)
+                continue; // fog
+            ++mixtures;
+            EXPECT_EQ(processes(), 1U) << MixedOutsideAir.Tdb << ", " << MixedReturnAir.Tdb;
+        }
+        EXPECT_GT(mixtures, 200);
+    }
 }
 
 TEST_F(ChartStates, OfTheAirPropertiesAreKeptForTheChart)
