@@ -12,7 +12,7 @@
 class ChartColours
 {
 public:
-    explicit ChartColours(const QPalette& palette);
+    explicit ChartColours(const QPalette& desktop);
 
     QColor paper() const { return palette.color(QPalette::Base); }
     QPen pen(ChartFamily family) const;

@@ -50,8 +50,8 @@ public:
             return;
         traceVolumes();
         traceWetBulbs();
-        const double step = plane.plot.height() < 240 ? 20 : 10;
-        for (double percent = step; percent < 100; percent += step)
+        const int step = plane.plot.height() < 240 ? 20 : 10;
+        for (int percent = step; percent < 100; percent += step)
             traceHumidity(ChartFamily::RelativeHumidity, percent);
         traceHumidity(ChartFamily::Saturation, 100);
     }
@@ -90,7 +90,7 @@ private:
     /// From saturation, or from where it comes into the plot, down to dry air.
     void traceWetBulbs()
     {
-        const double step = tdb.step(plane.plot.width(), 22);
+        const double step = tdb.step(plane.plot.width(), 20);
         const double coldest = tdb.low - tdb.length() / 4; // colder ones end left of the plot
         const std::vector<double> bulbs = ChartAxis{coldest, tdb.high}.multiples(step);
         for (const double twb : bulbs)

@@ -21,8 +21,8 @@ enum class ChartFamily
 /// leave the plot by less than a step.
 struct ChartCurve
 {
-    ChartFamily family;
-    double value; ///< a relative humidity in percent, all others in the unit of the chart
+    ChartFamily family{};
+    double value = 0; ///< a relative humidity in percent, all others in the unit of the chart
     QPolygonF line;
 };
 

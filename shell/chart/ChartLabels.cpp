@@ -25,13 +25,13 @@ Shadow shadowOn(const QPointF& axis, const QPolygonF& shape)
 }
 
 /// Whether a line along one side of the shape parts the two.
-bool isPartedBySides(const QPolygonF& shape, const QPolygonF& other)
+bool isPartedBySides(const QPolygonF& shape, const QPolygonF& another)
 {
     for (qsizetype corner = 0; corner < shape.size(); ++corner) {
         const QPointF side = shape.at((corner + 1) % shape.size()) - shape.at(corner);
         const QPointF across(-side.y(), side.x());
         const Shadow mine = shadowOn(across, shape);
-        const Shadow its = shadowOn(across, other);
+        const Shadow its = shadowOn(across, another);
         if (mine.high < its.low || its.high < mine.low)
             return true;
     }

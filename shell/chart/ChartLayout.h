@@ -12,10 +12,10 @@
 /// A state's place on the picture.
 struct ChartMark
 {
-    QPointF place;
-    int number; ///< in the legend, from 1
-    std::size_t calculator;
-    const ChartState* state;
+    QPointF place{};
+    int number = 0; ///< in the legend, from 1
+    std::size_t calculator = 0;
+    const ChartState* state = nullptr;
 };
 
 /// All that stands on the chart, laid out but not yet painted.

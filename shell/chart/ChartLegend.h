@@ -13,7 +13,7 @@
 class ChartLegend
 {
 public:
-    ChartLegend(const ChartAir& air, const ChartSpan& span, const std::vector<ChartRun>& runs,
+    ChartLegend(const ChartAir& air, const ChartSpan& shown, const std::vector<ChartRun>& runs,
                 const QFontMetricsF& font);
 
     /// Whether the corner of that plot holds it beside the saturation curve and its labels.

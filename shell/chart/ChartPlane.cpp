@@ -50,8 +50,8 @@ std::vector<double> ChartAxis::multiples(double step) const
 {
     constexpr double onTheEnd = 1e-6; // so that rounding loses no end
     std::vector<double> found;
-    const double last = std::floor(high / step + onTheEnd);
-    for (double count = std::ceil(low / step - onTheEnd); count <= last; ++count)
+    const auto last = static_cast<int>(std::floor(high / step + onTheEnd));
+    for (auto count = static_cast<int>(std::ceil(low / step - onTheEnd)); count <= last; ++count)
         found.push_back(count * step);
     return found;
 }

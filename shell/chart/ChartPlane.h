@@ -8,8 +8,8 @@
 /// One axis: its ends stand on round figures.
 struct ChartAxis
 {
-    double low;
-    double high;
+    double low = 0;
+    double high = 0;
 
     double length() const { return high - low; }
     /// 0 at the low end, 1 at the high end.
@@ -24,8 +24,8 @@ struct ChartAxis
 /// What the chart spans: dry bulb, deg F or deg C, and humidity ratio, lb/lb or kg/kg.
 struct ChartSpan
 {
-    ChartAxis tdb;
-    ChartAxis w;
+    ChartAxis tdb{};
+    ChartAxis w{};
 
     /// The usual span of the units in force, widened so that all these states (dry bulb, humidity ratio) are
     /// seen, as far as moist air goes.
@@ -39,8 +39,8 @@ struct ChartSpan
 /// Turns states into places on the picture and back.
 struct ChartPlane
 {
-    ChartSpan span;
-    QRectF plot;
+    ChartSpan span{};
+    QRectF plot{};
 
     QPointF at(double tdb, double w) const
     {

@@ -9,10 +9,10 @@
 /// A state that a calculator found.
 struct ChartState
 {
-    std::string name; ///< what it is to its calculator
-    Single tdb;       ///< deg F or deg C
-    Single w;         ///< lb/lb or kg/kg
-    Single pressure;  ///< that it was found at, psi or Pa
+    std::string name;    ///< what it is to its calculator
+    Single tdb = 0;      ///< deg F or deg C
+    Single w = 0;        ///< lb/lb or kg/kg
+    Single pressure = 0; ///< that it was found at, psi or Pa
 
     friend bool operator==(const ChartState&, const ChartState&) = default;
 };
@@ -20,9 +20,9 @@ struct ChartState
 /// Two states of a calculator that a process joins.
 struct ChartProcess
 {
-    std::size_t from;
-    std::size_t to;
-    bool isDirected; ///< the air goes from the one to the other
+    std::size_t from = 0;
+    std::size_t to = 0;
+    bool isDirected = false; ///< the air goes from the one to the other
 
     friend bool operator==(const ChartProcess&, const ChartProcess&) = default;
 };
@@ -30,7 +30,7 @@ struct ChartProcess
 /// The last run of one calculator.
 struct ChartRun
 {
-    std::size_t calculator; ///< in the order of the main menu
+    std::size_t calculator = 0; ///< in the order of the main menu
     std::string title;
     std::vector<ChartState> states;
     std::vector<ChartProcess> processes;
