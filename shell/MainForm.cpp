@@ -10,18 +10,26 @@
 #include "screens/MixedAir.h"
 #include "screens/Shell.h"
 #include "shell/About.h"
-#include "shell/ChartPicture.h"
 #include "shell/Settings.h"
 #include "shell/Store.h"
+#include "shell/chart/ChartPicture.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>
 #include <QWidget>
 
-void ShowMainForm() { form<MainForm>().Show(); }
+#include <utility>
+
+void ShowMainForm()
+{
+    form<MainForm>().keepLastAir();
+    form<MainForm>().Show();
+}
+
 void ShowAbout() { form<About>().ShowModal(); }
 
-MainForm::MainForm() : Form("MainForm", FormKind::Screen), Image1(*this, "Image1", paintChart)
+MainForm::MainForm()
+    : Form("MainForm", FormKind::Screen), Image1(*this, "Image1", std::make_unique<ChartPicture>())
 {
     setCaption("Dunmoor");
     layOut();
@@ -55,11 +63,11 @@ void MainForm::layOut()
     auto* const grid = new QGridLayout(area());
     grid->setContentsMargins(28, 20, 28, 28);
     grid->setHorizontalSpacing(28);
-    grid->addWidget(lblProductName.widget(), 0, 0, 1, 2);
-    grid->addWidget(lblProduct.widget(), 1, 0, 1, 2);
+    grid->addWidget(lblProductName.widget(), 0, 0);
+    grid->addWidget(lblProduct.widget(), 1, 0);
     grid->setRowMinimumHeight(2, 16);
     grid->addLayout(buttons, 3, 0);
-    grid->addWidget(Image1.widget(), 3, 1);
+    grid->addWidget(Image1.widget(), 0, 1, 4, 1);
     grid->setColumnStretch(1, 1);
     grid->setColumnMinimumWidth(0, 190);
     grid->setRowStretch(3, 1);
@@ -118,11 +126,22 @@ void MainForm::open()
     form<Calculator>().Show();
 }
 
-void MainForm::btnAirCalc_Click() { open<AirPropertiesCalc>(); }
+void MainForm::btnAirCalc_Click()
+{
+    open<AirPropertiesCalc>();
+    isAirPropertiesOpen = true;
+}
+
 void MainForm::btnMixedAir_Click() { open<MixedAir>(); }
 void MainForm::btnCooling_Click() { open<CoolingLoad1>(); }
 void MainForm::btnHeating_Click() { open<HeatingLoad1>(); }
 void MainForm::btnHumidity_Click() { open<Humid1>(); }
+
+void MainForm::keepLastAir()
+{
+    if (std::exchange(isAirPropertiesOpen, false))
+        KeepAirProperties();
+}
 
 void MainForm::mnuExit_Click()
 {

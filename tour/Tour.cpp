@@ -230,6 +230,7 @@ void visitCalculators(Hand& hand, const Walk& walk)
     visitCooling(hand, walk);
     visitHeating(hand, walk);
     visitHumidification(hand, walk);
+    hand.picture(QString(walk.units) + "main-menu-last-runs");
 }
 
 } // namespace

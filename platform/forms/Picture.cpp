@@ -1,33 +1,134 @@
 #include "platform/forms/Picture.h"
 
 #include "platform/forms/Form.h"
+#include "platform/forms/PackedImage.h"
 
+#include <QAction>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QFont>
+#include <QGuiApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMenu>
 #include <QPainter>
+#include <QPalette>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
+#include <QTimer>
+#include <QToolTip>
 #include <QWidget>
 
 namespace {
 
+/// All that the kept picture depends on.
+struct Key
+{
+    QSize size;
+    qreal scale = 0;
+    qint64 palette = 0;
+    QFont font;
+    std::string version;
+
+    friend bool operator==(const Key&, const Key&) = default;
+};
+
 class Canvas : public QWidget
 {
 public:
-    Canvas(QWidget* parent, Picture::Painter painter) : QWidget(parent), paint(std::move(painter)) {}
+    Canvas(Form& owner, std::unique_ptr<PictureContents> shown)
+        : QWidget(owner.area()), form(owner), contents(std::move(shown))
+    {
+        setFocusPolicy(Qt::TabFocus);
+    }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
+        if (!isDue) {
+            QTimer::singleShot(0, this, [this] {
+                isDue = true;
+                update();
+            });
+            return;
+        }
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        paint(painter, rect());
+        painter.drawImage(0, 0, upToDate());
+        if (hasFocus())
+            paintFocus(painter);
+    }
+
+    bool event(QEvent* event) override
+    {
+        if (event->type() != QEvent::ToolTip)
+            return QWidget::event(event);
+        const auto& help = static_cast<QHelpEvent&>(*event);
+        const QString tip = QString::fromStdString(contents->tipAt(help.pos()));
+        QToolTip::showText(help.globalPos(), tip, this, QRect(help.pos(), QSize(1, 1)));
+        return true;
+    }
+
+    void contextMenuEvent(QContextMenuEvent* event) override
+    {
+        auto* const menu = new QMenu(this);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        QAction* const entry = menu->addAction("&Copy Picture", this, [this] { copy(); });
+        entry->setObjectName("mnuCopyPicture");
+        menu->popup(event->globalPos());
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->matches(QKeySequence::Copy))
+            copy();
+        else
+            QWidget::keyPressEvent(event);
     }
 
 private:
-    Picture::Painter paint;
+    QImage upToDate()
+    {
+        Key key{size(), devicePixelRatioF(), palette().cacheKey(), font(), contents->version()};
+        if (key == keptFor)
+            return kept.unpacked();
+        const QImage fresh = rendered(Qt::transparent);
+        kept = PackedImage(fresh);
+        keptFor = std::move(key);
+        return fresh;
+    }
+
+    QImage rendered(const QColor& ground)
+    {
+        QImage picture(size() * devicePixelRatioF(), QImage::Format_ARGB32_Premultiplied);
+        picture.setDevicePixelRatio(devicePixelRatioF());
+        picture.fill(ground);
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        runHandler(form, [&] { contents->paint(painter, size(), *this); });
+        return picture;
+    }
+
+    void paintFocus(QPainter& painter)
+    {
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        option.backgroundColor = palette().color(QPalette::Window);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    }
+
+    void copy() { QGuiApplication::clipboard()->setImage(rendered(palette().color(QPalette::Window))); }
+
+    Form& form;
+    std::unique_ptr<PictureContents> contents;
+    bool isDue = false;
+    PackedImage kept;
+    Key keptFor;
 };
 
 } // namespace
 
-Picture::Picture(Form& owner, const std::string& name, Painter painter)
-    : Control(owner, new Canvas(owner.area(), std::move(painter)), name)
+Picture::Picture(Form& owner, const std::string& name, std::unique_ptr<PictureContents> contents)
+    : Control(owner, new Canvas(owner, std::move(contents)), name)
 {}
 
 void Picture::repaint() { widget()->update(); }

@@ -2,17 +2,39 @@
 
 #include "platform/forms/Control.h"
 
-class QPainter;
-class QRect;
+#include <memory>
+#include <string>
 
-/// A picture that is painted by a function; asked for again whenever its size or the palette changes.
+class QPainter;
+class QPoint;
+class QSize;
+class QWidget;
+
+/// What a picture shows.
+class PictureContents
+{
+public:
+    PictureContents() = default;
+    virtual ~PictureContents() = default;
+    PictureContents(const PictureContents&) = delete;
+    PictureContents& operator=(const PictureContents&) = delete;
+
+    /// Another text whenever the picture would come out differently at the same size, font and colours.
+    virtual std::string version() const = 0;
+    /// Paints the picture in the font and colours of the widget that it stands on.
+    virtual void paint(QPainter& painter, const QSize& size, const QWidget& on) = 0;
+    /// What is to be said about a place on the picture as painted last; nothing, where empty.
+    virtual std::string tipAt(const QPoint& place) const = 0;
+};
+
+/// A picture. It costs the first picture of its window nothing: its own comes right after that, and is kept
+/// until its contents, size, font, colours or the screen's scaling change. It tells about the place under the
+/// pointer, and copies itself to the clipboard by its context menu or Ctrl+C.
 class Picture : public Control
 {
 public:
-    using Painter = std::function<void(QPainter& painter, const QRect& place)>;
+    Picture(Form& owner, const std::string& name, std::unique_ptr<PictureContents> contents);
 
-    Picture(Form& owner, const std::string& name, Painter painter);
-
-    /// Has the picture painted anew, because what it shows has changed.
+    /// Looks whether what the picture shows has changed.
     void repaint();
 };

@@ -215,22 +215,6 @@ TEST_F(MainMenu, KnowsTheHelpFileBesideTheExecutable)
     start();
     EXPECT_EQ(HelpFile, ApplicationFolder() + "/dunmoor.chm");
 }
-
-TEST_F(MainMenu, PaintsItsPictureAtAnyPressureAndTouchesNoState)
-{
-    start();
-    for (const char* pressure : {"0", "-5", "0.1", "12.35", "14.696", "101.325", "1e30"}) {
-        for (const Boolean16 system : {False16, True16}) {
-            BaroPressure = ParseSingle(pressure);
-            UnitSystem = system;
-            const AirSnapshot before = AirSnapshot::of(StatePoint, 0);
-            EXPECT_FALSE(user.widget("Image1")->grab().isNull());
-            EXPECT_EQ(AirSnapshot::of(StatePoint, 0).Pws, before.Pws);
-            EXPECT_EQ(HumiditySelector, "");
-        }
-    }
-}
-
 TEST_F(MainMenu, BearsTheProgramsIcon)
 {
     start();

@@ -1,0 +1,131 @@
+// A picture: when it is painted, and what it keeps.
+
+#include "platform/forms/Picture.h"
+#include "platform/forms/PackedImage.h"
+#include "tests/platform/forms/TestForms.h"
+
+#include <QFont>
+#include <QImage>
+#include <QPainter>
+#include <QPalette>
+#include <QTest>
+
+namespace {
+
+struct Drawing : PictureContents
+{
+    std::string version() const override { return shown; }
+    void paint(QPainter& painter, const QSize& size, const QWidget& /*on*/) override
+    {
+        ++paints;
+        painter.fillRect(QRect(QPoint(0, 0), size).adjusted(2, 2, -2, -2), Qt::red);
+    }
+    std::string tipAt(const QPoint& /*place*/) const override { return "a tip"; }
+
+    static inline std::string shown = "first";
+    static inline int paints = 0;
+};
+
+class PictureScreen : public Form
+{
+public:
+    PictureScreen() : Form("PictureScreen", FormKind::Screen)
+    {
+        auto* const column = new QVBoxLayout(area());
+        column->addWidget(Image1.widget());
+        setSize(3000, 3000);
+    }
+    Picture Image1{*this, "Image1", std::make_unique<Drawing>()};
+};
+
+class PictureControl : public FormsTest
+{
+protected:
+    static QColor shownColour()
+    {
+        QWidget* const canvas = form<PictureScreen>().Image1.widget();
+        return canvas->grab().toImage().pixelColor(canvas->rect().center());
+    }
+    static void show()
+    {
+        form<PictureScreen>().Show();
+        QTest::qWait(20);
+    }
+    static void repaint()
+    {
+        form<PictureScreen>().Image1.repaint();
+        QTest::qWait(20);
+    }
+};
+
+} // namespace
+
+TEST_F(PictureControl, IsPaintedAfterTheFirstPictureOfItsWindow)
+{
+    form<PictureScreen>().Show();
+    EXPECT_NE(shownColour(), QColor(Qt::red));
+    EXPECT_EQ(Drawing::paints, 0);
+    QTest::qWait(20);
+    EXPECT_EQ(Drawing::paints, 1);
+    EXPECT_EQ(shownColour(), QColor(Qt::red));
+}
+
+TEST_F(PictureControl, IsKeptWhileNothingChanges)
+{
+    show();
+    repaint();
+    form<PictureScreen>().Hide();
+    show();
+    EXPECT_EQ(shownColour(), QColor(Qt::red));
+    EXPECT_EQ(Drawing::paints, 1);
+}
+
+TEST_F(PictureControl, IsPaintedAnewWhenItsContentsChange)
+{
+    show();
+    Drawing::shown = "second";
+    repaint();
+    EXPECT_EQ(Drawing::paints, 2);
+}
+
+TEST_F(PictureControl, IsUpToDateWhenItsWindowComesBack)
+{
+    show();
+    form<PictureScreen>().Hide();
+    Drawing::shown = "second";
+    show();
+    EXPECT_EQ(Drawing::paints, 2);
+}
+
+TEST_F(PictureControl, IsPaintedAnewInAnotherSizeFontOrColour)
+{
+    show();
+    form<PictureScreen>().window()->resize(500, 500);
+    QTest::qWait(20);
+    EXPECT_EQ(Drawing::paints, 2);
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::Base, Qt::black);
+    QApplication::setPalette(palette);
+    QTest::qWait(20);
+    EXPECT_EQ(Drawing::paints, 3);
+    QFont font = QApplication::font();
+    font.setItalic(true);
+    QApplication::setFont(font);
+    QTest::qWait(20);
+    EXPECT_EQ(Drawing::paints, 4);
+}
+
+TEST_F(PictureControl, ComesOutOfItsPackingAsItWentIn)
+{
+    QImage image(61, 47, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(2);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawEllipse(QRectF(3, 4, 20, 15));
+    painter.end();
+    const PackedImage packed(image);
+    EXPECT_EQ(packed.unpacked(), image);
+    EXPECT_EQ(packed.unpacked().devicePixelRatio(), 2);
+    EXPECT_LT(packed.bytes(), image.sizeInBytes() / 4);
+}

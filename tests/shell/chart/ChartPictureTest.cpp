@@ -1,0 +1,405 @@
+// The chart as a user of the main menu sees it.
+
+#include "shell/chart/ChartLayout.h"
+#include "tests/screens/CalculatorFixture.h"
+#include "tests/shell/chart/ChartModes.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QImage>
+#include <QMenu>
+#include <QTest>
+#include <QToolTip>
+
+#include <cmath>
+#include <cstring>
+#include <memory>
+#include <sstream>
+
+namespace {
+
+/// All of the calculator's state, to the bit and the kind.
+std::string wholeState()
+{
+    std::ostringstream all;
+    all << std::hexfloat;
+    const MoistAirState& s = StatePoint;
+    const TaggedNumber* const tagged[] = {
+        &s.Mu, &s.Grains, &s.RH, &s.SpVol, &s.PwsDew, &s.PwsWet,  &s.Pws,           &s.W,
+        &s.Ws, &s.td,     &s.P,  &s.Pw,    &s.Twb,    &AirVolume, &AirVolumePreset, &HeatingLoadValue};
+    for (const TaggedNumber* number : tagged) {
+        all << static_cast<int>(number->kind()) << ' ' << number->text() << ' ';
+        if (number->kind() != NumberKind::Text)
+            all << number->asDouble() << '\n';
+    }
+    for (const Single number : {s.h, s.ReservedSingle, s.WsWet, s.TAbs, s.Tdb, BaroPressure, SpareSingle})
+        all << number << '\n';
+    all << UnitSystem << HumidityRatioTooHigh << GrainsTooHigh << HumiditySelector << '\n';
+    for (const AirSnapshot* air :
+         {&MixedOutsideAir, &MixedReturnAir, &MixedResultAir, &CoolingEnteringAir, &CoolingLeavingAir,
+          &HeatingEnteringAir, &HeatingLeavingAir, &HumidOutsideAir, &HumidDesiredAir})
+        all.write(reinterpret_cast<const char*>(air), sizeof *air);
+    return all.str();
+}
+
+class ChartOnMenu : public CalculatorTest
+{
+protected:
+    QWidget* picture() const { return User::findWindow("MainForm")->findChild<QWidget*>("Image1"); }
+
+    QImage shown() const
+    {
+        QTest::qWait(20); // the chart comes after the window's first picture
+        return picture()->grab().toImage();
+    }
+
+    std::unique_ptr<ChartLayout> layout() const
+    {
+        return std::make_unique<ChartLayout>(picture()->size(), picture()->font());
+    }
+
+    /// Whether a state is marked on what the menu shows: a dot of one strong colour.
+    bool isMarked(double tdb, double w) const
+    {
+        const auto chart = layout();
+        const QImage image = shown();
+        const QPointF exactly = chart->plane.at(tdb, w);
+        const QPoint place(static_cast<int>(exactly.x()), static_cast<int>(exactly.y()));
+        const QColor centre = image.pixelColor(place);
+        if (centre.hsvSaturation() < 150)
+            return false;
+        for (const QPoint step : {QPoint(2, 0), QPoint(-2, 0), QPoint(0, 2), QPoint(0, -2)}) {
+            if (image.pixelColor(place + step) != centre)
+                return false;
+        }
+        return true;
+    }
+
+    void inOptions(const std::function<void()>& actions)
+    {
+        user.inDialog("Settings", actions);
+        user.choose("mnuOptions");
+    }
+
+    void changeUnits(const std::string& entry)
+    {
+        inOptions([&] {
+            user.chooseFromList("Combo1", entry);
+            user.click("btnOK");
+        });
+    }
+
+    std::string tipAt(QPointF place) const
+    {
+        shown();
+        const QPoint there = place.toPoint();
+        QHelpEvent event(QEvent::ToolTip, there, picture()->mapToGlobal(there));
+        QApplication::sendEvent(picture(), &event);
+        const std::string tip = QToolTip::isVisible() ? QToolTip::text().toStdString() : "";
+        QToolTip::hideText();
+        EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+        return tip;
+    }
+
+    void runMixedAir()
+    {
+        user.click("btnMixedAir");
+        calculate("95", "txtRH", "40");
+        answerVolume("btnSaveOSA", "1000");
+        calculate("75", "txtRH", "50");
+        answerVolume("btnRA", "3000");
+        user.click("btnMixedAir");
+        user.click("btnOK");
+        user.choose("mnuMain1");
+    }
+
+    void runCooling()
+    {
+        user.click("btnCooling");
+        calculate(IsMetric() ? "30" : "80", "txtRH", "50");
+        answerVolume("btnSaveEA", "1000");
+        user.inDialog("CoolingLoad2", [this] {
+            user.type("txtLATdb", IsMetric() ? "13" : "55");
+            user.type("txtLATwb", IsMetric() ? "12.5" : "54");
+            user.click("btnOK");
+        });
+        user.click("btnSetLA");
+        user.inDialog("CoolingLoad3", [this] { user.click("Command1"); });
+        user.click("btnCalcLoad");
+        user.choose("mnuMain1");
+    }
+
+    void runHeating()
+    {
+        user.click("btnHeating");
+        calculate(IsMetric() ? "20" : "70", "txtRH", "40");
+        answerVolume("btnSaveEnteringAir", "1000");
+        user.inDialog("HeatingLoad2", [this] {
+            user.type("txtHeatLAT", IsMetric() ? "38" : "100");
+            user.click("btnOK");
+        });
+        user.click("btnInputLeavingAir");
+        user.choose("mnuMain1");
+    }
+
+    void runHumidification()
+    {
+        user.click("btnHumidity");
+        calculate(IsMetric() ? "-20" : "20", "txtRH", "60");
+        user.inDialog("humid2", [this] {
+            user.type("txtDesT", IsMetric() ? "21" : "72");
+            user.type("txtDesH", "30");
+            user.type("txtOSA", "500");
+            user.click("btnCalcHumid");
+            user.click("btnOK");
+        });
+        user.click("btnHumidityDesired");
+        user.choose("mnuMain1");
+    }
+
+    void expectMarked(const std::vector<AirSnapshot>& states)
+    {
+        for (const AirSnapshot& air : states)
+            EXPECT_TRUE(isMarked(air.Tdb, air.W)) << air.Tdb << ", " << air.W;
+    }
+};
+
+/// By more than the rounding of a blended colour.
+bool differ(QRgb one, QRgb other)
+{
+    constexpr int rounding = 3;
+    return std::abs(qRed(one) - qRed(other)) > rounding || std::abs(qGreen(one) - qGreen(other)) > rounding ||
+           std::abs(qBlue(one) - qBlue(other)) > rounding;
+}
+
+int pixelsThatDiffer(const QImage& one, const QImage& other)
+{
+    int count = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x)
+            count += differ(one.pixel(x, y), other.pixel(x, y)) ? 1 : 0;
+    }
+    return count;
+}
+
+} // namespace
+
+TEST_F(ChartOnMenu, ComesAfterTheFirstPictureOfTheMenu)
+{
+    start();
+    const QImage first = picture()->grab().toImage();
+    const QColor ground = first.pixelColor(0, 0);
+    for (int y = 0; y < first.height(); y += 3) {
+        for (int x = 0; x < first.width(); x += 3)
+            ASSERT_EQ(first.pixelColor(x, y), ground);
+    }
+    EXPECT_GT(pixelsThatDiffer(first, shown()), 10000);
+}
+
+TEST_F(ChartOnMenu, MarksTheMixedAirAndItsStreams)
+{
+    start();
+    runMixedAir();
+    EXPECT_EQ(layout()->marks.size(), 3U);
+    expectMarked({MixedOutsideAir, MixedReturnAir, MixedResultAir});
+    EXPECT_FLOAT_EQ(MixedOutsideAir.Tdb, 95);
+}
+
+TEST_F(ChartOnMenu, MarksTheCoilsAndTheHumidification)
+{
+    start();
+    runCooling();
+    EXPECT_EQ(layout()->marks.size(), 2U);
+    runHeating();
+    runHumidification();
+    EXPECT_EQ(layout()->marks.size(), 6U);
+    expectMarked({CoolingEnteringAir, CoolingLeavingAir, HeatingEnteringAir, HeatingLeavingAir,
+                  HumidOutsideAir, HumidDesiredAir});
+    for (const ChartRun& run : LastRuns())
+        EXPECT_EQ(run.processes.size(), 1U) << run.title;
+}
+
+TEST_F(ChartOnMenu, MarksThemInMetric)
+{
+    startInMetric();
+    runCooling();
+    runHeating();
+    runHumidification();
+    EXPECT_EQ(layout()->marks.size(), 6U);
+    expectMarked({CoolingEnteringAir, CoolingLeavingAir, HeatingEnteringAir, HeatingLeavingAir,
+                  HumidOutsideAir, HumidDesiredAir});
+}
+
+TEST_F(ChartOnMenu, MarksTheAirPropertiesUntilTheNextOnes)
+{
+    start();
+    user.click("btnAirCalc");
+    calculate("80", "txtRH", "40");
+    user.choose("mnuMain1");
+    const double w = StatePoint.W.asDouble();
+    EXPECT_TRUE(isMarked(80, w));
+    user.click("btnHeating"); // clears the state
+    user.choose("mnuMain1");
+    EXPECT_TRUE(isMarked(80, w));
+    user.click("btnAirCalc");
+    user.choose("mnuMain1");
+    EXPECT_TRUE(isMarked(80, w)) << "nothing was calculated since";
+}
+
+TEST_F(ChartOnMenu, MarksNoAirThatAnotherCalculatorOnlyTried)
+{
+    start();
+    user.click("btnHeating");
+    calculate("70", "txtRH", "40");
+    user.choose("mnuMain1");
+    EXPECT_EQ(layout()->marks.size(), 0U);
+}
+
+TEST_F(ChartOnMenu, FollowsTheOptions)
+{
+    start();
+    runCooling();
+    const AirSnapshot entering = CoolingEnteringAir;
+    const QImage english = shown();
+    changeUnits("Metric, SI");
+    const QImage metric = shown();
+    EXPECT_GT(pixelsThatDiffer(english, metric), 5000);
+    EXPECT_EQ(layout()->marks.size(), 0U);
+    EXPECT_EQ(layout()->plane.span.tdb.high, 50);
+
+    changeUnits("English, I-P");
+    EXPECT_EQ(shown(), english);
+    inOptions([this] {
+        user.type("txtBP", "12");
+        user.click("btnOK");
+    });
+    EXPECT_GT(pixelsThatDiffer(english, shown()), 5000);
+    EXPECT_EQ(layout()->marks.size(), 2U);
+    EXPECT_NE(tipAt(layout()->placeOf({"", entering.Tdb, entering.W, 0})).find("at 14.696 psi"),
+              std::string::npos);
+}
+
+TEST_F(ChartOnMenu, FollowsTheColoursOfTheDesktop)
+{
+    start();
+    const QImage light = shown();
+    QPalette dark(QColor(45, 45, 48));
+    dark.setColor(QPalette::Base, QColor(30, 30, 32));
+    QApplication::setPalette(dark);
+    const auto chart = layout();
+    const QPoint paper = chart->plane.at(105.3, 0.0012).toPoint();
+    EXPECT_LT(shown().pixelColor(paper).lightness(), 60);
+    EXPECT_GT(light.pixelColor(paper).lightness(), 200);
+}
+
+TEST_F(ChartOnMenu, SaysWhatIsUnderThePointer)
+{
+    start();
+    runCooling();
+    const auto chart = layout();
+    const QPointF place = chart->plane.at(75, 0.0093);
+    // A pixel of the chart is about 0.2 degrees and 0.00005 lb/lb.
+    const std::string tip = tipAt(place);
+    const double tdb = chart->plane.tdbAt(place.toPoint().x());
+    const double w = chart->plane.wAt(place.toPoint().y());
+    StatePoint.Tdb = static_cast<Single>(tdb);
+    StatePoint.W = static_cast<Single>(w);
+    SolveFromW();
+    EXPECT_EQ(tip, FormatNumber(StatePoint.Tdb, "#0.0") + " °F dry bulb\n" +
+                       FormatNumber(StatePoint.W, "#0.0000") + " lb/lb humidity ratio\n" +
+                       FormatNumber(StatePoint.RH * 100, "#0.0") + " % relative humidity");
+    EXPECT_NEAR(tdb, 75, 0.2);
+    EXPECT_NEAR(w, 0.0093, 0.0001);
+
+    const std::string entering = tipAt(chart->plane.at(CoolingEnteringAir.Tdb, CoolingEnteringAir.W));
+    EXPECT_EQ(entering, "Cooling, entering\n80.0 °F dry bulb\n" +
+                            FormatNumber(CoolingEnteringAir.W, "#0.0000") +
+                            " lb/lb humidity ratio\n50.0 % relative humidity\nat 14.696 psi");
+    EXPECT_EQ(tipAt(chart->plane.at(40, 0.02)), "") << "no air is above saturation";
+    EXPECT_EQ(tipAt({1, 1}), "");
+}
+
+TEST_F(ChartOnMenu, SaysItInMetric)
+{
+    startInMetric();
+    runHeating();
+    EXPECT_EQ(tipAt(layout()->plane.at(HeatingLeavingAir.Tdb, HeatingLeavingAir.W)),
+              "Heating, leaving\n38.0 °C dry bulb\n" + FormatNumber(HeatingLeavingAir.W * 1000.0, "#0.00") +
+                  " g/kg humidity ratio\n" + FormatNumber(HeatingLeavingAir.RH * 100.0, "#0.0") +
+                  " % relative humidity\nat 101.352 kPa");
+}
+
+TEST_F(ChartOnMenu, IsCopiedAsAPictureByItsMenu)
+{
+    start();
+    shown();
+    QGuiApplication::clipboard()->clear();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, {50, 50}, picture()->mapToGlobal(QPoint(50, 50)));
+    QApplication::sendEvent(picture(), &event);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
+                      menu->actionGeometry(menu->actions().constFirst()).center());
+    const QImage copied = QGuiApplication::clipboard()->image();
+    EXPECT_EQ(copied.size(), picture()->size());
+    EXPECT_EQ(pixelsThatDiffer(copied, shown()), 0);
+}
+
+TEST_F(ChartOnMenu, IsCopiedByTheKeyboard)
+{
+    start();
+    picture()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(picture(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->image().size(), picture()->size());
+}
+
+TEST_F(ChartOnMenu, ChangesNothingOfTheState)
+{
+    start();
+    runMixedAir();
+    runCooling();
+    runHeating();
+    runHumidification();
+    for (const char* pressure : {"0", "-5", "0.1", "0.5", "12.35", "14.696", "101.325", "1e30", "3e38"}) {
+        for (const Boolean16 system : {False16, True16}) {
+            BaroPressure = ParseSingle(pressure);
+            UnitSystem = system;
+            const std::string before = wholeState();
+            picture()->update();
+            EXPECT_FALSE(shown().isNull());
+            for (const QPoint place : {QPoint(300, 300), QPoint(1, 1), QPoint(150, 500)})
+                tipAt(place);
+            QTest::keyClick(picture(), Qt::Key_C, Qt::ControlModifier);
+            EXPECT_EQ(wholeState(), before);
+        }
+    }
+}
+
+TEST_F(ChartOnMenu, FollowsTheSizeOfTheWindow)
+{
+    start();
+    shown();
+    User::findWindow("MainForm")->resize(1100, 900);
+    runCooling();
+    expectMarked({CoolingEnteringAir, CoolingLeavingAir});
+    EXPECT_GT(layout()->plane.plot.width(), 700);
+}
+
+TEST_F(ChartOnMenu, IsDrawnInTheScreensOwnPixels)
+{
+    qputenv("QT_SCALE_FACTOR", "2"); // the new process of the test starts with it
+    EXPECT_EXIT(
+        {
+            start();
+            shown();
+            picture()->setFocus(Qt::TabFocusReason);
+            QTest::keyClick(picture(), Qt::Key_C, Qt::ControlModifier);
+            const QImage copied = QGuiApplication::clipboard()->image();
+            const QImage blurred = copied.scaled(copied.size() / 2).scaled(copied.size());
+            const bool isSharp =
+                copied.size() == picture()->size() * 2 && pixelsThatDiffer(copied, blurred) > 9000;
+            std::_Exit(isSharp ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
+}
