@@ -35,6 +35,9 @@ HelpWindow::HelpWindow()
     : QWidget(nullptr, Qt::Window),
       tools(new QToolBar),
       tabs(new QTabWidget),
+      contents(new ContentsPane(opener())),
+      index(new IndexPane(opener())),
+      search(new SearchPane(opener())),
       page(new HelpPage(this)),
       notice(new QLabel)
 {
