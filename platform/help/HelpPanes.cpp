@@ -105,7 +105,7 @@ void ContentsPane::setBook(const HelpBook& book)
             parents.last()->addChild(item);
         parents.append(item);
     }
-    tree->expandAll();
+    tree->expandToDepth(0);
 }
 
 void ContentsPane::showPage(const QString& page)
@@ -120,6 +120,7 @@ void ContentsPane::showPage(const QString& page)
     for (QTreeWidgetItemIterator line(tree); *line != nullptr; ++line) {
         if (isItsOwn(*line)) {
             tree->setCurrentItem(*line);
+            tree->expandItem(*line);
             return;
         }
     }

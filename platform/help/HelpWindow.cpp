@@ -56,7 +56,7 @@ HelpWindow::HelpWindow()
     sides->addWidget(tabs);
     sides->addWidget(page);
     sides->setStretchFactor(1, 1);
-    sides->setSizes({270, 710});
+    sides->setSizes({290, 690});
     sides->setChildrenCollapsible(false);
 
     auto* const column = new QVBoxLayout(this);
