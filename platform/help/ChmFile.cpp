@@ -48,7 +48,7 @@ ChmFile::ChmFile(const QByteArray& bytes)
 
 ChmFile::~ChmFile()
 {
-    if (header != nullptr)
+    if (unpacker != nullptr && header != nullptr)
         unpacker->close(unpacker, header);
     mspack_destroy_chm_decompressor(unpacker);
 }

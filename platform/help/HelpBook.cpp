@@ -32,7 +32,7 @@ std::shared_ptr<const HelpBook> HelpBook::open(const QByteArray& bytes)
 
 QString HelpBook::chooseHomePage() const
 {
-    const QString named = findMember(system.homePage);
+    QString named = findMember(system.homePage);
     if (!named.isEmpty())
         return named;
     const QStringList all = pages();

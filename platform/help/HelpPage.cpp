@@ -19,7 +19,8 @@
 
 namespace {
 
-constexpr int widestPicture = 700;
+constexpr int widestPicture = 700; // in pixels of the desktop
+constexpr int highestPicture = 2000;
 constexpr qint64 mostPixels = 16'000'000;
 constexpr int mostMarks = 500;
 constexpr int smallestStep = -4;
@@ -79,11 +80,12 @@ QUrl HelpPage::addressOf(const QString& reference) const
 
 void HelpPage::open(const QString& reference, const QStringList& wordsToMark)
 {
+    const bool isFirstOfBook = isOfOtherBook;
     setSource(addressOf(reference));
-    if (isOfOtherBook) { // which has a page of the same name
-        reload();
+    if (isOfOtherBook)
+        reload(); // the page shown, of the other book, has the same name
+    if (isFirstOfBook)
         clearHistory();
-    }
     words = wordsToMark;
     markWords();
 }
@@ -149,10 +151,11 @@ QVariant HelpPage::picture(const QUrl& address) const
     const int asked = address.fragment().toInt();
     const int width = std::min(asked > 0 ? asked : size.width(), widestPicture);
     const qreal dots = devicePixelRatioF();
+    const QSize shown = size.scaled(width, highestPicture, Qt::KeepAspectRatio) * dots;
     QImage image = reader.read();
     if (image.isNull())
         return {};
-    image = image.scaledToWidth(std::max(qRound(width * dots), 1), Qt::SmoothTransformation);
+    image = image.scaled(shown.expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     image.setDevicePixelRatio(dots);
     return image;
 }
@@ -195,6 +198,7 @@ void HelpPage::markWords()
         marks.append(mark);
     }
     setExtraSelections(marks);
+    nextMark = 0;
 }
 
 bool HelpPage::goToNextMark()
@@ -202,10 +206,8 @@ bool HelpPage::goToNextMark()
     const QList<ExtraSelection> marks = extraSelections();
     if (marks.isEmpty())
         return false;
-    const int place = textCursor().selectionEnd();
-    const auto next = std::ranges::find_if(
-        marks, [place](const ExtraSelection& mark) { return mark.cursor.selectionStart() > place; });
-    QTextCursor there = (next == marks.end() ? marks.first() : *next).cursor;
+    nextMark %= marks.size();
+    QTextCursor there = marks[nextMark++].cursor;
     there.setPosition(there.selectionStart());
     setTextCursor(there);
     ensureCursorVisible();
@@ -220,10 +222,9 @@ void HelpPage::setTextSize(int newStep)
     document()->setDefaultFont(sized);
 }
 
-void HelpPage::print(QPrinter& printer) const
+void HelpPage::print(QPrinter& printer)
 {
-    auto& shown = const_cast<HelpPage&>(*this);
-    PrintedPage paper(shown);
+    PrintedPage paper(*this);
     paper.setDefaultFont(parentWidget()->font());
     paper.setDefaultStyleSheet(HelpStyleSheet(HelpColours(QPalette(Qt::white))));
     paper.setHtml(pageText(pageName()));

@@ -30,7 +30,7 @@ public:
     int textSize() const { return step; }
 
     /// Prints the page shown, dark on light.
-    void print(QPrinter& printer) const;
+    void print(QPrinter& printer);
 
     QVariant loadResource(int type, const QUrl& name) override;
 
@@ -49,7 +49,8 @@ private:
     std::shared_ptr<const HelpBook> book;
     QUrl current;      // the page shown
     QStringList words; // to mark on the page shown
-    int step = 0;
+    qsizetype nextMark = 0;
+    int step = 0; // of the text's size
     bool isRestyling = false;
     bool isOfOtherBook = false; // what is shown
 };

@@ -50,6 +50,7 @@ QLineEdit* makeField(const QString& name, const QString& accessibleName)
     field->setObjectName(name);
     field->setAccessibleName(accessibleName);
     field->setClearButtonEnabled(true);
+    field->setMaxLength(200);
     return field;
 }
 
@@ -104,7 +105,7 @@ void ContentsPane::setBook(const HelpBook& book)
             parents.last()->addChild(item);
         parents.append(item);
     }
-    tree->expandAll();
+    tree->expandToDepth(0);
 }
 
 void ContentsPane::showPage(const QString& page)
@@ -119,6 +120,7 @@ void ContentsPane::showPage(const QString& page)
     for (QTreeWidgetItemIterator line(tree); *line != nullptr; ++line) {
         if (isItsOwn(*line)) {
             tree->setCurrentItem(*line);
+            tree->expandItem(*line);
             return;
         }
     }
@@ -148,7 +150,7 @@ void IndexPane::setBook(const HelpBook& book)
     field->clear();
     list->clear();
     for (const SitemapEntry& entry : book.index()) {
-        const QString keyword = QString(4 * entry.level, ' ') + entry.title;
+        const QString keyword = QString(qsizetype{4} * entry.level, ' ') + entry.title;
         if (entry.targets.size() <= 1)
             addLine(*list, keyword, pageOf(entry));
         for (qsizetype at = 0; at < entry.targets.size() && entry.targets.size() > 1; ++at) {

@@ -9,8 +9,8 @@ QString HelpStyleSheet(const HelpColours& colours)
         h1 { margin-top: 4px; margin-bottom: 14px; font-weight: 600; }
         h2 { margin-top: 26px; margin-bottom: 8px; font-weight: 600; }
         h3 { margin-top: 18px; margin-bottom: 6px; font-weight: 600; }
-        p, dd { margin-top: 6px; margin-bottom: 10px; line-height: 118%; }
-        li { margin-top: 3px; margin-bottom: 3px; line-height: 118%; }
+        p, dd { margin-top: 6px; margin-bottom: 10px; line-height: 3px; -qt-line-height-type: line-distance; }
+        li { margin-top: 3px; margin-bottom: 3px; line-height: 3px; -qt-line-height-type: line-distance; }
         table { margin-top: 8px; margin-bottom: 12px; border-color: %2; border-style: solid;
                 border-collapse: collapse; }
         th { padding: 5px 9px; border-color: %2; background-color: %3; }

@@ -1,7 +1,6 @@
 #include "platform/help/HelpWindow.h"
 
 #include "platform/help/HelpPage.h"
-#include "platform/help/HelpPanes.h"
 
 #include <QAction>
 #include <QApplication>
@@ -36,19 +35,28 @@ HelpWindow::HelpWindow()
     : QWidget(nullptr, Qt::Window),
       tools(new QToolBar),
       tabs(new QTabWidget),
+      contents(new ContentsPane(opener())),
+      index(new IndexPane(opener())),
+      search(new SearchPane(opener())),
       page(new HelpPage(this)),
       notice(new QLabel)
 {
     setObjectName("HelpWindow");
     setAttribute(Qt::WA_DeleteOnClose);
     notice->setObjectName("helpNotice");
+    notice->hide();
     notice->setContentsMargins(12, 6, 12, 6);
 
+    tabs->setObjectName("helpPanes");
+    tabs->addTab(contents, "&Contents");
+    tabs->addTab(index, "&Index");
+    tabs->addTab(search, "&Search");
+
     auto* const sides = new QSplitter;
-    sides->addWidget(makePanes());
+    sides->addWidget(tabs);
     sides->addWidget(page);
     sides->setStretchFactor(1, 1);
-    sides->setSizes({270, 710});
+    sides->setSizes({290, 690});
     sides->setChildrenCollapsible(false);
 
     auto* const column = new QVBoxLayout(this);
@@ -61,25 +69,14 @@ HelpWindow::HelpWindow()
     makeShortcuts();
     connect(page, &QTextBrowser::sourceChanged, this, [this] { pageHasChanged(); });
     connect(page, &QTextBrowser::highlighted, this, [this](const QUrl& link) {
-        notice->setText(link.scheme() == "help" ? QString() : link.toDisplayString());
-        notice->setVisible(!notice->text().isEmpty());
+        page->viewport()->setToolTip(link.scheme() == "help" ? QString() : link.toDisplayString());
     });
     resize(usualSize);
 }
 
-QWidget* HelpWindow::makePanes()
+OpenHelpPage HelpWindow::opener()
 {
-    const OpenHelpPage open = [this](const QString& reference, const QStringList& words) {
-        openPage(reference, words);
-    };
-    contents = new ContentsPane(open);
-    index = new IndexPane(open);
-    search = new SearchPane(open);
-    tabs->setObjectName("helpPanes");
-    tabs->addTab(contents, "&Contents");
-    tabs->addTab(index, "&Index");
-    tabs->addTab(search, "&Search");
-    return tabs;
+    return [this](const QString& reference, const QStringList& words) { openPage(reference, words); };
 }
 
 QAction* HelpWindow::addCommand(const QString& name, const QString& text, const QKeySequence& key,
@@ -152,10 +149,8 @@ void HelpWindow::goToTopic(int topic)
 {
     const QString wanted = book->pageOfTopic(topic);
     openPage(wanted.isEmpty() ? book->homePage() : wanted, {});
-    if (wanted.isEmpty()) {
-        notice->setText("This help has no topic " + QString::number(topic) + ". Here is its first page.");
-        notice->show();
-    }
+    notice->setText("This help has no topic " + QString::number(topic) + ". Here is its first page.");
+    notice->setVisible(wanted.isEmpty());
 }
 
 void HelpWindow::openPage(const QString& reference, const QStringList& words)
@@ -207,7 +202,8 @@ void HelpWindow::showFor(QWidget& asking)
     attachTo(asking.window()->windowHandle());
     if (isFresh)
         placeBeside(asking);
-    showNormal();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
     raise();
     activateWindow();
     page->setFocus(Qt::OtherFocusReason);

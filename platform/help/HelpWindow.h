@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/help/HelpBook.h"
+#include "platform/help/HelpPanes.h"
 
 #include <QKeySequence>
 #include <QWidget>
@@ -8,15 +9,12 @@
 #include <functional>
 #include <memory>
 
-class ContentsPane;
 class HelpPage;
-class IndexPane;
 class QAction;
 class QLabel;
 class QTabWidget;
 class QToolBar;
 class QWindow;
-class SearchPane;
 
 /// The window that shows help files. It stands in no form's way and no form stands in its: it goes in front
 /// of the window that asked for it, and moves on to a modal window that would block it. Closing it ends it.
@@ -35,7 +33,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    QWidget* makePanes();
+    OpenHelpPage opener();
     void makeToolBar();
     void makeShortcuts();
     QAction* addCommand(const QString& name, const QString& text, const QKeySequence& key,

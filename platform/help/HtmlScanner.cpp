@@ -149,7 +149,7 @@ void HtmlScanner::scanTag(HtmlPiece& piece)
 QString DecodeText(const QByteArray& bytes)
 {
     QStringDecoder utf8(QStringDecoder::Utf8);
-    const QString text = utf8.decode(bytes);
+    QString text = utf8.decode(bytes);
     if (!utf8.hasError())
         return text;
     QString western = QString::fromLatin1(bytes);

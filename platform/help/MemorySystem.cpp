@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -77,7 +78,7 @@ void copyBlock(void* from, void* to, std::size_t bytes) { std::memcpy(to, from, 
 
 } // namespace
 
-MemorySystem::MemorySystem(const QByteArray& bytes) : mspack_system(), input(bytes)
+MemorySystem::MemorySystem(QByteArray bytes) : mspack_system(), input(std::move(bytes))
 {
     mspack_system::open = openFile;
     mspack_system::close = closeFile;

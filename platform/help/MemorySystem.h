@@ -8,7 +8,7 @@
 /// into another. It gets no more memory at once than honest files need.
 struct MemorySystem : mspack_system
 {
-    explicit MemorySystem(const QByteArray& input);
+    explicit MemorySystem(QByteArray bytes);
     MemorySystem(const MemorySystem&) = delete;
     MemorySystem& operator=(const MemorySystem&) = delete;
 

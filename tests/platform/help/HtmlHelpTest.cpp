@@ -144,6 +144,9 @@ TEST_F(HtmlHelp, ShowsAnotherFileInTheSameWindow)
     ask(105, "other.chm");
     EXPECT_EQ(heading(), "Air properties");
     EXPECT_FALSE(button("helpBack").isEnabled()) << "the way back ends where the other file began";
+    ask(110);
+    EXPECT_EQ(heading(), "Mixed air");
+    EXPECT_FALSE(button("helpBack").isEnabled()) << "nor does it lead into another file from another page";
 }
 
 TEST_F(HtmlHelp, OpensAfreshAfterItWasClosed)
