@@ -111,19 +111,19 @@ void ContentsPane::setBook(const HelpBook& book)
 void ContentsPane::showPage(const QString& page)
 {
     const auto isItsOwn = [&page](const QTreeWidgetItem* item) {
-        return item != nullptr && !page.isEmpty() &&
-               item->data(0, pageRole).toString().section('#', 0, 0).compare(page, Qt::CaseInsensitive) == 0;
+        const QString reference = item->data(0, pageRole).toString();
+        return !page.isEmpty() && reference.section('#', 0, 0).compare(page, Qt::CaseInsensitive) == 0;
     };
-    if (isItsOwn(tree->currentItem()))
-        return;
-    tree->setCurrentItem(nullptr);
-    for (QTreeWidgetItemIterator line(tree); *line != nullptr; ++line) {
-        if (isItsOwn(*line)) {
-            tree->setCurrentItem(*line);
-            tree->expandItem(*line);
-            return;
-        }
+    QTreeWidgetItem* shown = tree->currentItem();
+    if (shown == nullptr || !isItsOwn(shown)) {
+        QTreeWidgetItemIterator line(tree);
+        while (*line != nullptr && !isItsOwn(*line))
+            ++line;
+        shown = *line;
     }
+    tree->setCurrentItem(shown);
+    if (shown != nullptr)
+        shown->setExpanded(true);
 }
 
 IndexPane::IndexPane(OpenHelpPage openPage)

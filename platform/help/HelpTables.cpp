@@ -2,9 +2,7 @@
 
 #include "platform/help/HtmlScanner.h"
 
-#include <QtEndian>
-
-#include <type_traits>
+#include <iterator>
 
 namespace {
 
@@ -15,8 +13,8 @@ public:
     explicit Bytes(const QByteArray& all, qsizetype start) : bytes(all), at(start) {}
 
     bool holds(qsizetype count) const { return bytes.size() - at >= count; }
-    quint16 takeShort() { return take<quint16>(); }
-    quint32 takeLong() { return take<quint32>(); }
+    quint16 takeShort() { return static_cast<quint16>(take(2)); }
+    quint32 takeLong() { return take(4); }
     QByteArray takeBytes(qsizetype count)
     {
         at += count;
@@ -24,11 +22,11 @@ public:
     }
 
 private:
-    template <class Number>
-    Number take()
+    quint32 take(int count)
     {
-        const auto number = qFromLittleEndian<Number>(bytes.constData() + at);
-        at += qsizetype{sizeof(Number)};
+        quint32 number = 0;
+        for (int place = 0; place < count; ++place)
+            number |= quint32{static_cast<quint8>(bytes[at++])} << (8 * place);
         return number;
     }
 

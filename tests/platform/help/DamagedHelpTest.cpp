@@ -7,7 +7,11 @@
 namespace {
 
 /// Far more than a help file of some 20 KB needs, and far less than a size out of it could ask for.
-constexpr long enoughMemory = 300; // MiB
+#ifdef __SANITIZE_ADDRESS__
+constexpr long enoughMemory = 1000; // MiB; what is freed stays in quarantine for a while
+#else
+constexpr long enoughMemory = 100; // MiB
+#endif
 
 class DamagedHelpTest : public testing::TestWithParam<unsigned>
 {
