@@ -48,6 +48,7 @@ void ChartPicture::paint(QPainter& painter, const QSize& size, const QWidget& on
 {
     chart = std::make_unique<ChartLayout>(size, on.font());
     PaintChart(painter, *chart, on.palette());
+    chart->curves = {}; // tips need none of them
 }
 
 std::string ChartPicture::tipAt(const QPoint& place) const

@@ -1,20 +1,11 @@
-// The chart as a user of the main menu sees it.
+// The chart as a user of the main menu sees it: when it comes, what it says, how it is copied.
 
-#include "shell/chart/ChartLayout.h"
-#include "tests/screens/CalculatorFixture.h"
-#include "tests/shell/chart/ChartModes.h"
+#include "tests/shell/chart/ChartFixture.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QHelpEvent>
-#include <QImage>
 #include <QMenu>
-#include <QTest>
-#include <QToolTip>
 
-#include <cmath>
-#include <cstring>
-#include <memory>
 #include <sstream>
 
 namespace {
@@ -43,146 +34,6 @@ std::string wholeState()
     return all.str();
 }
 
-class ChartOnMenu : public CalculatorTest
-{
-protected:
-    QWidget* picture() const { return User::findWindow("MainForm")->findChild<QWidget*>("Image1"); }
-
-    QImage shown() const
-    {
-        QTest::qWait(20); // the chart comes after the window's first picture
-        return picture()->grab().toImage();
-    }
-
-    std::unique_ptr<ChartLayout> layout() const
-    {
-        return std::make_unique<ChartLayout>(picture()->size(), picture()->font());
-    }
-
-    /// Whether a state is marked on what the menu shows: a dot of one strong colour.
-    bool isMarked(double tdb, double w) const
-    {
-        const auto chart = layout();
-        const QImage image = shown();
-        const QPointF exactly = chart->plane.at(tdb, w);
-        const QPoint place(static_cast<int>(exactly.x()), static_cast<int>(exactly.y()));
-        const QColor centre = image.pixelColor(place);
-        if (centre.hsvSaturation() < 150)
-            return false;
-        for (const QPoint step : {QPoint(2, 0), QPoint(-2, 0), QPoint(0, 2), QPoint(0, -2)}) {
-            if (image.pixelColor(place + step) != centre)
-                return false;
-        }
-        return true;
-    }
-
-    void inOptions(const std::function<void()>& actions)
-    {
-        user.inDialog("Settings", actions);
-        user.choose("mnuOptions");
-    }
-
-    void changeUnits(const std::string& entry)
-    {
-        inOptions([&] {
-            user.chooseFromList("Combo1", entry);
-            user.click("btnOK");
-        });
-    }
-
-    std::string tipAt(QPointF place) const
-    {
-        shown();
-        const QPoint there = place.toPoint();
-        QHelpEvent event(QEvent::ToolTip, there, picture()->mapToGlobal(there));
-        QApplication::sendEvent(picture(), &event);
-        const std::string tip = QToolTip::isVisible() ? QToolTip::text().toStdString() : "";
-        QToolTip::hideText();
-        EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
-        return tip;
-    }
-
-    void runMixedAir()
-    {
-        user.click("btnMixedAir");
-        calculate("95", "txtRH", "40");
-        answerVolume("btnSaveOSA", "1000");
-        calculate("75", "txtRH", "50");
-        answerVolume("btnRA", "3000");
-        user.click("btnMixedAir");
-        user.click("btnOK");
-        user.choose("mnuMain1");
-    }
-
-    void runCooling()
-    {
-        user.click("btnCooling");
-        calculate(IsMetric() ? "30" : "80", "txtRH", "50");
-        answerVolume("btnSaveEA", "1000");
-        user.inDialog("CoolingLoad2", [this] {
-            user.type("txtLATdb", IsMetric() ? "13" : "55");
-            user.type("txtLATwb", IsMetric() ? "12.5" : "54");
-            user.click("btnOK");
-        });
-        user.click("btnSetLA");
-        user.inDialog("CoolingLoad3", [this] { user.click("Command1"); });
-        user.click("btnCalcLoad");
-        user.choose("mnuMain1");
-    }
-
-    void runHeating()
-    {
-        user.click("btnHeating");
-        calculate(IsMetric() ? "20" : "70", "txtRH", "40");
-        answerVolume("btnSaveEnteringAir", "1000");
-        user.inDialog("HeatingLoad2", [this] {
-            user.type("txtHeatLAT", IsMetric() ? "38" : "100");
-            user.click("btnOK");
-        });
-        user.click("btnInputLeavingAir");
-        user.choose("mnuMain1");
-    }
-
-    void runHumidification()
-    {
-        user.click("btnHumidity");
-        calculate(IsMetric() ? "-20" : "20", "txtRH", "60");
-        user.inDialog("humid2", [this] {
-            user.type("txtDesT", IsMetric() ? "21" : "72");
-            user.type("txtDesH", "30");
-            user.type("txtOSA", "500");
-            user.click("btnCalcHumid");
-            user.click("btnOK");
-        });
-        user.click("btnHumidityDesired");
-        user.choose("mnuMain1");
-    }
-
-    void expectMarked(const std::vector<AirSnapshot>& states)
-    {
-        for (const AirSnapshot& air : states)
-            EXPECT_TRUE(isMarked(air.Tdb, air.W)) << air.Tdb << ", " << air.W;
-    }
-};
-
-/// By more than the rounding of a blended colour.
-bool differ(QRgb one, QRgb other)
-{
-    constexpr int rounding = 3;
-    return std::abs(qRed(one) - qRed(other)) > rounding || std::abs(qGreen(one) - qGreen(other)) > rounding ||
-           std::abs(qBlue(one) - qBlue(other)) > rounding;
-}
-
-int pixelsThatDiffer(const QImage& one, const QImage& other)
-{
-    int count = 0;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x)
-            count += differ(one.pixel(x, y), other.pixel(x, y)) ? 1 : 0;
-    }
-    return count;
-}
-
 } // namespace
 
 TEST_F(ChartOnMenu, ComesAfterTheFirstPictureOfTheMenu)
@@ -195,89 +46,6 @@ TEST_F(ChartOnMenu, ComesAfterTheFirstPictureOfTheMenu)
             ASSERT_EQ(first.pixelColor(x, y), ground);
     }
     EXPECT_GT(pixelsThatDiffer(first, shown()), 10000);
-}
-
-TEST_F(ChartOnMenu, MarksTheMixedAirAndItsStreams)
-{
-    start();
-    runMixedAir();
-    EXPECT_EQ(layout()->marks.size(), 3U);
-    expectMarked({MixedOutsideAir, MixedReturnAir, MixedResultAir});
-    EXPECT_FLOAT_EQ(MixedOutsideAir.Tdb, 95);
-}
-
-TEST_F(ChartOnMenu, MarksTheCoilsAndTheHumidification)
-{
-    start();
-    runCooling();
-    EXPECT_EQ(layout()->marks.size(), 2U);
-    runHeating();
-    runHumidification();
-    EXPECT_EQ(layout()->marks.size(), 6U);
-    expectMarked({CoolingEnteringAir, CoolingLeavingAir, HeatingEnteringAir, HeatingLeavingAir,
-                  HumidOutsideAir, HumidDesiredAir});
-    for (const ChartRun& run : LastRuns())
-        EXPECT_EQ(run.processes.size(), 1U) << run.title;
-}
-
-TEST_F(ChartOnMenu, MarksThemInMetric)
-{
-    startInMetric();
-    runCooling();
-    runHeating();
-    runHumidification();
-    EXPECT_EQ(layout()->marks.size(), 6U);
-    expectMarked({CoolingEnteringAir, CoolingLeavingAir, HeatingEnteringAir, HeatingLeavingAir,
-                  HumidOutsideAir, HumidDesiredAir});
-}
-
-TEST_F(ChartOnMenu, MarksTheAirPropertiesUntilTheNextOnes)
-{
-    start();
-    user.click("btnAirCalc");
-    calculate("80", "txtRH", "40");
-    user.choose("mnuMain1");
-    const double w = StatePoint.W.asDouble();
-    EXPECT_TRUE(isMarked(80, w));
-    user.click("btnHeating"); // clears the state
-    user.choose("mnuMain1");
-    EXPECT_TRUE(isMarked(80, w));
-    user.click("btnAirCalc");
-    user.choose("mnuMain1");
-    EXPECT_TRUE(isMarked(80, w)) << "nothing was calculated since";
-}
-
-TEST_F(ChartOnMenu, MarksNoAirThatAnotherCalculatorOnlyTried)
-{
-    start();
-    user.click("btnHeating");
-    calculate("70", "txtRH", "40");
-    user.choose("mnuMain1");
-    EXPECT_EQ(layout()->marks.size(), 0U);
-}
-
-TEST_F(ChartOnMenu, FollowsTheOptions)
-{
-    start();
-    runCooling();
-    const AirSnapshot entering = CoolingEnteringAir;
-    const QImage english = shown();
-    changeUnits("Metric, SI");
-    const QImage metric = shown();
-    EXPECT_GT(pixelsThatDiffer(english, metric), 5000);
-    EXPECT_EQ(layout()->marks.size(), 0U);
-    EXPECT_EQ(layout()->plane.span.tdb.high, 50);
-
-    changeUnits("English, I-P");
-    EXPECT_EQ(shown(), english);
-    inOptions([this] {
-        user.type("txtBP", "12");
-        user.click("btnOK");
-    });
-    EXPECT_GT(pixelsThatDiffer(english, shown()), 5000);
-    EXPECT_EQ(layout()->marks.size(), 2U);
-    EXPECT_NE(tipAt(layout()->placeOf({"", entering.Tdb, entering.W, 0})).find("at 14.696 psi"),
-              std::string::npos);
 }
 
 TEST_F(ChartOnMenu, FollowsTheColoursOfTheDesktop)
