@@ -24,7 +24,8 @@ public:
     QList<SitemapEntry> contents() const { return readSitemap(system.contents, ".hhc"); }
     QList<SitemapEntry> index() const { return readSitemap(system.index, ".hhk"); }
 
-    QStringList pages() const;
+    QStringList files() const { return file->names(); }
+    QStringList pages() const; ///< of the files
     bool has(const QString& name) const { return file->has(name); }
     /// @return nothing where there is no such page, or it is damaged or larger than a page can be
     std::optional<QString> readPage(const QString& name) const;

@@ -25,9 +25,9 @@ inline QByteArray bytesOf(const QString& path)
     return file.readAll();
 }
 
-/// Reads help files that are damaged, as a reader would: every page and picture, the topics, the contents,
-/// the index, a search, all in a help window that is on the screen. Nothing of that may crash or hang. The
-/// file that the damage is done to may be any.
+/// Reads help files that are damaged, as a reader would: the first page, every page and picture that is not
+/// as it was, the contents, the index, a search, all in a help window that is on the screen. Nothing of that
+/// may crash or hang. The file that the damage is done to may be any.
 class DamagedHelp
 {
 public:
@@ -51,6 +51,7 @@ private:
     void readInWindow(const std::shared_ptr<const HelpBook>& book);
 
     QByteArray whole;
+    std::shared_ptr<const ChmFile> wholeFile = ChmFile::open(whole);
     HelpWindow window;
 };
 
@@ -98,9 +99,18 @@ inline void DamagedHelp::readInWindow(const std::shared_ptr<const HelpBook>& boo
     auto* const page = window.findChild<QTextBrowser*>("helpPage");
     for (const int topic : {100, 999})
         window.goToTopic(topic);
-    for (const QString& name : book->pages()) {
-        damagedPages += book->readPage(name) ? 0 : 1;
-        page->setSource(QUrl("help:/" + name));
+    for (const QString& name : book->files()) {
+        const std::optional<QByteArray> bytes = book->readFile(name);
+        if (bytes && wholeFile->read(name) == bytes)
+            continue;
+        const QUrl address("help:/" + name);
+        if (book->pages().contains(name)) {
+            ++damagedPages;
+            page->setSource(address);
+        } else {
+            page->loadResource(QTextDocument::ImageResource, address);
+            page->loadResource(QTextDocument::StyleSheetResource, address);
+        }
     }
     page->backward();
     auto* const search = window.findChild<QLineEdit*>("helpSearchField");
