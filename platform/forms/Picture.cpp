@@ -91,7 +91,7 @@ private:
         Key key{size(), devicePixelRatioF(), palette().cacheKey(), font(), contents->version()};
         if (key == keptFor)
             return kept.unpacked();
-        const QImage fresh = rendered(Qt::transparent);
+        QImage fresh = rendered(Qt::transparent);
         kept = PackedImage(fresh);
         keptFor = std::move(key);
         return fresh;

@@ -40,9 +40,9 @@ bool isPartedBySides(const QPolygonF& shape, const QPolygonF& another)
 
 } // namespace
 
-bool Touch(const QPolygonF& one, const QPolygonF& other)
+bool Touch(const QPolygonF& left, const QPolygonF& right)
 {
-    return !isPartedBySides(one, other) && !isPartedBySides(other, one);
+    return !isPartedBySides(left, right) && !isPartedBySides(right, left);
 }
 
 QPolygonF ChartLabel::outline() const

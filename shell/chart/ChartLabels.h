@@ -46,4 +46,4 @@ private:
 };
 
 /// Whether two convex outlines have a point in common.
-bool Touch(const QPolygonF& one, const QPolygonF& other);
+bool Touch(const QPolygonF& left, const QPolygonF& right);

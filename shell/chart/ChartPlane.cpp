@@ -12,7 +12,7 @@ struct Limits
 {
     ChartAxis usual;
     ChartAxis widest;
-    double round;
+    double round = 1;
 };
 
 constexpr Limits tdbEnglish{{30, 120}, {-60, 300}, 10};
