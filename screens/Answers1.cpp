@@ -201,5 +201,6 @@ void Answers1::mnuExit_Click()
 
 void Answers1::mnuPrintResults_Click() { PrintMixedAir(*this); }
 void Answers1::mnuSave2File_Click() { SaveMixedAir(*this); }
+// The page of one air, though the table is the mixed air's.
 void Answers1::mnuHContents_Click() { OpenHelp(*this, HelpTopic::AirProperties); }
 void Answers1::mnuAbout_Click() { ShowAbout(); }

@@ -51,8 +51,8 @@ void About::Form_Load()
     setCaption("About " + applicationTitle());
     lblTitle.setCaption(applicationTitle());
     lblVersion.setCaption("Version " + QCoreApplication::applicationVersion().toStdString());
-    lblCopyright.setCaption("Copyright 2026 the Dunmoor authors, MIT licence");
-    lblCompany.setCaption("Psychrometric Calculator");
+    lblCopyright.setCaption("Copyright 2026, MIT licence");
+    lblCompany.setCaption("The Dunmoor developers");
     fitToControls();
     placeInTheMiddle(2);
 }

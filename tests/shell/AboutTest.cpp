@@ -2,6 +2,7 @@
 
 #include "tests/screens/CalculatorFixture.h"
 
+#include "platform/Launch.h"
 #include "shell/About.h"
 
 #include <QDesktopServices>
@@ -86,12 +87,28 @@ TEST_F(AboutBox, OpensTheMailProgramAndTheBrowserAndStaysOpen)
     EXPECT_TRUE(user.messages.empty());
 }
 
+TEST_F(AboutBox, OpensLinksAlone)
+{
+    start();
+    const auto execute = [](const char* verb) {
+        return ShellExecuteA(form<About>(), verb, "https://www.dunmoor.example/", "", "", SW_SHOWNORMAL);
+    };
+    EXPECT_LE(execute("print"), 32);
+    EXPECT_EQ(opened.source(), QUrl());
+    EXPECT_GT(execute("open"), 32);
+    EXPECT_EQ(opened.source(), QUrl("https://www.dunmoor.example/"));
+}
+
 TEST_F(AboutBox, SaysNothingWhereTheDesktopOpensNoLinks)
 {
-    QDesktopServices::unsetUrlHandler("https");
+    for (const char* scheme : {"mailto", "https"})
+        QDesktopServices::unsetUrlHandler(scheme);
     start();
     inAbout([this] {
+        user.click("btnEMAIL");
         user.click("btnURL");
+        EXPECT_LE(ShellExecuteA(form<About>(), "open", "https://www.dunmoor.example/", "", "", SW_SHOWNORMAL),
+                  32);
         user.click("cmdOK");
     });
     EXPECT_TRUE(user.messages.empty());

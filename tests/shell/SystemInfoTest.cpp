@@ -117,6 +117,7 @@ TEST_F(SystemInfo, ReadsANumberInDecimal)
     EXPECT_EQ(read(RegistryValue::Number, std::string("\x39\x30\0\0", 4)), "12345");
     EXPECT_EQ(read(RegistryValue::Number, "\x0a\x0b\x0c\x7f"), std::to_string(0x7f0c0b0a));
     EXPECT_EQ(read(RegistryValue::Number, std::string("\0\0\0\0", 4)), "0");
+    EXPECT_EQ(read(RegistryValue::Number, "\xff\xff\xff\xff"), "4294967295");
 }
 
 TEST_F(SystemInfo, LeavesTheTextAloneForAValueOfAnotherType) { EXPECT_EQ(read(binary, "abc"), "as before"); }
@@ -142,6 +143,11 @@ TEST_F(SystemInfo, ReadsNothingWhereAValueIsLongerThanItsRoom)
     EXPECT_EQ(text, "");
 }
 
+TEST_F(SystemInfo, ReadsAValueThatFillsItsRoom)
+{
+    EXPECT_EQ(read(RegistryValue::String, std::string(1024, 'x')), std::string(1024, 'x'));
+}
+
 TEST_F(SystemInfo, ClosesTheKeyAfterReading)
 {
     read(RegistryValue::String, "text");
@@ -156,6 +162,13 @@ TEST_F(SystemInfo, StartsTheViewerThatTheRegistryNames)
     EXPECT_TRUE(programRan());
     EXPECT_EQ(registry.calls.size(), 3U) << "the second place isn't asked for";
     EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(SystemInfo, IsUnavailableWhereTheViewerThatTheRegistryNamesDoesNotStart)
+{
+    registry.keys[viewerKey]["PATH"] = {RegistryValue::String, folder.filePath("none").toStdString()};
+    expectUnavailable();
+    EXPECT_EQ(registry.calls.size(), 3U) << "the second place isn't asked for";
 }
 
 TEST_F(SystemInfo, StartsTheViewerInTheToolsFolderWhereThatHasIt)
