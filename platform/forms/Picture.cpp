@@ -3,6 +3,7 @@
 #include "platform/forms/Form.h"
 #include "platform/forms/PackedImage.h"
 
+#include <QAccessibleWidget>
 #include <QAction>
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -125,10 +126,20 @@ private:
     Key keptFor;
 };
 
+/// Assistive technology takes a canvas for an empty container, where nobody says that it is a picture.
+QAccessibleInterface* asGraphic(const QString& /*className*/, QObject* object)
+{
+    auto* const canvas = dynamic_cast<Canvas*>(object);
+    return canvas == nullptr ? nullptr : new QAccessibleWidget(canvas, QAccessible::Graphic);
+}
+
 } // namespace
 
 Picture::Picture(Form& owner, const std::string& name, std::unique_ptr<PictureContents> contents)
     : Control(owner, new Canvas(owner, std::move(contents)), name)
-{}
+{
+    static const bool isInstalled = (QAccessible::installFactory(asGraphic), true);
+    Q_UNUSED(isInstalled);
+}
 
 void Picture::repaint() { widget()->update(); }
