@@ -66,8 +66,7 @@ Single VaporPressureFromHumidityRatio(Single P, Single W)
     return RoundToSingle(Quotient(static_cast<double>(P) * W, W + WaterToAirMassRatio));
 }
 
-// The cube is a product here: no bit of the rounded dew point differs from that of the general power
-// function.
+// The square of a single is exact in double, so a product gives it without the general power function.
 Single DewPointFromVaporPressure(Single pw)
 {
     if (!IsMetric())

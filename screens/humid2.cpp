@@ -138,7 +138,7 @@ void humid2::mnuSave_Click()
     SaveHumidity(*this, [this] { return texts(); });
 }
 
-// The search opens the air properties page, as on every calculator.
 void humid2::mnuHumid2Help_Click() { OpenHelp(*this, HelpTopic::Humidification); }
+// As on every calculator the search opens this one topic.
 void humid2::mnuSearch_Click() { OpenHelp(*this, HelpTopic::AirProperties); }
 void humid2::mnuAbout_Click() { ShowAbout(); }

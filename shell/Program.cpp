@@ -24,7 +24,7 @@ std::string describeFailure(const std::exception& failure)
 void StartProgram()
 {
     QCoreApplication::setApplicationName("Dunmoor");
-    QCoreApplication::setApplicationVersion("1.4.0");
+    QCoreApplication::setApplicationVersion(DUNMOOR_VERSION);
     QGuiApplication::setDesktopFileName("dunmoor");
     QIcon icon(":/dunmoor-32.png");
     icon.addFile(":/dunmoor-128.png");

@@ -40,7 +40,8 @@ Menu::Menu(Form& owner, const std::string& name, const std::string& caption)
 
 void Menu::add(MenuCommand& entry) { theMenu->addAction(entry.action()); }
 void Menu::add(MenuSeparator& separator) { theMenu->addAction(separator.action()); }
-void Menu::enable() { theMenu->menuAction()->setEnabled(true); }
-void Menu::disable() { theMenu->menuAction()->setEnabled(false); }
+// The menu passes it on to its entry on the bar.
+void Menu::enable() { theMenu->setEnabled(true); }
+void Menu::disable() { theMenu->setEnabled(false); }
 void Menu::show() { theMenu->menuAction()->setVisible(true); }
 void Menu::hide() { theMenu->menuAction()->setVisible(false); }

@@ -64,7 +64,8 @@ protected:
         if (event->type() != QEvent::ToolTip)
             return QWidget::event(event);
         const auto& help = static_cast<QHelpEvent&>(*event);
-        const QString tip = QString::fromStdString(contents->tipAt(help.pos()));
+        QString tip;
+        runHandler(form, [&] { tip = QString::fromStdString(contents->tipAt(help.pos())); });
         QToolTip::showText(help.globalPos(), tip, this, QRect(help.pos(), QSize(1, 1)));
         return true;
     }

@@ -86,6 +86,7 @@ TEST_F(MixedAirScreen, ShowsItsMenusWithTheReviewHidden)
     EXPECT_TRUE(user.menuEntry("mnuFiledash2")->isSeparator());
     EXPECT_FALSE(user.menuEntry("mnuReview")->isVisible());
     EXPECT_FALSE(user.menuEntry("mnuReview")->isEnabled());
+    EXPECT_FALSE(user.menuEntry("mnuReview")->menu()->isEnabled());
     EXPECT_FALSE(user.menuEntry("mnuReviewMixedAir")->isEnabled());
 }
 
@@ -188,6 +189,7 @@ TEST_F(MixedAirScreen, SavesTheOutsideAirWithItsVolumeAndShowsTheVolumes)
     EXPECT_EQ(user.text("txtcfm2"), "");
     EXPECT_TRUE(user.menuEntry("mnuReview")->isVisible());
     EXPECT_TRUE(user.menuEntry("mnuReview")->isEnabled());
+    EXPECT_TRUE(user.menuEntry("mnuReview")->menu()->isEnabled());
 
     EXPECT_EQ(MixedOutsideAir.AirVolume, 1000.0F);
     EXPECT_EQ(MixedOutsideAir.Tdb, 95.0F);
