@@ -1,6 +1,9 @@
 // What every page of the help is made of, and what it announces.
 
 #include "tests/help/WorkedExample.h"
+#include "tests/support/ProgramTest.h"
+
+#include <QCoreApplication>
 
 #include <gtest/gtest.h>
 
@@ -60,4 +63,20 @@ TEST(HelpExamples, RefuseAStepThatNobodyCanFollow)
     const HelpElement list{"ol", {{"class", "example"}, {"id", "odd"}}, {}, {item}, 6};
     EXPECT_THROW(readExample("odd.html", list), std::runtime_error);
     EXPECT_THROW(readExample("odd.html", HelpElement{"ol", {}, {}, {}, 6}), std::runtime_error);
+}
+
+using HelpVersion = ProgramTest;
+
+TEST_F(HelpVersion, IsThatOfTheProgram)
+{
+    start();
+    ASSERT_FALSE(QCoreApplication::applicationVersion().isEmpty());
+    const HelpElement page = readHelpPage("index.html");
+    QStringList told;
+    for (const HelpElement* cell : page.all("td")) {
+        if (cell->words().startsWith("shows the version"))
+            told << cell->words();
+    }
+    EXPECT_EQ(told, QStringList("shows the version, " + QCoreApplication::applicationVersion()))
+        << told.join(" | ").toStdString();
 }

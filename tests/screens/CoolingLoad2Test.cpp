@@ -356,3 +356,15 @@ TEST_F(CoolingLeavingAirDialog, EndsTheProgramOnATextThatIsNoNumber)
     };
     EXPECT_EXIT(inLeavingAir(enter), testing::ExitedWithCode(1), mismatch);
 }
+
+TEST_F(CoolingLeavingAirDialog, EndsTheProgramOnAWetBulbOfLessThanNoWater)
+{
+    openWithEnteringAir();
+    const auto invalid = "message: Dunmoor: Run-time error '5':\nInvalid procedure call or argument";
+    EXPECT_EXIT(setLeaving("55", "35"), testing::ExitedWithCode(1), invalid);
+    EXPECT_EXIT(setLeaving("62", "35"), testing::ExitedWithCode(1), invalid) << "above the dew point too";
+    setLeaving("55", "38");
+    EXPECT_EQ(LeavingAirAccepted, True16) << "hardly any water, and taken without a word";
+    EXPECT_GT(CoolingLeavingAir.W, 0.0F);
+    EXPECT_TRUE(user.messages.empty());
+}

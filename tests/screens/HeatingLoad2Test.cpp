@@ -325,3 +325,30 @@ TEST_F(HeatingLeavingDialog, EndsTheProgramOnATemperatureThatIsNoNumber)
     EXPECT_EXIT(inputLeaving("abc"), testing::ExitedWithCode(1),
                 "message: Dunmoor: Run-time error '13':\nType mismatch");
 }
+
+TEST_F(HeatingLeavingDialog, EndsTheProgramBeyondTheSaturationCurves)
+{
+    open();
+    saveWorkedAir();
+    const auto division = "message: Dunmoor: Run-time error '11':\nDivision by zero";
+    EXPECT_EXIT(inputLeaving("400"), testing::ExitedWithCode(1), division);
+    EXPECT_EXIT(inputLeaving("392"), testing::ExitedWithCode(1), division);
+    EXPECT_EXIT(inputLeaving("-149"), testing::ExitedWithCode(1), division);
+    inputLeaving("391");
+    EXPECT_EQ(HeatingLeavingAir.Tdb, 391.0F);
+    inputLeaving("-148");
+    EXPECT_EQ(HeatingLeavingAir.Tdb, -148.0F);
+}
+
+TEST_F(HeatingLeavingDialog, EndsTheProgramBeyondTheSaturationCurvesInMetric)
+{
+    open(true);
+    saveWorkedAir();
+    const auto division = "message: Dunmoor: Run-time error '11':\nDivision by zero";
+    EXPECT_EXIT(inputLeaving("200"), testing::ExitedWithCode(1), division);
+    EXPECT_EXIT(inputLeaving("-99"), testing::ExitedWithCode(1), division);
+    inputLeaving("199");
+    EXPECT_EQ(HeatingLeavingAir.Tdb, 199.0F);
+    inputLeaving("-98");
+    EXPECT_EQ(HeatingLeavingAir.Tdb, -98.0F);
+}
