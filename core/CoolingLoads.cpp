@@ -46,13 +46,13 @@ const Band& firstBandWithout(Single wetBulb, std::span<const Band> bands, const 
 }
 
 /// In Btu/h, or in kJ/hr; each operation rounds to single.
-TaggedNumber WetTotal(const TaggedNumber& massFlow)
+TaggedNumber WetTotal(const TaggedNumber& MassFlow)
 {
     const AirSnapshot& in = CoolingEnteringAir;
     const AirSnapshot& out = CoolingLeavingAir;
     const TaggedNumber removed = TaggedNumber(in.h) - out.h;
     const TaggedNumber condensate = (TaggedNumber(in.W) - out.W) * CondensateEnthalpy(out.Twb);
-    const TaggedNumber total = (removed - condensate) * massFlow;
+    const TaggedNumber total = (removed - condensate) * MassFlow;
     return IsMetric() ? total : total * 60;
 }
 
@@ -79,12 +79,12 @@ Single CondensateEnthalpy(Single wetBulb)
 
 void CalculateCoolingLoads()
 {
-    const bool isDry = CoolingLeavingAir.Tdb >= CoolingEnteringAir.td && LeavingWetBulbGiven == False16;
-    const TaggedNumber massFlow = TaggedNumber(CoolingEnteringAir.AirVolume) / CoolingEnteringAir.SpVol;
-    if (!isDry)
-        TotalLoad = WetTotal(massFlow).asSingle();
+    const bool DryCoil = CoolingLeavingAir.Tdb >= CoolingEnteringAir.td && LeavingWetBulbGiven == False16;
+    const TaggedNumber MassFlow = TaggedNumber(CoolingEnteringAir.AirVolume) / CoolingEnteringAir.SpVol;
+    if (!DryCoil)
+        TotalLoad = WetTotal(MassFlow).asSingle();
     SensibleLoad = Sensible();
-    if (isDry)
+    if (DryCoil)
         TotalLoad = SensibleLoad.asSingle();
     else if (IsMetric())
         TotalLoad = RoundToSingle(TotalLoad / 3600.0);

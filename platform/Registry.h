@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-constexpr std::uint32_t HKEY_LOCAL_MACHINE_ROOT = 0x80000002; ///< the machine-wide root
-constexpr std::uint32_t KEY_ALL_BUT_LINKS = 0x2003f;          ///< the rights that a key is opened with
+constexpr std::uint32_t HKEY_LOCAL_MACHINE = 0x80000002; ///< the machine-wide root
+constexpr std::uint32_t KEY_ALL_BUT_LINKS = 0x2003f;     ///< the rights that a key is opened with
 
 /// A value of the registry as it is stored: a text may end in a zero byte, a number has its lowest byte
 /// first.

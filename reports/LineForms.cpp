@@ -26,7 +26,7 @@ ReportLine& ReportLine::toColumn(std::size_t column)
     return *this;
 }
 
-ReportLine& ReportLine::toNextZone()
+ReportLine& ReportLine::PrintZone()
 {
     const std::size_t zonesBegun = (column_ - 1) / ZoneWidth + 1;
     return toColumn(zonesBegun * ZoneWidth + 1);
@@ -50,17 +50,17 @@ std::string Rule() { return Heading(std::string(RuleLength, '-')); }
 
 std::string LabelAndValue(std::string_view label, std::string_view value)
 {
-    return ReportLine().toColumn(TextColumn).put(label).toNextZone().put(value).text();
+    return ReportLine().toColumn(TextColumn).put(label).PrintZone().put(value).text();
 }
 
 std::string LabelValueAndUnit(std::string_view label, std::string_view value, std::string_view unit)
 {
-    return ReportLine().toColumn(TextColumn).put(label).toNextZone().put(value).toNextZone().put(unit).text();
+    return ReportLine().toColumn(TextColumn).put(label).PrintZone().put(value).PrintZone().put(unit).text();
 }
 
 std::string ValueAndUnit(std::string_view value, std::string_view unit)
 {
-    return ReportLine().toColumn(TextColumn).put(value).toNextZone().put(unit).text();
+    return ReportLine().toColumn(TextColumn).put(value).PrintZone().put(unit).text();
 }
 
 std::string Column4Line(std::string_view value)

@@ -14,7 +14,7 @@ public:
 
     /// Pads with blanks to the first print zone beyond the current column. The zones begin at the columns 1,
     /// 15, 29, 43, 57 and on. A zone that nothing was put into is passed over like a filled one.
-    ReportLine& toNextZone();
+    ReportLine& PrintZone();
 
     ReportLine& put(std::string_view text);
 

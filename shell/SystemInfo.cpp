@@ -65,8 +65,8 @@ bool About::GetKeyValue(std::uint32_t KeyRoot, const std::string& KeyName, const
 void About::StartSysInfo(Registry& registry)
 {
     std::string path;
-    bool found = GetKeyValue(HKEY_LOCAL_MACHINE_ROOT, viewerKey, "PATH", path, registry);
-    if (!found && GetKeyValue(HKEY_LOCAL_MACHINE_ROOT, folderKey, "MSINFO", path, registry)) {
+    bool found = GetKeyValue(HKEY_LOCAL_MACHINE, viewerKey, "PATH", path, registry);
+    if (!found && GetKeyValue(HKEY_LOCAL_MACHINE, folderKey, "MSINFO", path, registry)) {
         path += R"(\MSINFO32.EXE)";
         found = QFileInfo::exists(QString::fromStdString(path));
     }

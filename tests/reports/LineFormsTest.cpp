@@ -95,11 +95,11 @@ TEST(LineForms, CountCharactersAndNotBytes)
 
 TEST(ReportLine, ZonesBeginEvery14Columns)
 {
-    EXPECT_EQ(ReportLine().toNextZone().put("x").text().find('x'), 14U);
-    EXPECT_EQ(ReportLine().toNextZone().toNextZone().put("x").text().find('x'), 28U);
-    EXPECT_EQ(ReportLine().toNextZone().toNextZone().toNextZone().put("x").text().find('x'), 42U);
-    EXPECT_EQ(ReportLine().put(std::string(55, '.')).toNextZone().put("x").text().find('x'), 56U);
-    EXPECT_EQ(ReportLine().put(std::string(57, '.')).toNextZone().put("x").text().find('x'), 70U);
+    EXPECT_EQ(ReportLine().PrintZone().put("x").text().find('x'), 14U);
+    EXPECT_EQ(ReportLine().PrintZone().PrintZone().put("x").text().find('x'), 28U);
+    EXPECT_EQ(ReportLine().PrintZone().PrintZone().PrintZone().put("x").text().find('x'), 42U);
+    EXPECT_EQ(ReportLine().put(std::string(55, '.')).PrintZone().put("x").text().find('x'), 56U);
+    EXPECT_EQ(ReportLine().put(std::string(57, '.')).PrintZone().put("x").text().find('x'), 70U);
 }
 
 TEST(ReportLine, GoesNowhereToAColumnItHasPassed)

@@ -60,7 +60,7 @@ protected:
 
     bool read(const std::string& key, const std::string& name)
     {
-        return About::GetKeyValue(HKEY_LOCAL_MACHINE_ROOT, key, name, text, registry);
+        return About::GetKeyValue(HKEY_LOCAL_MACHINE, key, name, text, registry);
     }
 
     std::string read(std::uint32_t type, const std::string& bytes)
@@ -192,6 +192,6 @@ TEST_F(SystemInfo, IsUnavailableOnASystemWithoutARegistry)
 {
     About::StartSysInfo();
     EXPECT_EQ(user.messages.size(), 1U);
-    EXPECT_FALSE(About::GetKeyValue(HKEY_LOCAL_MACHINE_ROOT, viewerKey, "PATH", text));
+    EXPECT_FALSE(About::GetKeyValue(HKEY_LOCAL_MACHINE, viewerKey, "PATH", text));
     EXPECT_EQ(text, "");
 }
