@@ -1,4 +1,4 @@
-#include "core/PlainForms.h"
+#include "tests/core/PlainForms.h"
 
 #include "core/CheckedArithmetic.h"
 #include "core/Relations.h"
