@@ -2,6 +2,7 @@
 
 #include "core/MainMod.h"
 #include "platform/forms/Forms.h"
+#include "platform/forms/Layout.h"
 #include "screens/AirPropertiesCalc.h"
 #include "screens/CoolingLoad1.h"
 #include "screens/HeatingLoad1.h"
@@ -13,10 +14,6 @@
 #include "shell/Settings.h"
 #include "shell/Store.h"
 #include "shell/chart/ChartPicture.h"
-
-#include <QGridLayout>
-#include <QVBoxLayout>
-#include <QWidget>
 
 #include <utility>
 
@@ -52,22 +49,22 @@ void MainForm::layOut()
     btnHeating.setToolTip("Calculate Heating Coil Loads");
     btnHumidity.setToolTip("Calculate Humidification Requirements");
 
-    auto* const buttons = new QVBoxLayout;
+    auto* const buttons = new Column;
     buttons->setSpacing(14);
     for (Button* button : {&btnAirCalc, &btnMixedAir, &btnCooling, &btnHeating, &btnHumidity}) {
-        button->widget()->setMinimumHeight(button->widget()->fontMetrics().height() * 5 / 2);
-        buttons->addWidget(button->widget());
+        setLeastHeight(*button, heightOfLines(*button, 2.5));
+        buttons->add(*button);
     }
     buttons->addStretch();
 
-    auto* const grid = new QGridLayout(area());
+    auto* const grid = new Grid(*this);
     grid->setContentsMargins(28, 20, 28, 28);
     grid->setHorizontalSpacing(28);
-    grid->addWidget(lblProductName.widget(), 0, 0);
-    grid->addWidget(lblProduct.widget(), 1, 0);
+    grid->add(lblProductName, 0, 0);
+    grid->add(lblProduct, 1, 0);
     grid->setRowMinimumHeight(2, 16);
     grid->addLayout(buttons, 3, 0);
-    grid->addWidget(Image1.widget(), 0, 1, 4, 1);
+    grid->add(Image1, 0, 1, 4, 1);
     grid->setColumnStretch(1, 1);
     grid->setColumnMinimumWidth(0, 190);
     grid->setRowStretch(3, 1);
