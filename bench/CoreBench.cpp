@@ -39,8 +39,10 @@ void SetMode(benchmark::State& state)
     state.SetLabel(IsMetric() ? "Metric" : "English");
 }
 
+using StateItem = TaggedNumber MoistAirState::*;
+
 /// A full state from one item, given as it stands in a solved state.
-void SolveFrom(benchmark::State& state, TaggedNumber MoistAirState::*item, void (*solve)())
+void SolveFrom(benchmark::State& state, StateItem item, void (*solve)())
 {
     SetMode(state);
     std::vector<MoistAirState> states = Sample();

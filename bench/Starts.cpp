@@ -61,9 +61,10 @@ void start(Measured& program, const std::string& folder, bool isKept)
     }
 }
 
+using Figure = std::vector<double> Measured::*;
+
 /// Each program's quartiles, and its median as a multiple of the first program's.
-void printTable(const char* what, const std::array<Measured, 3>& programs,
-                std::vector<double> Measured::*values)
+void printTable(const char* what, const std::array<Measured, 3>& programs, Figure values)
 {
     std::printf("%-19s %9s %9s %9s %9s\n", what, "quartile", "median", "quartile", "multiple");
     const double least = median(programs.front().*values);

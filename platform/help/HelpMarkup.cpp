@@ -163,7 +163,8 @@ QString declarationToShow(const QString& declaration)
     if (!property.startsWith("border"))
         return declaration;
     QStringList words = value.split(' ', Qt::SkipEmptyParts);
-    words.removeIf([](const QString& word) { return QColor::isValidColor(word) || word.startsWith("rgb"); });
+    words.removeIf(
+        [](const QString& word) { return QColor::fromString(word).isValid() || word.startsWith("rgb"); });
     return property + ": " + words.join(' ');
 }
 

@@ -42,6 +42,9 @@ inline std::ostream& operator<<(std::ostream& out, NumberKind kind)
     return out << names[static_cast<int>(kind)];
 }
 
+/// One of the tagged numbers of a state.
+using StateItem = TaggedNumber MoistAirState::*;
+
 /// The messages that the core has shown.
 inline std::vector<std::string> shownMessages;
 

@@ -31,7 +31,7 @@ protected:
 using EnglishHumidification = Humidification<EnglishCore>;
 using MetricHumidification = Humidification<MetricCore>;
 
-using Fields = std::vector<std::pair<std::string, TaggedNumber MoistAirState::*>>;
+using Fields = std::vector<std::pair<std::string, StateItem>>;
 const Fields StateFields{
     {"Pws", &MoistAirState::Pws},       {"Pw", &MoistAirState::Pw},       {"W", &MoistAirState::W},
     {"Grains", &MoistAirState::Grains}, {"Ws", &MoistAirState::Ws},       {"Mu", &MoistAirState::Mu},

@@ -161,7 +161,7 @@ TEST_F(NumberText, ReadsTheNearestDouble)
     std::mt19937_64 random(7);
     for (int i = 0; i < 500000; ++i) {
         std::string text = std::to_string(random());
-        text.insert(1 + random() % text.size(), 1, '.');
+        text.insert(1 + static_cast<std::size_t>(random() % text.size()), 1, '.');
         if (random() % 2 == 0) {
             text += 'e';
             text += std::to_string(static_cast<int>(random() % 560) - 280);

@@ -72,7 +72,7 @@ void SolveWetBulbInput(const Figure& figure)
 double Worked(const Figure& figure)
 {
     const auto t = [&] { return Input(figure, "t"); };
-    const auto solved = [&](TaggedNumber MoistAirState::*item) {
+    const auto solved = [&](StateItem item) {
         SolveWetBulbInput(figure);
         return (StatePoint.*item).asDouble();
     };

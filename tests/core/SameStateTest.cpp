@@ -40,7 +40,7 @@ void ExpectSame(const MoistAirState& state, const MoistAirState& expected, const
     EXPECT_EQ(state.Ws.asSingle(), expected.Ws.asSingle());
 }
 
-MoistAirState SolvedFrom(const MoistAirState& given, TaggedNumber MoistAirState::*item, void (*solve)())
+MoistAirState SolvedFrom(const MoistAirState& given, StateItem item, void (*solve)())
 {
     StatePoint = {};
     StatePoint.Tdb = given.Tdb;

@@ -110,7 +110,7 @@ std::string OutcomeOf(void (*solve)())
 class StateVectors : public EnglishCore
 {
 protected:
-    void expectAll(const std::string& solver, void (*solve)(), TaggedNumber MoistAirState::*item)
+    void expectAll(const std::string& solver, void (*solve)(), StateItem item)
     {
         const std::vector<Row> rows = RowsFor(solver);
         ASSERT_EQ(rows.size(), 400U);

@@ -4,7 +4,7 @@ import os
 import sys
 import tempfile
 
-from DesktopProgram import DesktopProgram, descendants, is_showing
+from DesktopProgram import DesktopProgram, descendants, is_showing, role
 
 ENGLISH = {
     "choice": "English, I-P",
@@ -84,16 +84,16 @@ class Walk:
         self.units = units
         self.forms = 0
 
-    def names(self, title, role):
+    def names(self, title, wanted_role):
         window = self.program.window(title)
-        return [c.get_name() for c in descendants(window) if c.get_role_name() == role and is_showing(c)]
+        return [c.get_name() for c in descendants(window) if role(c) == wanted_role and is_showing(c)]
 
     def expect_fields(self, title, expected):
         found = sorted(self.names(title, "text"))
         if not any(entry for entry in self.units["grains"]):  # in Metric the field of the grains has no use
             found = [name for name in found if not name.startswith("Humidity ratio in grains")]
         assert found == sorted(expected), f"{title}:\n  found    {found}\n  expected {sorted(expected)}"
-        for button in self.names(title, "push button"):
+        for button in self.names(title, "button"):
             assert button.strip(), f"{title}: a button without a name"
         self.forms += 1
 

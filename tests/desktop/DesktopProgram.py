@@ -34,6 +34,12 @@ def descendants(accessible):
             yield from descendants(child)
 
 
+def role(accessible):
+    """By its newer name, where the bus still gives the older one."""
+    name = accessible.get_role_name()
+    return "button" if name == "push button" else name
+
+
 def is_showing(accessible):
     return accessible.get_state_set().contains(Atspi.StateType.SHOWING)
 
@@ -67,21 +73,21 @@ class DesktopProgram:
     def gone(self, title):
         wait_for(f"the end of '{title}'", lambda: not any(title in w.get_name() for w in self.windows()))
 
-    def find(self, title, name, role=None):
+    def find(self, title, name, wanted_role=None):
         """The control of that name, or whose name begins with it and a comma, in the window of that title."""
 
         def look():
             for control in descendants(self.window(title)):
                 text = control.get_name()
                 if (text == name or text.startswith(name + ",")) and is_showing(control):
-                    if role is None or control.get_role_name() == role:
+                    if wanted_role is None or role(control) == wanted_role:
                         return control
             return None
 
         return wait_for(f"'{name}' in '{title}'", look)
 
-    def click(self, title, name, role=None):
-        control = self.find(title, name, role)
+    def click(self, title, name, wanted_role=None):
+        control = self.find(title, name, wanted_role)
         wait_for(f"'{name}' to be enabled", lambda: control.get_state_set().contains(Atspi.StateType.ENABLED))
         self._click_at(control)
 

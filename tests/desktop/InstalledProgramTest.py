@@ -41,7 +41,7 @@ def save(program, home):
 def print_to_pdf(program, home):
     program.choose(CALCULATOR, "File", "Print Results")
     dialog = program.window("Print").get_name()
-    program.click(dialog, "Print", "push button")
+    program.click(dialog, "Print", "button")
     program.gone(dialog)
     pdf = wait_for("a PDF file", lambda: next(iter(pathlib.Path(home).rglob("*.pdf")), None))
     assert pdf.read_bytes().startswith(b"%PDF"), pdf

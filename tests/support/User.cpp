@@ -11,8 +11,10 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <iostream>
 #include <memory>
@@ -35,6 +37,16 @@ QWidget* windowInUse()
 }
 
 QPoint centre(const QWidget& widget) { return widget.rect().center(); }
+
+/// Brings the mouse to a place and clicks: a menu takes no click of a mouse that hasn't moved since it
+/// opened.
+void moveAndClick(const QWidget& widget, QPoint place)
+{
+    QWindow* const window = widget.window()->windowHandle();
+    const QPoint there = widget.mapTo(widget.window(), place);
+    QTest::mouseMove(window, there);
+    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, there);
+}
 
 } // namespace
 
@@ -151,13 +163,19 @@ void User::choose(const std::string& menuEntryName)
         if (!isIt && (onBar->menu() == nullptr || !onBar->menu()->actions().contains(entry)))
             continue;
         QMenu* const menu = onBar->menu();
-        QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->actionGeometry(onBar).center());
-        if (menu != nullptr) {
-            QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(entry).center());
-            menu->close(); // a disabled entry leaves it open
-        }
+        moveAndClick(*bar, bar->actionGeometry(onBar).center());
+        if (menu != nullptr && menu->isVisible())
+            chooseFromMenu(*menu, entry);
         return;
     }
+}
+
+void User::chooseFromMenu(QMenu& menu, QAction* entry)
+{
+    const QPointer<QMenu> open = &menu; // what is chosen may be the end of its window
+    moveAndClick(menu, menu.actionGeometry(entry).center());
+    if (open != nullptr)
+        open->close(); // a disabled entry leaves it open
 }
 
 void User::chooseFromList(const std::string& list, const std::string& entry)

@@ -9,6 +9,7 @@
 #include <vector>
 
 class QAction;
+class QMenu;
 class QObject;
 class QWidget;
 
@@ -47,6 +48,7 @@ public:
     void keys(const std::string& text);
 
     void choose(const std::string& menuEntryName);
+    static void chooseFromMenu(QMenu& menu, QAction* entry); ///< of a menu that is open
     void chooseFromList(const std::string& list, const std::string& entry);
     void closeWindow();
 

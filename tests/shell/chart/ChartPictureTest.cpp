@@ -107,8 +107,7 @@ TEST_F(ChartOnMenu, IsCopiedAsAPictureByItsMenu)
     QApplication::sendEvent(picture(), &event);
     auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     ASSERT_NE(menu, nullptr);
-    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
-                      menu->actionGeometry(menu->actions().constFirst()).center());
+    User::chooseFromMenu(*menu, menu->actions().constFirst());
     const QImage copied = QGuiApplication::clipboard()->image();
     EXPECT_EQ(copied.size(), picture()->size());
     EXPECT_EQ(pixelsThatDiffer(copied, shown()), 0);
