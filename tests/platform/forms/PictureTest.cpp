@@ -46,15 +46,28 @@ protected:
         QWidget* const canvas = form<PictureScreen>().Image1.widget();
         return canvas->grab().toImage().pixelColor(canvas->rect().center());
     }
+    /// Looks at the picture, and waits for it where its window has only just come up.
+    static void look()
+    {
+        EXPECT_TRUE(QTest::qWaitFor([] { return shownColour() == QColor(Qt::red); }));
+    }
     static void show()
     {
         form<PictureScreen>().Show();
-        QTest::qWait(20);
+        look();
+    }
+    static void lookUntilPainted(int times)
+    {
+        EXPECT_TRUE(QTest::qWaitFor([times] {
+            look();
+            return Drawing::paints >= times;
+        }));
+        EXPECT_EQ(Drawing::paints, times);
     }
     static void repaint()
     {
         form<PictureScreen>().Image1.repaint();
-        QTest::qWait(20);
+        look();
     }
 };
 
@@ -65,9 +78,8 @@ TEST_F(PictureControl, IsPaintedAfterTheFirstPictureOfItsWindow)
     form<PictureScreen>().Show();
     EXPECT_NE(shownColour(), QColor(Qt::red));
     EXPECT_EQ(Drawing::paints, 0);
-    QTest::qWait(20);
+    look();
     EXPECT_EQ(Drawing::paints, 1);
-    EXPECT_EQ(shownColour(), QColor(Qt::red));
 }
 
 TEST_F(PictureControl, IsKeptWhileNothingChanges)
@@ -76,7 +88,6 @@ TEST_F(PictureControl, IsKeptWhileNothingChanges)
     repaint();
     form<PictureScreen>().Hide();
     show();
-    EXPECT_EQ(shownColour(), QColor(Qt::red));
     EXPECT_EQ(Drawing::paints, 1);
 }
 
@@ -101,17 +112,16 @@ TEST_F(PictureControl, IsPaintedAnewInAnotherSizeFontOrColour)
 {
     show();
     form<PictureScreen>().window()->resize(500, 500);
-    QTest::qWait(20);
-    EXPECT_EQ(Drawing::paints, 2);
+    lookUntilPainted(2);
     QPalette palette = QApplication::palette();
     palette.setColor(QPalette::Base, Qt::black);
     QApplication::setPalette(palette);
-    QTest::qWait(20);
-    EXPECT_EQ(Drawing::paints, 3);
+    lookUntilPainted(3);
     QFont font = QApplication::font();
     font.setItalic(true);
     QApplication::setFont(font);
-    QTest::qWait(20);
+    lookUntilPainted(4);
+    look();
     EXPECT_EQ(Drawing::paints, 4);
 }
 
