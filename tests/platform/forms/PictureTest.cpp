@@ -1,7 +1,6 @@
 // A picture: when it is painted, and what it keeps.
 
 #include "platform/forms/Picture.h"
-#include "platform/forms/PackedImage.h"
 #include "tests/platform/forms/TestForms.h"
 
 #include <QFont>
@@ -123,19 +122,4 @@ TEST_F(PictureControl, IsPaintedAnewInAnotherSizeFontOrColour)
     lookUntilPainted(4);
     look();
     EXPECT_EQ(Drawing::paints, 4);
-}
-
-TEST_F(PictureControl, ComesOutOfItsPackingAsItWentIn)
-{
-    QImage image(61, 47, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(2);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.drawEllipse(QRectF(3, 4, 20, 15));
-    painter.end();
-    const PackedImage packed(image);
-    EXPECT_EQ(packed.unpacked(), image);
-    EXPECT_EQ(packed.unpacked().devicePixelRatio(), 2);
-    EXPECT_LT(packed.bytes(), image.sizeInBytes() / 4);
 }
