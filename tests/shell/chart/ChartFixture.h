@@ -18,10 +18,24 @@ class ChartOnMenu : public CalculatorTest
 protected:
     QWidget* picture() const { return User::findWindow("MainForm")->findChild<QWidget*>("Image1"); }
 
+    /// What the menu shows once the chart is there: it comes after the window's first picture.
     QImage shown() const
     {
-        QTest::qWait(20); // the chart comes after the window's first picture
-        return picture()->grab().toImage();
+        QImage image;
+        const bool isThere = QTest::qWaitFor([&] {
+            image = picture()->grab().toImage();
+            return !isBlank(image);
+        });
+        EXPECT_TRUE(isThere) << "the chart's place stays empty";
+        return image;
+    }
+
+    static bool isBlank(const QImage& image)
+    {
+        QImage ground(image.size(), image.format());
+        ground.setDevicePixelRatio(image.devicePixelRatio());
+        ground.fill(image.pixelColor(0, 0));
+        return image == ground;
     }
 
     std::unique_ptr<ChartLayout> layout() const
@@ -32,8 +46,8 @@ protected:
     /// Whether a state is marked on what the menu shows: a dot of one strong colour.
     bool isMarked(double tdb, double w) const
     {
-        const auto chart = layout();
         const QImage image = shown();
+        const auto chart = layout();
         const QPointF exactly = chart->plane.at(tdb, w);
         const QPoint place(static_cast<int>(exactly.x()), static_cast<int>(exactly.y()));
         const QColor centre = image.pixelColor(place);

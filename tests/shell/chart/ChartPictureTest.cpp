@@ -40,11 +40,7 @@ TEST_F(ChartOnMenu, ComesAfterTheFirstPictureOfTheMenu)
 {
     start();
     const QImage first = picture()->grab().toImage();
-    const QColor ground = first.pixelColor(0, 0);
-    for (int y = 0; y < first.height(); y += 3) {
-        for (int x = 0; x < first.width(); x += 3)
-            ASSERT_EQ(first.pixelColor(x, y), ground);
-    }
+    EXPECT_TRUE(isBlank(first));
     EXPECT_GT(pixelsThatDiffer(first, shown()), 10000);
 }
 
@@ -57,8 +53,8 @@ TEST_F(ChartOnMenu, FollowsTheColoursOfTheDesktop)
     QApplication::setPalette(dark);
     const auto chart = layout();
     const QPoint paper = chart->plane.at(105.3, 0.0012).toPoint();
-    EXPECT_LT(shown().pixelColor(paper).lightness(), 60);
     EXPECT_GT(light.pixelColor(paper).lightness(), 200);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown().pixelColor(paper).lightness() < 60; }));
 }
 
 TEST_F(ChartOnMenu, SaysWhatIsUnderThePointer)
