@@ -91,7 +91,7 @@ def end_of(executable, open_windows, end):
         os.environ["HOME"] = home
         program = DesktopProgram(executable, os.path.dirname(executable))
         try:
-            program.window("Dunmoor")
+            wait_for("the main menu", count_windows)
             open_windows(program)
             end(server, program.process)
             return program.process.wait(timeout=LIMIT)
