@@ -4,7 +4,9 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QScreen>
+#include <QTimer>
 #include <QWidget>
 
 class OptionsScreen : public ProgramTest
@@ -341,4 +343,20 @@ TEST_F(OptionsScreen, NamesItsFieldWithTheUnit)
         EXPECT_EQ(user.widget("txtBP")->accessibleName().toStdString(), "Barometric pressure, kPa");
         user.click("btnCancel");
     });
+}
+
+TEST_F(OptionsScreen, MayBeClosedUnderTheContextMenuOfThePressure)
+{
+    start();
+    inOptions([this] {
+        QWidget* const field = user.widget("txtBP");
+        QTimer::singleShot(0, qApp, [this] {
+            EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+            user.closeWindow();
+        });
+        QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, field->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(field, &event);
+    });
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(user.window(), "MainForm");
 }
