@@ -38,9 +38,13 @@ QWidget* windowInUse()
 
 QPoint centre(const QWidget& widget) { return widget.rect().center(); }
 
+/// Moves the mouse as a hand does, by more than one motion: a menu takes no click of a mouse that has hardly
+/// moved since it opened.
 void moveMouse(const QWidget& widget, QPoint place)
 {
-    QTest::mouseMove(widget.window()->windowHandle(), widget.mapTo(widget.window(), place));
+    const QPoint there = widget.mapTo(widget.window(), place);
+    for (int left = 7; left >= 0; --left)
+        QTest::mouseMove(widget.window()->windowHandle(), there + QPoint(left, 0));
 }
 
 void clickAt(const QWidget& widget, QPoint place)
@@ -178,7 +182,7 @@ void User::chooseFromMenu(QMenu& menu, QAction* entry)
 {
     const QPointer<QMenu> open = &menu; // what is chosen may be the end of its window
     const QPoint place = menu.actionGeometry(entry).center();
-    moveMouse(menu, place); // a menu takes no click of a mouse that hasn't moved since it opened
+    moveMouse(menu, place);
     clickAt(menu, place);
     if (open != nullptr)
         open->close(); // a disabled entry leaves it open
