@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -47,6 +48,19 @@ QWidget* windowInUse()
             return top;
     }
     giveUp("no window is shown");
+}
+
+/// What the screen shows there.
+QImage grab(const std::function<QRect()>& frame)
+{
+    QImage shown;
+    onProgramThread([&] {
+        const QRect there = frame();
+        shown = QGuiApplication::primaryScreen()
+                    ->grabWindow(0, there.x(), there.y(), there.width(), there.height())
+                    .toImage();
+    });
+    return shown;
 }
 
 QPoint centreOnScreen(const QWidget& widget) { return widget.mapToGlobal(widget.rect().center()); }
@@ -142,27 +156,28 @@ QString Hand::reportFile(const QString& name) const
 
 void Hand::picture(const QString& name)
 {
-    settle();
-    onProgramThread([&] {
-        const QRect frame = windowInUse()->frameGeometry();
-        QScreen* const screen = QGuiApplication::primaryScreen();
-        const QPixmap shown = screen->grabWindow(0, frame.x(), frame.y(), frame.width(), frame.height());
-        if (!shown.save(folder + "/" + name + ".png"))
-            giveUp("can't write into " + folder);
-    });
+    save(name, [] { return windowInUse()->frameGeometry(); });
 }
 
 void Hand::pictureOfAll(const QString& name)
 {
-    settle();
-    onProgramThread([&] {
+    save(name, [] {
         QRect frame;
         for (const QWidget* top : QApplication::topLevelWidgets()) {
             if (top->isVisible())
                 frame |= top->frameGeometry();
         }
-        QScreen* const screen = QGuiApplication::primaryScreen();
-        screen->grabWindow(0, frame.x(), frame.y(), frame.width(), frame.height())
-            .save(folder + "/" + name + ".png");
+        return frame;
     });
+}
+
+void Hand::save(const QString& name, const std::function<QRect()>& frame)
+{
+    QImage before;
+    for (QImage shown = grab(frame); shown != before; shown = grab(frame)) {
+        before = shown; // until nothing moves any more
+        settle();
+    }
+    if (!before.save(folder + "/" + name + ".png"))
+        giveUp("can't write into " + folder);
 }

@@ -3,8 +3,10 @@
 #include <QPoint>
 #include <QString>
 
+#include <functional>
 #include <utility>
 
+class QRect;
 class QWidget;
 
 /// A hand at the mouse and the keyboard of a real screen, on a thread of its own beside the program's: it
@@ -34,6 +36,7 @@ public:
 private:
     void clickAt(QPoint place);
     void settle();
+    void save(const QString& name, const std::function<QRect()>& frame);
 
     QString folder;
 };

@@ -42,6 +42,7 @@ int main(int argc, char** argv)
     const QTemporaryDir settings; // the tour starts as on a new machine
     qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
     QApplication application(argc, argv);
+    QApplication::setCursorFlashTime(0); // a picture is the same, whenever it is taken
     const QStringList arguments = QApplication::arguments().mid(1);
     if (arguments.isEmpty()) {
         std::fprintf(stderr, "usage: dunmoor-tour FOLDER [dark] [FONT-POINTS]\n");

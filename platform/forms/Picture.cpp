@@ -117,7 +117,16 @@ private:
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
     }
 
-    void copy() { QGuiApplication::clipboard()->setImage(rendered(palette().color(QPalette::Window))); }
+    /// The ground comes below what is shown: newer toolkits draw letters on an opaque ground in another way.
+    void copy()
+    {
+        QImage picture = rendered(Qt::transparent);
+        QPainter painter(&picture);
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
+        painter.fillRect(rect(), palette().color(QPalette::Window));
+        painter.end();
+        QGuiApplication::clipboard()->setImage(picture);
+    }
 
     Form& form;
     std::unique_ptr<PictureContents> contents;

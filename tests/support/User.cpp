@@ -38,14 +38,19 @@ QWidget* windowInUse()
 
 QPoint centre(const QWidget& widget) { return widget.rect().center(); }
 
-/// Brings the mouse to a place and clicks: a menu takes no click of a mouse that hasn't moved since it
-/// opened.
-void moveAndClick(const QWidget& widget, QPoint place)
+/// Moves the mouse as a hand does, by more than one motion: a menu takes no click of a mouse that has hardly
+/// moved since it opened.
+void moveMouse(const QWidget& widget, QPoint place)
 {
-    QWindow* const window = widget.window()->windowHandle();
     const QPoint there = widget.mapTo(widget.window(), place);
-    QTest::mouseMove(window, there);
-    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, there);
+    for (int left = 7; left >= 0; --left)
+        QTest::mouseMove(widget.window()->windowHandle(), there + QPoint(left, 0));
+}
+
+void clickAt(const QWidget& widget, QPoint place)
+{
+    QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      widget.mapTo(widget.window(), place));
 }
 
 } // namespace
@@ -163,7 +168,10 @@ void User::choose(const std::string& menuEntryName)
         if (!isIt && (onBar->menu() == nullptr || !onBar->menu()->actions().contains(entry)))
             continue;
         QMenu* const menu = onBar->menu();
-        moveAndClick(*bar, bar->actionGeometry(onBar).center());
+        const QPoint place = bar->actionGeometry(onBar).center();
+        moveMouse(*bar, place);
+        if (menu == nullptr || !menu->isVisible()) // the way there opens it where another one is open
+            clickAt(*bar, place);
         if (menu != nullptr && menu->isVisible())
             chooseFromMenu(*menu, entry);
         return;
@@ -173,7 +181,9 @@ void User::choose(const std::string& menuEntryName)
 void User::chooseFromMenu(QMenu& menu, QAction* entry)
 {
     const QPointer<QMenu> open = &menu; // what is chosen may be the end of its window
-    moveAndClick(menu, menu.actionGeometry(entry).center());
+    const QPoint place = menu.actionGeometry(entry).center();
+    moveMouse(menu, place);
+    clickAt(menu, place);
     if (open != nullptr)
         open->close(); // a disabled entry leaves it open
 }
