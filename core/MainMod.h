@@ -5,6 +5,7 @@
 
 #include "core/AirSnapshot.h"
 #include "core/CoreMessage.h"
+#include "core/LastRuns.h"
 #include "core/NumberLocale.h"
 #include "core/NumberPicture.h"
 #include "core/NumberText.h"

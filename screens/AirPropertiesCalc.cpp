@@ -27,6 +27,11 @@ void AirPropertiesCalc::Form_Load()
     RepaintForm();
 }
 
+void AirPropertiesCalc::afterResults()
+{
+    KeepLastRun(Calculator::AirProperties, {{"air", AirSnapshot::of(StatePoint, 0)}});
+}
+
 AirPropertiesTexts AirPropertiesCalc::texts() const
 {
     return {.txtTdb = txtTdb.text(),

@@ -96,6 +96,7 @@ void CoolingLoad1::showLeavingEntry()
 void CoolingLoad1::keepLeavingAir()
 {
     CoolingLeavingAir = AirSnapshot::of(StatePoint, AirVolume);
+    KeepLastRun(Calculator::Cooling, {{"entering", CoolingEnteringAir}, {"leaving", CoolingLeavingAir}});
     Frame6.setCaption("Cooling Coil Leaving Air Conditions:");
     Frame1.setCaption(""); // nothing gives these two back
     Frame2.setCaption("");

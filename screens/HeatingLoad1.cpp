@@ -79,11 +79,14 @@ void HeatingLoad1::btnInputLeavingAir_Click()
         txtTdb.setText("0");
     if (txtTwb.isEmpty())
         txtTwb.setText("0");
+    hasLeavingEntry = false;
     form<HeatingLoad2>().ShowModal();
     SolveFromW(); // a refusal is not looked at
     if (!txtTdb.isEmpty() && !txtW.isEmpty())
         HeatingLeavingAir = AirSnapshot::of(StatePoint, AirVolume);
     showLoad();
+    if (hasLeavingEntry)
+        KeepLastRun(Calculator::Heating, {{"entering", HeatingEnteringAir}, {"leaving", HeatingLeavingAir}});
 }
 
 void HeatingLoad1::showLoad()
@@ -102,6 +105,7 @@ void HeatingLoad1::showLoad()
 
 void HeatingLoad1::showLeavingEntry(Single tdb, Single w)
 {
+    hasLeavingEntry = true;
     txtTdb.setText(PlainText(tdb));
     txtW.setText(PlainText(w)); // in Metric kg/kg, where the next calculation reads g/kg
 }

@@ -36,4 +36,5 @@ private:
     Label lblAirVolume{*this, "lblAirVolume"};
     TextField txtHeatLoad{*this, "txtHeatLoad"};
     Label lblHeatLoad{*this, "lblHeatLoad"};
+    bool hasLeavingEntry = false; ///< whether the dialog was closed by its OK
 };

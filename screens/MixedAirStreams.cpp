@@ -109,6 +109,8 @@ void MixedAir::mix()
 
     SolveFromW(); // at the pressure of the last calculation; a refusal is not looked at
     keepState(MixedResultAir);
+    KeepLastRun(Calculator::MixedAir,
+                {{"outside", MixedOutsideAir}, {"return", MixedReturnAir}, {"mix", MixedResultAir}});
     Hide();
     showAnswers();
 }

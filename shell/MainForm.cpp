@@ -1,5 +1,6 @@
 #include "shell/MainForm.h"
 
+#include "chart/ChartPicture.h"
 #include "core/MainMod.h"
 #include "platform/forms/Forms.h"
 #include "platform/forms/Layout.h"
@@ -13,20 +14,13 @@
 #include "shell/About.h"
 #include "shell/Settings.h"
 #include "shell/Store.h"
-#include "shell/chart/ChartPicture.h"
 
-#include <utility>
-
-void ShowMainForm()
-{
-    form<MainForm>().keepLastAir();
-    form<MainForm>().Show();
-}
+void ShowMainForm() { form<MainForm>().Show(); }
 
 void ShowAbout() { form<About>().ShowModal(); }
 
 MainForm::MainForm()
-    : Form("MainForm", FormKind::Screen), Image1(*this, "Image1", std::make_unique<ChartPicture>())
+    : Form("MainForm", FormKind::Screen), Image1(*this, "Image1", std::make_unique<chart::ChartPicture>())
 {
     setCaption("Dunmoor");
     layOut();
@@ -123,22 +117,11 @@ void MainForm::open()
     form<Calculator>().Show();
 }
 
-void MainForm::btnAirCalc_Click()
-{
-    open<AirPropertiesCalc>();
-    isAirPropertiesOpen = true;
-}
-
+void MainForm::btnAirCalc_Click() { open<AirPropertiesCalc>(); }
 void MainForm::btnMixedAir_Click() { open<MixedAir>(); }
 void MainForm::btnCooling_Click() { open<CoolingLoad1>(); }
 void MainForm::btnHeating_Click() { open<HeatingLoad1>(); }
 void MainForm::btnHumidity_Click() { open<Humid1>(); }
-
-void MainForm::keepLastAir()
-{
-    if (std::exchange(isAirPropertiesOpen, false))
-        KeepAirProperties();
-}
 
 void MainForm::mnuExit_Click()
 {
