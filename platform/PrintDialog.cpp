@@ -25,8 +25,17 @@ std::string upperCase(const std::string& name)
 /// one model alone can do). The toolkit keeps them in its print engine under this key.
 constexpr auto printSystemOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
 
-/// Takes the page range away. The toolkit shows it whatever its options say; below a widget that is never
-/// shown it can't.
+void copyPrintSystemOptions(QPrinter& from, QPrinter& to)
+{
+    const QVariant options = from.printEngine()->property(printSystemOptions);
+    if (options.isValid()) // another version of the toolkit may not know the key
+        to.printEngine()->setProperty(printSystemOptions, options);
+}
+
+// The toolkit has no public way to what the next two functions and PropertiesWatch do. They find its widgets
+// by name, and are no-ops in a version that has other names: then its dialog appears as it is.
+
+/// Removes the page range. The toolkit shows it whatever its options say, but not below a hidden widget.
 void leaveOutPageRange(QPrintDialog& dialog)
 {
     auto* const shelf = new QWidget(&dialog);
@@ -58,7 +67,7 @@ void copySettings(Printer& current, QPrinter& device)
     device.setResolution(source.resolution());
     device.setCollateCopies(source.collateCopies());
     device.setPageOrder(source.pageOrder());
-    device.printEngine()->setProperty(printSystemOptions, source.printEngine()->property(printSystemOptions));
+    copyPrintSystemOptions(source, device);
 }
 
 /// A device of its own for the dialog, which may change it while it is open.
@@ -115,7 +124,7 @@ void keepProperties(Printer& current, QPrinter& chosen)
     chosen.setPaperSource(source.paperSource());
     if (current.deviceName() != FilePrinter) // whose colours stand on the dialog itself
         chosen.setColorMode(source.colorMode());
-    chosen.printEngine()->setProperty(printSystemOptions, source.printEngine()->property(printSystemOptions));
+    copyPrintSystemOptions(source, chosen);
 }
 
 void chooseDevice(Printer& current, const QPrinter& chosen)
@@ -139,7 +148,7 @@ void chooseSettings(Printer& current, const QPrinter& chosen)
 }
 
 /// What this dialog offers beyond the settings that every printer has.
-void chooseExtras(Printer& current, const QPrinter& chosen)
+void chooseExtras(Printer& current, QPrinter& chosen)
 {
     if (current.isPrinting())
         return;
@@ -147,8 +156,7 @@ void chooseExtras(Printer& current, const QPrinter& chosen)
     current.device().setPageMargins(chosen.pageLayout().margins(), chosen.pageLayout().units());
     current.device().setCollateCopies(chosen.collateCopies());
     current.device().setPageOrder(chosen.pageOrder());
-    current.device().printEngine()->setProperty(printSystemOptions,
-                                                chosen.printEngine()->property(printSystemOptions));
+    copyPrintSystemOptions(chosen, current.device());
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QChildEvent>
 #include <QComboBox>
 #include <QFile>
 #include <QRadioButton>
@@ -94,6 +96,36 @@ TEST_F(PrintDialogTest, OffersNeitherASelectionNorAPageRange)
             EXPECT_FALSE(child<QWidget>(dialog, range).isVisible()) << range;
         cancel(dialog);
     });
+}
+
+/// Renames what the toolkit names from now on, as another version of it could.
+class OtherNames : public QObject
+{
+public:
+    OtherNames() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* /*parent*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::ChildAdded) {
+            QObject* const child = static_cast<QChildEvent*>(event)->child();
+            connect(child, &QObject::objectNameChanged, this, [child](const QString& name) {
+                if (!name.isEmpty() && !name.startsWith("other-"))
+                    child->setObjectName("other-" + name);
+            });
+        }
+        return false;
+    }
+};
+
+TEST_F(PrintDialogTest, IsTheToolkitsPlainOneWhereItsPartsHaveOtherNames)
+{
+    const OtherNames otherVersion;
+    dialogs.answer("other-PrintDialog", [](QDialog& dialog) {
+        EXPECT_EQ(dialog.findChild<QWidget*>("gbPrintRange"), nullptr);
+        EXPECT_TRUE(child<QWidget>(dialog, "other-gbPrintRange").isVisible());
+        cancel(dialog);
+    });
+    EXPECT_FALSE(ShowPrintDialog(form<AnyForm>()));
 }
 
 TEST_F(PrintDialogTest, BelongsToTheFormThatAsks)
