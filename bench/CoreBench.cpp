@@ -2,7 +2,7 @@
 // search beside its plain form, and a floor under both.
 
 #include "core/MainMod.h"
-#include "core/PlainForms.h"
+#include "tests/core/PlainForms.h"
 #include "core/WetBulbBracket.h"
 
 #include <benchmark/benchmark.h>

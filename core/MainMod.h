@@ -1,9 +1,11 @@
 #pragma once
 
-// The whole core: the state of the calculator, the relations of moist air, the solvers, and numbers as text.
+// The state of the calculator, the relations of moist air, the solvers, and numbers as text. Mixing, loads and
+// humidification have headers of their own.
 
 #include "core/AirSnapshot.h"
 #include "core/CoreMessage.h"
+#include "core/LastRuns.h"
 #include "core/NumberLocale.h"
 #include "core/NumberPicture.h"
 #include "core/NumberText.h"

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <system_error>
 
 namespace {
@@ -109,10 +110,10 @@ bool IsTooSmall(std::string_view plain)
 {
     const std::size_t exponentAt = std::min(plain.find('e'), plain.size());
     const std::string_view mantissa = plain.substr(0, exponentAt);
-    const auto pointAt = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
-    const auto firstDigitAt = static_cast<long>(mantissa.find_first_of("123456789"));
+    const auto pointAt = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto firstDigitAt = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
 
-    long exponent = 0;
+    std::int64_t exponent = 0;
     if (exponentAt < plain.size()) {
         const std::string_view text = plain.substr(exponentAt + 1);
         const char* first = text.data() + (text.front() == '+' ? 1 : 0);
@@ -120,7 +121,7 @@ bool IsTooSmall(std::string_view plain)
         if (result.ec == std::errc::result_out_of_range)
             return text.front() == '-';
     }
-    return exponent + pointAt - firstDigitAt < 0;
+    return exponent < firstDigitAt - pointAt; // a sum with the exponent could overflow
 }
 
 bool EqualsIgnoringCase(std::string_view text, std::string_view lowerCase)

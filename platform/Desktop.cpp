@@ -11,6 +11,14 @@ std::string ApplicationFolder()
 
 void MakeCurrentDirectory(const std::string& folder) { QDir::setCurrent(QString::fromStdString(folder)); }
 
+void IgnoreRelativeFolders()
+{
+    for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"}) {
+        if (!qgetenv(name).startsWith('/'))
+            qunsetenv(name);
+    }
+}
+
 NumberCharacters UserNumberCharacters()
 {
     const QLocale locale = QLocale::system();

@@ -1,5 +1,6 @@
 #include "platform/PrintDialog.h"
 
+#include "platform/PrintServer.h"
 #include "platform/Printer.h"
 #include "platform/forms/Form.h"
 
@@ -165,6 +166,9 @@ std::optional<std::string> PrinterToGoOverTo(const std::vector<std::string>& pri
 
 bool ShowPrintDialog(const Form& owner)
 {
+    AskPrintServer();
+    if (!owner.isVisible())
+        return false; // closed meanwhile
     Printer& current = CurrentPrinter();
     const std::unique_ptr<QPrinter> device = deviceForDialog(current);
     QPrintDialog dialog(device.get(), owner.window());

@@ -1,6 +1,7 @@
 #include "platform/Printer.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QFontInfo>
 #include <QLocale>
 #include <QPainter>
@@ -40,6 +41,13 @@ void breakIntoLines(QTextLayout& layout, double width)
         line.setLineWidth(width);
     }
     layout.endLayout();
+}
+
+/// False for a folder, and for a pipe, which would be waited for.
+bool isRegularOrNew(const std::string& path)
+{
+    const QFileInfo file(QString::fromStdString(path));
+    return !path.empty() && (file.isFile() || !file.exists());
 }
 
 std::unique_ptr<Printer> currentPrinter;
@@ -204,7 +212,7 @@ bool Printer::endDocument()
 
 bool Printer::beginDocument()
 {
-    if (deviceName() == FilePrinter && port().empty())
+    if (deviceName() == FilePrinter && !isRegularOrNew(port()))
         return false;
     painter = std::make_unique<QPainter>();
     usedHeight = 0;

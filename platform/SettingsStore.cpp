@@ -1,21 +1,76 @@
 #include "platform/SettingsStore.h"
 
+#include "platform/RegularFile.h"
+
+#include <QFileInfo>
+#include <QLockFile>
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <chrono>
+#include <filesystem>
 #include <memory>
 
 namespace {
 
-std::unique_ptr<QSettings> openStore(const QString& application)
-{
 #ifdef Q_OS_WIN
-    return std::make_unique<QSettings>("HKEY_CURRENT_USER\\Software\\" + application,
-                                       QSettings::NativeFormat);
+
+constexpr auto storeFormat = QSettings::NativeFormat;
+
+QString pathOf(const std::string& application)
+{
+    return "HKEY_CURRENT_USER\\Software\\" + QString::fromStdString(application);
+}
+
+bool isStore(const QString& /*key*/) { return true; }
+bool canBeLocked(const QString& /*key*/) { return true; }
+
 #else
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return std::make_unique<QSettings>(folder + "/" + application + ".ini", QSettings::IniFormat);
+
+constexpr auto storeFormat = QSettings::IniFormat;
+
+QString pathOf(const std::string& application)
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + '/' +
+           QString::fromStdString(application) + ".ini";
+}
+
+/// True for a text file of at most 1 MB, and if there is no file yet.
+bool isStore(const QString& path)
+{
+    constexpr qint64 largest = 1'000'000;
+    std::error_code unknown;
+    if (std::filesystem::status(path.toStdString(), unknown).type() == std::filesystem::file_type::not_found)
+        return true;
+    QFile file(path);
+    if (!OpenRegularFile(file, QIODevice::ReadOnly, Links::Follow))
+        return false;
+    const QByteArray bytes = file.read(largest + 1);
+    return bytes.size() <= largest && !bytes.contains('\0');
+}
+
+/// False if something else holds the lock of the file, for which the toolkit would wait without a limit.
+bool canBeLocked(const QString& path)
+{
+    const QString name = path + ".lock";
+    for (const QString& taken : {name, name + ".rmlock"}) {
+        if (QFileInfo::exists(taken) && !QFileInfo(taken).isFile())
+            return false;
+    }
+    constexpr std::chrono::milliseconds longestWait(1000);
+    QLockFile lock(name);
+    return lock.tryLock(longestWait) || lock.error() != QLockFile::LockFailedError;
+}
+
 #endif
+
+/// Whether the store can be used. One that could not be read once is left alone until the program ends.
+bool isUsable(const QString& path)
+{
+    static QStringList leftAlone;
+    if (!leftAlone.contains(path) && !isStore(path))
+        leftAlone << path;
+    return !leftAlone.contains(path);
 }
 
 /// The key as it is spelled in the store, or as it was asked for where the store hasn't got it.
@@ -30,23 +85,35 @@ QString storedSpelling(const QSettings& store, const QString& key)
 
 } // namespace
 
+std::string UnreadableStore(const std::string& application)
+{
+    const QString path = pathOf(application);
+    return isUsable(path) ? std::string() : path.toStdString();
+}
+
 std::string GetSetting(const std::string& application, const std::string& section, const std::string& key,
                        const std::string& defaultText)
 {
-    const auto store = openStore(QString::fromStdString(application));
-    store->beginGroup(QString::fromStdString(section));
-    const QString spelling = storedSpelling(*store, QString::fromStdString(key));
-    if (!store->contains(spelling))
+    const QString path = pathOf(application);
+    if (!isUsable(path))
+        return defaultText;
+    QSettings store(path, storeFormat);
+    store.beginGroup(QString::fromStdString(section));
+    const QString spelling = storedSpelling(store, QString::fromStdString(key));
+    if (!store.contains(spelling))
         return defaultText;
     // A comma that someone wrote into the file without quotes makes the toolkit see a list.
-    return store->value(spelling).toStringList().join(',').toStdString();
+    return store.value(spelling).toStringList().join(',').toStdString();
 }
 
 void SaveSetting(const std::string& application, const std::string& section, const std::string& key,
                  const std::string& text)
 {
-    const auto store = openStore(QString::fromStdString(application));
-    store->beginGroup(QString::fromStdString(section));
-    store->setValue(storedSpelling(*store, QString::fromStdString(key)), QString::fromStdString(text));
-    store->sync();
+    const QString path = pathOf(application);
+    if (!isUsable(path) || !canBeLocked(path))
+        return;
+    QSettings store(path, storeFormat);
+    store.beginGroup(QString::fromStdString(section));
+    store.setValue(storedSpelling(store, QString::fromStdString(key)), QString::fromStdString(text));
+    store.sync();
 }

@@ -1,5 +1,7 @@
 #include "platform/TextFile.h"
 
+#include "platform/RegularFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -18,30 +20,30 @@ FileFault reasonWhyClosed(const QFileInfo& path)
 TextFile::TextFile() = default;
 TextFile::~TextFile() = default;
 
-FileFault TextFile::openForOutput(const std::string& path)
+FileFault TextFile::openForOutput(const std::string& path, Links links)
 {
     if (isOpen())
         return FileFault::AlreadyOpen;
     if (path.empty())
         return FileFault::Access;
     auto opened = std::make_unique<QFile>(QString::fromStdString(path));
-    if (!opened->open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text | QIODevice::Unbuffered)) {
-        const FileFault reason = reasonWhyClosed(QFileInfo(*opened));
+    if (!OpenRegularFile(*opened, QIODevice::WriteOnly | QIODevice::Text | QIODevice::Unbuffered, links)) {
+        const FileFault reason = reasonWhyClosed(QFileInfo(opened->fileName()));
         return reason == FileFault::FileNotFound ? FileFault::Access : reason;
     }
     file = std::move(opened);
     return FileFault::None;
 }
 
-FileFault TextFile::openForInput(const std::string& path)
+FileFault TextFile::openForInput(const std::string& path, Links links)
 {
     if (isOpen())
         return FileFault::AlreadyOpen;
     if (path.empty())
         return FileFault::Access;
     auto opened = std::make_unique<QFile>(QString::fromStdString(path));
-    if (!opened->open(QIODevice::ReadOnly | QIODevice::Text))
-        return reasonWhyClosed(QFileInfo(*opened));
+    if (!OpenRegularFile(*opened, QIODevice::ReadOnly | QIODevice::Text, links))
+        return reasonWhyClosed(QFileInfo(opened->fileName()));
     file = std::move(opened);
     return FileFault::None;
 }

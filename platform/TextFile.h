@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/RegularFile.h"
+
 #include <memory>
 #include <string>
-
-class QFile;
 
 /// Why a text file could not be opened, read or written.
 enum class FileFault
@@ -16,7 +16,7 @@ enum class FileFault
 };
 
 /// A text file that is written or read line by line, in the encoding and with the line end of the user's
-/// system.
+/// system. Only regular files can be opened.
 class TextFile
 {
 public:
@@ -24,8 +24,8 @@ public:
     ~TextFile();
 
     /// Creates the file, or empties what stands there.
-    [[nodiscard]] FileFault openForOutput(const std::string& path);
-    [[nodiscard]] FileFault openForInput(const std::string& path);
+    [[nodiscard]] FileFault openForOutput(const std::string& path, Links links = Links::Follow);
+    [[nodiscard]] FileFault openForInput(const std::string& path, Links links = Links::Follow);
     bool isOpen() const;
 
     /// Hands a line to the system at once, so that a full disk is seen with the line that finds no room.

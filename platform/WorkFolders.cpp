@@ -4,12 +4,32 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#ifndef Q_OS_WIN
+#include <unistd.h>
+#endif
+
 namespace {
 
-/// What decides is the folder itself, or, before it is made, the one that it is to be made in.
-bool mayWriteIn(const QString& folder, const QString& above)
+constexpr QFileDevice::Permissions writableByOthers = QFileDevice::WriteGroup | QFileDevice::WriteOther;
+
+/// True if it belongs to the user and nobody else may write to it.
+bool isPrivate(const QFileInfo& path)
 {
-    return QFileInfo(QFileInfo::exists(folder) ? folder : above).isWritable();
+#ifdef Q_OS_WIN
+    return path.exists();
+#else
+    return path.exists() && path.ownerId() == geteuid() && !(path.permissions() & writableByOthers);
+#endif
+}
+
+/// Whether the folder can be used, or made if it is missing. Where others may write, they could plant a link
+/// or a pipe under the name of a report.
+bool isUsable(const QFileInfo& folder, const QFileInfo& above)
+{
+    const bool isThere = folder.exists() || folder.isSymLink();
+    if (!isPrivate(above) || (isThere && !isPrivate(folder)))
+        return false;
+    return (isThere ? folder : above).isWritable();
 }
 
 } // namespace
@@ -18,11 +38,18 @@ std::string WorkFolder(const std::string& applicationFolder, const std::string& 
 {
     const QString application = QString::fromStdString(applicationFolder);
     const QString below = '/' + QString::fromStdString(name);
-    if (mayWriteIn(application + below, application))
+    if (isUsable(QFileInfo(application + below), QFileInfo(application)))
         return (application + below).toStdString();
     return (QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + below).toStdString();
 }
 
 bool FolderExists(const std::string& path) { return QFileInfo(QString::fromStdString(path)).isDir(); }
 
-bool MakeFolder(const std::string& path) { return QDir().mkpath(QString::fromStdString(path)); }
+bool MakeFolder(const std::string& path)
+{
+    const QString folder = QString::fromStdString(path);
+    if (!QDir().mkpath(folder))
+        return false;
+    const QFileDevice::Permissions given = QFileInfo(folder).permissions();
+    return !(given & writableByOthers) || QFile::setPermissions(folder, given & ~writableByOthers);
+}

@@ -5,28 +5,34 @@
 
 namespace {
 
-void WriteHumidityRatio(ReportWriter& report, const AirSnapshot& air)
-{
-    if (IsMetric()) {
-        const Single gramsPerKilogram = RoundToSingle(air.W * 1000.0);
-        report.labelValueAndUnit("Humidity Ratio (W) = ", FormatNumber(gramsPerKilogram, "0.0###"),
-                                 UnitLabel(HumidityUnit));
-    } else {
-        report.labelValueAndUnit("Humidity Ratio (grains) = ", FormatNumber(air.Grains, "###.#"), " grains ");
-        report.labelValueAndUnit("Humidity Ratio (W) = ", FormatNumber(air.W, "0.#######"),
-                                 UnitLabel(HumidityUnit));
-    }
-}
+TaggedNumber GramsPerKilogram(const TaggedNumber& W) { return RoundToSingle(W.asDouble() * 1000.0); }
 
 } // namespace
 
-void WriteAirBlock(ReportWriter& report, const AirSnapshot& air)
+void WriteAirBlock(ReportWriter& report, const AirBlock& air)
 {
     report.labelValueAndUnit("Dry Bulb Temp = ", FormatNumber(air.Tdb, "##0.0"), UnitLabel(TempUnit));
     report.labelValueAndUnit("Wet Bulb Temp = ", FormatNumber(air.Twb, "##0.0"), UnitLabel(TempUnit));
     report.labelValueAndUnit("Dew Point Temp = ", FormatNumber(air.td, "##0.0"), UnitLabel(TempUnit));
-    report.labelAndValue("Relative Humidity = ", FormatNumber(air.RH, "0.0%"));
-    WriteHumidityRatio(report, air);
+    report.labelAndValue("Relative Humidity = ", FormatNumber(air.fractionOf(air.RH), "0.0%"));
+    if (!IsMetric())
+        report.labelValueAndUnit("Humidity Ratio (grains) = ", FormatNumber(air.Grains, "###.#"), " grains ");
+    report.labelValueAndUnit(
+        "Humidity Ratio (W) = ", FormatNumber(air.shownW(air.W), IsMetric() ? "0.0###" : "0.#######"),
+        UnitLabel(HumidityUnit));
     report.labelValueAndUnit("Specific Volume = ", FormatNumber(air.SpVol, "##0.###"), UnitLabel(SpVolUnit));
     report.labelValueAndUnit("Enthalpy = ", FormatNumber(air.h, "#0.##"), UnitLabel(EnthalpyUnit));
+}
+
+void WriteAirBlock(ReportWriter& report, const AirSnapshot& air)
+{
+    WriteAirBlock(report, AirBlock{.Tdb = air.Tdb,
+                                   .Twb = air.Twb,
+                                   .td = air.td,
+                                   .RH = air.RH,
+                                   .W = air.W,
+                                   .Grains = air.Grains,
+                                   .SpVol = air.SpVol,
+                                   .h = air.h,
+                                   .shownW = IsMetric() ? GramsPerKilogram : AsItIs});
 }

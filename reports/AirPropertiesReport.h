@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reports/AirBlock.h"
 #include "reports/ReportWriter.h"
 
 #include <string>
@@ -19,17 +20,15 @@ struct AirPropertiesTexts
     std::string txth;
 };
 
-/// How the relative humidity is read and divided by 100: printing does it in single, saving in double, which
-/// can only differ at the very edge of a rounding.
-enum class PercentReading
-{
-    InSingle,
-    InDouble,
-};
+// Intentional: printing divides txtRH by 100 in single, saving in double. Only a value at the very edge of a
+// rounding differs.
+TaggedNumber PrintedFraction(const TaggedNumber& txtRH);
+TaggedNumber SavedFraction(const TaggedNumber& txtRH);
 
 /// Writes the field texts, each through a number picture. Only txtRH has to be a number.
 /// @throws RunTimeError type mismatch, overflow, from txtRH; the lines before it are written
-void WriteAirPropertiesReport(ReportWriter& report, const AirPropertiesTexts& fields, PercentReading reading);
+void WriteAirPropertiesReport(ReportWriter& report, const AirPropertiesTexts& fields,
+                              AirBlock::Conversion fractionOf);
 
 /// The calculator's two commands (see PrintFrame.h, SaveFrame.h).
 void PrintAirProperties(const Form& owner, const AirPropertiesTexts& fields);

@@ -11,7 +11,7 @@ namespace {
 
 void WriteTemporaryFile(const std::string& path, const WriteReport& writeReport)
 {
-    ReportFile.openForOutput(path);
+    ReportFile.openForOutput(path, Links::Refuse);
     ReportWriter report([](const std::string& line) { ReportFile.writeLine(line); });
     writeReport(report);
     ReportFile.close();
@@ -19,7 +19,7 @@ void WriteTemporaryFile(const std::string& path, const WriteReport& writeReport)
 
 void PrintFile(const std::string& path)
 {
-    ReportFile.openForInput(path);
+    ReportFile.openForInput(path, Links::Refuse);
     while (!ReportFile.atEnd()) {
         if (!CurrentPrinter().printLine(ReportFile.readLine()))
             Raise(ErrorNumber::PathFileAccess);

@@ -22,8 +22,16 @@ void RaiseUnlessNone(FileFault fault)
 
 } // namespace
 
-void NumberedFile::openForOutput(const std::string& path) { RaiseUnlessNone(file.openForOutput(path)); }
-void NumberedFile::openForInput(const std::string& path) { RaiseUnlessNone(file.openForInput(path)); }
+void NumberedFile::openForOutput(const std::string& path, Links links)
+{
+    RaiseUnlessNone(file.openForOutput(path, links));
+}
+
+void NumberedFile::openForInput(const std::string& path, Links links)
+{
+    RaiseUnlessNone(file.openForInput(path, links));
+}
+
 void NumberedFile::writeLine(const std::string& line) { RaiseUnlessNone(file.writeLine(line)); }
 
 std::string NumberedFile::readLine()

@@ -11,10 +11,10 @@ class NumberedFile
 public:
     /// Creates the file, or empties what stands there.
     /// @throws RunTimeError file already open, path not found, path/file access (an empty name, too)
-    void openForOutput(const std::string& path);
+    void openForOutput(const std::string& path, Links links = Links::Follow);
 
     /// @throws RunTimeError as openForOutput, and file not found
-    void openForInput(const std::string& path);
+    void openForInput(const std::string& path, Links links = Links::Follow);
 
     /// @throws RunTimeError path/file access, on a full disk for one; the file stays open
     void writeLine(const std::string& line);

@@ -1,6 +1,45 @@
 #include "reports/ReportWriter.h"
 
-#include "reports/LineForms.h"
+#include <algorithm>
+
+namespace {
+
+constexpr std::size_t ZoneWidth = 14;
+constexpr std::size_t DateColumn = 40;
+constexpr std::size_t RuleLength = 37;
+constexpr std::size_t TextColumn = 2;
+constexpr std::size_t FarTextColumn = 4;
+
+bool StartsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
+
+/// One line, built from left to right. A character counts as one column, however many bytes it has in UTF-8.
+class Line
+{
+public:
+    explicit Line(std::size_t firstColumn) : text_(firstColumn - 1, ' '), column_(firstColumn) {}
+
+    Line& put(std::string_view text)
+    {
+        text_ += text;
+        column_ += static_cast<std::size_t>(std::count_if(text.begin(), text.end(), StartsCharacter));
+        return *this;
+    }
+
+    /// Pads to the first print zone beyond the current column.
+    Line& PrintZone()
+    {
+        const std::size_t zonesBegun = (column_ - 1) / ZoneWidth + 1;
+        return put(std::string(zonesBegun * ZoneWidth + 1 - column_, ' '));
+    }
+
+    const std::string& text() const { return text_; }
+
+private:
+    std::string text_;
+    std::size_t column_;
+};
+
+} // namespace
 
 void ReportWriter::blankLines(int count)
 {
@@ -8,26 +47,26 @@ void ReportWriter::blankLines(int count)
         write({});
 }
 
-void ReportWriter::dateLine() { write(DateLine(today())); }
-void ReportWriter::heading(std::string_view text) { write(Heading(text)); }
-void ReportWriter::rule() { write(Rule()); }
+void ReportWriter::dateLine() { write(Line(DateColumn).put(today()).text()); }
+void ReportWriter::heading(std::string_view text) { write(Line(TextColumn).put(text).text()); }
+void ReportWriter::rule() { heading(std::string(RuleLength, '-')); }
 
 void ReportWriter::labelAndValue(std::string_view label, std::string_view value)
 {
-    write(LabelAndValue(label, value));
+    write(Line(TextColumn).put(label).PrintZone().put(value).text());
 }
 
 void ReportWriter::labelValueAndUnit(std::string_view label, std::string_view value, std::string_view unit)
 {
-    write(LabelValueAndUnit(label, value, unit));
+    write(Line(TextColumn).put(label).PrintZone().put(value).PrintZone().put(unit).text());
 }
 
 void ReportWriter::valueAndUnit(std::string_view value, std::string_view unit)
 {
-    write(ValueAndUnit(value, unit));
+    write(Line(TextColumn).put(value).PrintZone().put(unit).text());
 }
 
-void ReportWriter::column4Line(std::string_view value) { write(Column4Line(value)); }
+void ReportWriter::column4Line(std::string_view text) { write(Line(FarTextColumn).put(text).text()); }
 void ReportWriter::column4DateLine() { column4Line(today()); }
 
 void ReportWriter::emptyColumn4Lines(int count)

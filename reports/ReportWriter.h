@@ -6,8 +6,9 @@
 #include <string>
 #include <string_view>
 
-/// Writes a report line by line, in the forms that reports are made of (see LineForms.h). A line goes out
-/// whole or, where its values fail, not at all.
+/// Writes a report line by line, in the forms that all reports consist of. The first column is 1. The print
+/// zones begin at the columns 1, 15, 29, 43, 57 and on: every 14 columns. Labels bring their " = " along,
+/// units their leading blank.
 class ReportWriter
 {
 public:
@@ -20,14 +21,20 @@ public:
     {}
 
     void blankLines(int count);
-    /// Today, read anew for each such line.
+    /// Today's date from column 40 on, read again for each such line.
     void dateLine();
+    /// A text from column 2 on.
     void heading(std::string_view text);
+    /// 37 hyphens under a heading.
     void rule();
+    /// A label from column 2 on, the value and the unit each in the next print zone. The zone of an empty
+    /// value stays empty.
     void labelAndValue(std::string_view label, std::string_view value);
     void labelValueAndUnit(std::string_view label, std::string_view value, std::string_view unit);
+    /// A value from column 2 on, its unit in the next print zone.
     void valueAndUnit(std::string_view value, std::string_view unit);
-    void column4Line(std::string_view value);
+    /// A text from column 4 on. An empty one leaves its padding as trailing blanks.
+    void column4Line(std::string_view text);
     void column4DateLine();
     void emptyColumn4Lines(int count);
 

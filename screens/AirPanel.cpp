@@ -5,8 +5,6 @@
 #include "core/NumberText.h"
 #include "screens/Shell.h"
 
-#include <QWidget>
-
 AirPanel::AirPanel(const std::string& name, const PanelRules& panelRules)
     : Form(name, FormKind::Screen), rules(panelRules)
 {
@@ -37,13 +35,14 @@ void AirPanel::connectHandlers()
     txth.onKeyPress([this](int& key) { txth_KeyPress(key); });
     txtSpVol.onKeyPress([this](int& key) { txtSpVol_KeyPress(key); });
     btnCALCULATE.onClick([this] { btnCALCULATE_Click(); });
+    bind(PanelButton::btnCALCULATE, btnCALCULATE);
 }
 
-void AirPanel::setEnabled(const ButtonNames& buttons, bool enabled)
+void AirPanel::setEnabled(const PanelButtons& named, bool enabled)
 {
-    for (const std::string_view button : buttons) {
-        if (!button.empty())
-            control(button)->setEnabled(enabled);
+    for (const PanelButton name : named) {
+        if (name != PanelButton::None)
+            ownButtons.at(name)->setEnabled(enabled);
     }
 }
 

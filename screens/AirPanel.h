@@ -4,11 +4,13 @@
 #include "platform/forms/Form.h"
 #include "platform/forms/Frame.h"
 #include "platform/forms/Label.h"
+#include "platform/forms/Layout.h"
 #include "platform/forms/Menu.h"
 #include "platform/forms/TextField.h"
 #include "screens/PanelRules.h"
 
 #include <initializer_list>
+#include <map>
 
 /// The air-state panel that the calculators share: a dry bulb, the pressure, one of five humidity items, and
 /// the button that solves the whole state and writes it back into the same fields.
@@ -30,6 +32,9 @@ protected:
     virtual void mnuPrintDialog_Click() = 0;
     virtual void mnuSave_Click() = 0;
 
+    /// Says which of the form's buttons the rules mean by a name.
+    void bind(PanelButton name, Button& button) { ownButtons[name] = &button; }
+
     /// Puts the menus on the bar, with a form's own menu before the help.
     void buildMenus(Menu* ownMenu = nullptr);
 
@@ -38,7 +43,7 @@ protected:
     /// Lays the buttons out in Frame5, from the top.
     void layOutActions(std::initializer_list<Button*> buttons);
     /// Lays out the panel's frames, and a further one under the actions, if there is any.
-    void layOutFrames(QWidget& container, Frame* underActions = nullptr);
+    void layOutFrames(Grid& grid, Frame* underActions = nullptr);
 
     /// Sets all captions of the unit system in force, shows the pressure and puts the warnings back.
     void RepaintForm();
@@ -137,5 +142,7 @@ private:
     void solveRelativeHumidityItem();
     void solveHumidityRatioItem();
     void solveGrainsItem();
-    void setEnabled(const ButtonNames& buttons, bool enabled);
+    void setEnabled(const PanelButtons& named, bool enabled);
+
+    std::map<PanelButton, Button*> ownButtons;
 };

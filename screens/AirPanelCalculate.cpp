@@ -6,8 +6,6 @@
 #include "platform/forms/MsgBox.h"
 #include "screens/AirPanel.h"
 
-#include <QWidget>
-
 namespace {
 
 constexpr Single lowestTdb = -40.0F;
@@ -65,8 +63,8 @@ void AirPanel::finishCalculation()
 {
     setEnabled(rules.offAfterwards, false);
     setEnabled(rules.onAfterwards, true);
-    if (!rules.focusAfterwards.empty())
-        control(rules.focusAfterwards)->setFocus();
+    if (rules.focusAfterwards != PanelButton::None)
+        ownButtons.at(rules.focusAfterwards)->takeFocus();
 }
 
 void AirPanel::showResults()

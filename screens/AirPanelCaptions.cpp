@@ -5,10 +5,6 @@
 #include "screens/AirPanel.h"
 #include "screens/Rows.h"
 
-#include <QGridLayout>
-#include <QVBoxLayout>
-#include <QWidget>
-
 void AirPanel::RepaintForm()
 {
     const bool isMetric = IsMetric();
@@ -62,33 +58,32 @@ void AirPanel::placeScreen()
 
 void AirPanel::layOutActions(std::initializer_list<Button*> buttons)
 {
-    auto* const actions = new QVBoxLayout(Frame5.widget());
+    auto* const actions = new Column(Frame5);
     actions->setContentsMargins(14, 14, 14, 14);
     actions->setSpacing(12);
     for (Button* button : buttons) {
-        button->widget()->setMinimumHeight(button->widget()->fontMetrics().height() * 2);
-        actions->addWidget(button->widget());
+        setLeastHeight(*button, heightOfLines(*button, 2));
+        actions->add(*button);
     }
     actions->addStretch();
 }
 
-void AirPanel::layOutFrames(QWidget& container, Frame* underActions)
+void AirPanel::layOutFrames(Grid& grid, Frame* underActions)
 {
-    auto* const side = new QVBoxLayout;
+    auto* const side = new Column;
     side->setSpacing(14);
-    side->addWidget(Frame5.widget(), 1);
+    side->add(Frame5, 1);
     if (underActions != nullptr)
-        side->addWidget(underActions->widget());
+        side->add(*underActions);
 
-    auto* const grid = new QGridLayout(&container);
-    grid->setContentsMargins(16, 16, 16, 16);
-    grid->setSpacing(14);
-    grid->addWidget(Frame2.widget(), 0, 0);
-    grid->addWidget(Frame1.widget(), 1, 0);
-    grid->addWidget(Frame3.widget(), 2, 0);
-    grid->addLayout(side, 0, 1, 4, 1);
-    grid->setColumnStretch(0, 1);
-    grid->setRowStretch(3, 1);
+    grid.setContentsMargins(16, 16, 16, 16);
+    grid.setSpacing(14);
+    grid.add(Frame2, 0, 0);
+    grid.add(Frame1, 1, 0);
+    grid.add(Frame3, 2, 0);
+    grid.addLayout(side, 0, 1, 4, 1);
+    grid.setColumnStretch(0, 1);
+    grid.setRowStretch(3, 1);
 }
 
 void AirPanel::nameFields()

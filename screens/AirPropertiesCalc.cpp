@@ -3,9 +3,6 @@
 #include "core/MainMod.h"
 #include "platform/Desktop.h"
 
-#include <QVBoxLayout>
-#include <QWidget>
-
 AirPropertiesCalc::AirPropertiesCalc() : AirPanel("AirPropertiesCalc", airPropertiesCalc)
 {
     setCaption("Air Properties Calculator");
@@ -16,9 +13,9 @@ AirPropertiesCalc::AirPropertiesCalc() : AirPanel("AirPropertiesCalc", airProper
 void AirPropertiesCalc::layOut()
 {
     layOutActions({&btnCALCULATE});
-    layOutFrames(*Frame4.widget());
-    auto* const whole = new QVBoxLayout(area());
-    whole->addWidget(Frame4.widget());
+    layOutFrames(*new Grid(Frame4));
+    auto* const whole = new Column(*this);
+    whole->add(Frame4);
 }
 
 void AirPropertiesCalc::Form_Load()
@@ -28,6 +25,11 @@ void AirPropertiesCalc::Form_Load()
     ClearStatePoint();
     btnCALCULATE.disable();
     RepaintForm();
+}
+
+void AirPropertiesCalc::afterResults()
+{
+    KeepLastRun(Calculator::AirProperties, {{"air", AirSnapshot::of(StatePoint, 0)}});
 }
 
 AirPropertiesTexts AirPropertiesCalc::texts() const

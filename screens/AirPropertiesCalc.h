@@ -11,6 +11,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void afterResults() override;
 
 private:
     void layOut();

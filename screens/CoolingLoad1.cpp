@@ -9,8 +9,6 @@
 #include "screens/Rows.h"
 #include "screens/cfmForm.h"
 
-#include <QWidget>
-
 CoolingLoad1::CoolingLoad1() : AirPanel("CoolingLoad1", coolingLoad1)
 {
     setCaption("Cooling Load Calculation (Adiabatic)");
@@ -21,16 +19,19 @@ CoolingLoad1::CoolingLoad1() : AirPanel("CoolingLoad1", coolingLoad1)
     btnSaveEA.onClick([this] { btnSaveEA_Click(); });
     btnSetLA.onClick([this] { btnSetLA_Click(); });
     btnCalcLoad.onClick([this] { btnCalcLoad_Click(); });
+    bind(PanelButton::btnSaveEA, btnSaveEA);
+    bind(PanelButton::btnSetLA, btnSetLA);
+    bind(PanelButton::btnCalcLoad, btnCalcLoad);
 }
 
 void CoolingLoad1::layOut()
 {
     for (Frame* emphasised : {&Frame6, &Frame2, &Frame1})
         emphasised->setBold();
-    auto* const panel = new QWidget(area());
+    auto* const panel = new Grid;
     layOutActions({&btnCALCULATE, &btnSaveEA, &btnSetLA, &btnCalcLoad});
     layOutFrames(*panel);
-    layOutBelowBanner(*area(), Frame6, *panel);
+    layOutBelowBanner(*this, Frame6, *panel);
 }
 
 // The state isn't cleared: this screen opens on whatever the last one left.
@@ -95,6 +96,7 @@ void CoolingLoad1::showLeavingEntry()
 void CoolingLoad1::keepLeavingAir()
 {
     CoolingLeavingAir = AirSnapshot::of(StatePoint, AirVolume);
+    KeepLastRun(Calculator::Cooling, {{"entering", CoolingEnteringAir}, {"leaving", CoolingLeavingAir}});
     Frame6.setCaption("Cooling Coil Leaving Air Conditions:");
     Frame1.setCaption(""); // nothing gives these two back
     Frame2.setCaption("");

@@ -4,10 +4,6 @@
 #include "core/MainMod.h"
 #include "screens/Rows.h"
 
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QWidget>
-
 CoolingLoad2::CoolingLoad2() : Form("CoolingLoad2", FormKind::Dialog)
 {
     setCaption("Cooling Leaving Air Temp");
@@ -21,20 +17,20 @@ CoolingLoad2::CoolingLoad2() : Form("CoolingLoad2", FormKind::Dialog)
 void CoolingLoad2::layOut()
 {
     Label1.setWrapped();
-    Label1.widget()->setMinimumHeight(Label1.widget()->fontMetrics().height() * 2);
-    auto* const grid = new QGridLayout(area());
+    setLeastHeight(Label1, heightOfLines(Label1, 2));
+    auto* const grid = new Grid(*this);
     grid->setContentsMargins(20, 20, 20, 20);
     grid->setVerticalSpacing(12);
     grid->setHorizontalSpacing(12);
-    grid->addWidget(Label1.widget(), 0, 0, 1, 3);
-    grid->addWidget(Label2.widget(), 1, 0);
-    grid->addWidget(txtLATdb.widget(), 1, 1);
-    grid->addWidget(Label3.widget(), 1, 2);
-    grid->addWidget(Label4.widget(), 2, 0);
-    grid->addWidget(txtLATwb.widget(), 2, 1);
-    grid->addWidget(Label5.widget(), 2, 2);
-    grid->setColumnMinimumWidth(1, Label1.widget()->fontMetrics().averageCharWidth() * 16);
-    grid->setColumnMinimumWidth(2, Label1.widget()->fontMetrics().averageCharWidth() * 20);
+    grid->add(Label1, 0, 0, 1, 3);
+    grid->add(Label2, 1, 0);
+    grid->add(txtLATdb, 1, 1);
+    grid->add(Label3, 1, 2);
+    grid->add(Label4, 2, 0);
+    grid->add(txtLATwb, 2, 1);
+    grid->add(Label5, 2, 2);
+    grid->setColumnMinimumWidth(1, widthOfCharacters(Label1, 16));
+    grid->setColumnMinimumWidth(2, widthOfCharacters(Label1, 20));
     grid->setRowMinimumHeight(3, 8);
     grid->addLayout(buttonRow({}, {&btnOK, &btnCancel}), 4, 0, 1, 3);
     txtLATdb.alignRight();

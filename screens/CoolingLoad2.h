@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Single.h"
 #include "platform/forms/Button.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/Label.h"
@@ -26,8 +27,8 @@ private:
     void btnCancel_Click();
 
     void refuse(const char* message);
-    void acceptDry(float dryBulb);
-    void acceptWet(float dryBulb, float wetBulb, float (*toAbsolute)(float));
+    void acceptDry(Single dryBulb);
+    void acceptWet(Single dryBulb, Single wetBulb, Single (*toAbsolute)(Single));
 
     Label Label1{*this, "Label1",
                  "Enter the desired Cooling Leaving Air Temperature, then Enter or Tab key:"};

@@ -5,9 +5,6 @@
 #include "screens/CoolingLoad1.h"
 #include "screens/Rows.h"
 
-#include <QGridLayout>
-#include <QWidget>
-
 CoolingLoad3::CoolingLoad3() : Form("CoolingLoad3", FormKind::Dialog)
 {
     setCaption("Dunmoor  -  Cooling Load Calculation");
@@ -17,7 +14,7 @@ CoolingLoad3::CoolingLoad3() : Form("CoolingLoad3", FormKind::Dialog)
 
 void CoolingLoad3::layOut()
 {
-    enum Column
+    enum Place
     {
         Words,
         Sign,
@@ -25,42 +22,32 @@ void CoolingLoad3::layOut()
         Unit,
         Factor
     };
-    auto* const grid = new QGridLayout(area());
+    auto* const grid = new Grid(*this);
     grid->setContentsMargins(24, 24, 24, 20);
     grid->setVerticalSpacing(12);
     grid->setHorizontalSpacing(12);
-    const auto addRow = [grid](int row, Label& before, Column column, TextField& field, Label& unit) {
+    const auto addRow = [grid](int row, Label& before, Place column, TextField& field, Label& unit) {
         before.alignRight();
         field.alignRight();
         before.describe(field);
-        grid->addWidget(before.widget(), row, column);
-        grid->addWidget(field.widget(), row, Value);
-        grid->addWidget(unit.widget(), row, Unit);
+        grid->add(before, row, column);
+        grid->add(field, row, Value);
+        grid->add(unit, row, Unit);
     };
     addRow(0, Label2, Words, txtcfm1, lblcfm1);
     grid->setRowMinimumHeight(1, 10);
     addRow(2, Label1, Words, txtBTU[1], lblBTU[1]);
-    grid->addWidget(Label3.widget(), 2, Factor);
+    grid->add(Label3, 2, Factor);
     addRow(3, Label4, Sign, txtBTU[2], lblBTU[2]);
-    grid->addWidget(Line1.widget(), 4, Sign, 1, Unit - Sign + 1);
+    grid->add(Line1, 4, Sign, 1, Unit - Sign + 1);
     addRow(5, Label5, Sign, txtBTU[0], lblBTU[0]);
     grid->setRowMinimumHeight(6, 10);
-    grid->addWidget(Command1.widget(), 7, Value);
-    grid->setColumnMinimumWidth(Value, Label1.widget()->fontMetrics().averageCharWidth() * 18);
+    grid->add(Command1, 7, Value);
+    grid->setColumnMinimumWidth(Value, widthOfCharacters(Label1, 18));
     for (Label* sign : {&Label4, &Label5})
         sign->setPointSize(12);
+    // Down the sum, not along the indexes of its fields.
     setTabOrder({&txtcfm1, &txtBTU[1], &txtBTU[2], &txtBTU.front(), &Command1});
-}
-
-/// Tab goes down the sum, not along the indexes of its fields.
-void CoolingLoad3::setTabOrder(std::initializer_list<Control*> fromTheTop)
-{
-    const Control* before = nullptr;
-    for (const Control* next : fromTheTop) {
-        if (before != nullptr)
-            QWidget::setTabOrder(before->widget(), next->widget());
-        before = next;
-    }
 }
 
 void CoolingLoad3::Form_Load()

@@ -26,7 +26,6 @@ protected:
 
 private:
     void layOut();
-    static void setTabOrder(std::initializer_list<Control*> fromTheTop);
     void RepaintCooling3();
     void Command1_Click();
 

@@ -8,8 +8,6 @@
 #include "screens/Rows.h"
 #include "screens/cfmForm.h"
 
-#include <QWidget>
-
 HeatingLoad1::HeatingLoad1() : AirPanel("HeatingLoad1", heatingLoad1)
 {
     setCaption("Heating Coil Load Calculation");
@@ -17,17 +15,19 @@ HeatingLoad1::HeatingLoad1() : AirPanel("HeatingLoad1", heatingLoad1)
     buildMenus();
     btnSaveEnteringAir.onClick([this] { btnSaveEnteringAir_Click(); });
     btnInputLeavingAir.onClick([this] { btnInputLeavingAir_Click(); });
+    bind(PanelButton::btnSaveEnteringAir, btnSaveEnteringAir);
+    bind(PanelButton::btnInputLeavingAir, btnInputLeavingAir);
     txtAirVolume.onChange([this] { txtAirVolume_Change(); });
     txtHeatLoad.onKeyPress([this](int& key) { txtHeatLoad_KeyPress(key); });
 }
 
 void HeatingLoad1::layOut()
 {
-    auto* const panel = new QWidget(area());
+    auto* const panel = new Grid;
     layOutActions({&btnCALCULATE, &btnSaveEnteringAir, &btnInputLeavingAir});
     layOutPairs(Frame4, {{txtAirVolume, lblAirVolume}, {txtHeatLoad, lblHeatLoad}});
     layOutFrames(*panel, &Frame4);
-    layOutBelowBanner(*area(), Frame6, *panel);
+    layOutBelowBanner(*this, Frame6, *panel);
     for (TextField* field : {&txtAirVolume, &txtHeatLoad}) {
         field->setBackColour(Colours::LightCyan);
         field->setForeColour(Colours::Black);
@@ -79,11 +79,14 @@ void HeatingLoad1::btnInputLeavingAir_Click()
         txtTdb.setText("0");
     if (txtTwb.isEmpty())
         txtTwb.setText("0");
+    hasLeavingEntry = false;
     form<HeatingLoad2>().ShowModal();
     SolveFromW(); // a refusal is not looked at
     if (!txtTdb.isEmpty() && !txtW.isEmpty())
         HeatingLeavingAir = AirSnapshot::of(StatePoint, AirVolume);
     showLoad();
+    if (hasLeavingEntry)
+        KeepLastRun(Calculator::Heating, {{"entering", HeatingEnteringAir}, {"leaving", HeatingLeavingAir}});
 }
 
 void HeatingLoad1::showLoad()
@@ -102,6 +105,7 @@ void HeatingLoad1::showLoad()
 
 void HeatingLoad1::showLeavingEntry(Single tdb, Single w)
 {
+    hasLeavingEntry = true;
     txtTdb.setText(PlainText(tdb));
     txtW.setText(PlainText(w)); // in Metric kg/kg, where the next calculation reads g/kg
 }

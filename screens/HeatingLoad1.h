@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Single.h"
 #include "screens/AirPanel.h"
 
 /// The heating coil calculator: entering air with its volume, then the temperature that the air shall leave
@@ -10,7 +11,7 @@ public:
     HeatingLoad1();
 
     /// What the leaving air dialog writes into the panel.
-    void showLeavingEntry(float tdb, float w);
+    void showLeavingEntry(Single tdb, Single w);
 
 protected:
     void Form_Load() override;
@@ -35,4 +36,5 @@ private:
     Label lblAirVolume{*this, "lblAirVolume"};
     TextField txtHeatLoad{*this, "txtHeatLoad"};
     Label lblHeatLoad{*this, "lblHeatLoad"};
+    bool hasLeavingEntry = false; ///< whether the dialog was closed by its OK
 };

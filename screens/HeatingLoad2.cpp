@@ -6,9 +6,6 @@
 #include "screens/HeatingLoad1.h"
 #include "screens/Rows.h"
 
-#include <QGridLayout>
-#include <QWidget>
-
 HeatingLoad2::HeatingLoad2() : Form("HeatingLoad2", FormKind::Dialog)
 {
     setCaption("Leaving Air Temp");
@@ -18,17 +15,17 @@ HeatingLoad2::HeatingLoad2() : Form("HeatingLoad2", FormKind::Dialog)
 
 void HeatingLoad2::layOut()
 {
-    auto* const grid = new QGridLayout(area());
+    auto* const grid = new Grid(*this);
     grid->setContentsMargins(24, 24, 24, 20);
     grid->setVerticalSpacing(10);
     grid->setHorizontalSpacing(12);
-    grid->addWidget(Label1.widget(), 0, 0, 1, 3);
-    grid->addWidget(Label3.widget(), 1, 0);
-    grid->addWidget(txtHeatLAT.widget(), 1, 1);
-    grid->addWidget(Label2.widget(), 1, 2);
-    grid->setColumnMinimumWidth(1, Label1.widget()->fontMetrics().averageCharWidth() * 14);
+    grid->add(Label1, 0, 0, 1, 3);
+    grid->add(Label3, 1, 0);
+    grid->add(txtHeatLAT, 1, 1);
+    grid->add(Label2, 1, 2);
+    grid->setColumnMinimumWidth(1, widthOfCharacters(Label1, 14));
     grid->setRowMinimumHeight(2, 12);
-    grid->addWidget(btnOK.widget(), 3, 2);
+    grid->add(btnOK, 3, 2);
     txtHeatLAT.alignRight();
     txtHeatLAT.setBackColour(Colours::LightYellow);
     txtHeatLAT.setForeColour(Colours::Black);

@@ -7,22 +7,21 @@
 #include "screens/Shell.h"
 #include "screens/humid2.h"
 
-#include <QWidget>
-
 Humid1::Humid1() : AirPanel("Humid1", humid1)
 {
     setCaption("Humidifier Calculation");
     layOut();
     buildMenus();
     btnHumidityDesired.onClick([this] { btnHumidityDesired_Click(); });
+    bind(PanelButton::btnHumidityDesired, btnHumidityDesired);
 }
 
 void Humid1::layOut()
 {
-    auto* const panel = new QWidget(area());
+    auto* const panel = new Grid;
     layOutActions({&btnCALCULATE, &btnHumidityDesired});
     layOutFrames(*panel);
-    layOutBelowBanner(*area(), Frame6, *panel);
+    layOutBelowBanner(*this, Frame6, *panel);
 }
 
 void Humid1::Form_Load()

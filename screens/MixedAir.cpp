@@ -15,6 +15,9 @@ MixedAir::MixedAir() : AirPanel("MixedAir", mixedAir)
     btnSaveOSA.onClick([this] { btnSaveOSA_Click(); });
     btnRA.onClick([this] { btnRA_Click(); });
     btnMixedAir.onClick([this] { btnMixedAir_Click(); });
+    bind(PanelButton::btnSaveOSA, btnSaveOSA);
+    bind(PanelButton::btnRA, btnRA);
+    bind(PanelButton::btnMixedAir, btnMixedAir);
     txtcfm1.onChange([this] { txtcfm1_Change(); });
     txtCFM.onKeyPress([this](int& key) { txtCFM_KeyPress(key); });
 }
@@ -23,7 +26,7 @@ void MixedAir::layOut()
 {
     layOutActions({&btnCALCULATE, &btnSaveOSA, &btnRA, &btnMixedAir});
     layOutPairs(Frame4, {{txtcfm1, lblcfm1}, {txtcfm2, lblcfm2}, {txtCFM, lblcfm3}});
-    layOutFrames(*area(), &Frame4);
+    layOutFrames(*new Grid(*this), &Frame4);
     Frame4.hide();
 }
 

@@ -1,6 +1,7 @@
 // The mixed air calculator's streams: saving them with their volumes, mixing them, reviewing them.
 
 #include "core/MainMod.h"
+#include "core/Mixing.h"
 #include "platform/forms/Forms.h"
 #include "platform/forms/MsgBox.h"
 #include "screens/Answers1.h"
@@ -86,8 +87,7 @@ void MixedAir::btnMixedAir_Click()
     }
 }
 
-/// Adiabatic mixing: humidity ratio and enthalpy are the means of the streams by their mass of dry air.
-/// The volumes are added as they stand.
+// The volumes are added as they are; the mixed volume is not derived from the mixed density.
 void MixedAir::mix()
 {
     const AirSnapshot& outside = MixedOutsideAir;
@@ -97,20 +97,20 @@ void MixedAir::mix()
         MsgBox("Air Volumes Must First Be Entered Before Attempting to calculate mixed air!");
         return;
     }
-    // Tagged numbers that hold singles: each product, sum and quotient is rounded to single.
-    const TaggedNumber outsideMass = TaggedNumber(outside.AirVolume) / outside.SpVol;
-    const TaggedNumber returnMass = TaggedNumber(back.AirVolume) / back.SpVol;
-    const TaggedNumber mass = returnMass + outsideMass;
-    StatePoint.W = (outside.W * outsideMass + back.W * returnMass) / (returnMass + outsideMass);
+    const TaggedNumber outsideFlow = DryAirFlow(outside.AirVolume, outside.SpVol);
+    const TaggedNumber returnFlow = DryAirFlow(back.AirVolume, back.SpVol);
+    StatePoint.W = MeanByDryAir(outside.W, outsideFlow, back.W, returnFlow);
     if (!IsMetric())
         StatePoint.Grains = 7000 * StatePoint.W;
-    StatePoint.h = ((outside.h * outsideMass + back.h * returnMass) / mass).asSingle();
+    StatePoint.h = MeanByDryAir(outside.h, outsideFlow, back.h, returnFlow).asSingle();
     StatePoint.Tdb = DryBulbFromEnthalpy(StatePoint.h, StatePoint.W.asSingle());
     txtTdb.setText(PlainText(StatePoint.Tdb));
     txtCFM.setText(PlainText(MixedResultAir.AirVolume));
 
     SolveFromW(); // at the pressure of the last calculation; a refusal is not looked at
     keepState(MixedResultAir);
+    KeepLastRun(Calculator::MixedAir,
+                {{"outside", MixedOutsideAir}, {"return", MixedReturnAir}, {"mix", MixedResultAir}});
     Hide();
     showAnswers();
 }

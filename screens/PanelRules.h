@@ -43,8 +43,24 @@ struct PanelLabels
     RowLabel specificVolume;
 };
 
-/// Names of a form's own buttons; unused places are empty.
-using ButtonNames = std::array<std::string_view, 3>;
+/// The buttons that the rules name. Each form binds its own (see AirPanel::bind).
+enum class PanelButton
+{
+    None,
+    btnCALCULATE,
+    btnSaveOSA,
+    btnRA,
+    btnMixedAir,
+    btnSaveEA,
+    btnSetLA,
+    btnCalcLoad,
+    btnSaveEnteringAir,
+    btnInputLeavingAir,
+    btnHumidityDesired,
+};
+
+/// Unused places hold None.
+using PanelButtons = std::array<PanelButton, 3>;
 
 /// In what the calculators with an air-state panel differ: one row for each form.
 struct PanelRules
@@ -75,12 +91,12 @@ struct PanelRules
     ByUnits wetBulbClip;
     ByUnits dewPointClip;
 
-    ButtonNames offOnChange;          ///< turned off by the change of a humidity field
-    ButtonNames offOnClick;           ///< turned off by a click on a humidity field
-    ButtonNames offAtCalculation;     ///< turned off where a calculation begins
-    ButtonNames offAfterwards;        ///< turned off after the solver, also where it refused
-    ButtonNames onAfterwards;         ///< turned on there
-    std::string_view focusAfterwards; ///< what then gets the focus
+    PanelButtons offOnChange;      ///< turned off by the change of a humidity field
+    PanelButtons offOnClick;       ///< turned off by a click on a humidity field
+    PanelButtons offAtCalculation; ///< turned off where a calculation begins
+    PanelButtons offAfterwards;    ///< turned off after the solver, also where it refused
+    PanelButtons onAfterwards;     ///< turned on there
+    PanelButton focusAfterwards;   ///< what then gets the focus
 };
 
 inline constexpr PanelLabels plainLabels{
@@ -149,11 +165,11 @@ inline constexpr PanelRules mixedAir{
     .limitsMetricTdb = false, // up to 125 degrees pass in Metric too
     .wetBulbClip = {.english = 0.1, .metric = 0.05},
     .dewPointClip = {.english = 0.1, .metric = 0.1},
-    .offOnChange = {"btnRA", "btnSaveOSA", "btnMixedAir"},
-    .offOnClick = {"btnRA", "btnSaveOSA", "btnMixedAir"},
+    .offOnChange = {PanelButton::btnRA, PanelButton::btnSaveOSA, PanelButton::btnMixedAir},
+    .offOnClick = {PanelButton::btnRA, PanelButton::btnSaveOSA, PanelButton::btnMixedAir},
     .offAtCalculation = {},
     .offAfterwards = {},
-    .onAfterwards = {"btnSaveOSA", "btnRA"},
+    .onAfterwards = {PanelButton::btnSaveOSA, PanelButton::btnRA},
     .focusAfterwards = {},
 };
 
@@ -187,11 +203,11 @@ inline constexpr PanelRules coolingLoad1{
     .wetBulbClip = {.english = 0.01, .metric = 0.01},
     .dewPointClip = {.english = 0.01, .metric = 0.01},
     .offOnChange = {},
-    .offOnClick = {"btnSaveEA", "btnSetLA", "btnCalcLoad"},
-    .offAtCalculation = {"btnSetLA", "btnCalcLoad"},
-    .offAfterwards = {"btnCALCULATE"},
-    .onAfterwards = {"btnSaveEA"},
-    .focusAfterwards = "btnSaveEA",
+    .offOnClick = {PanelButton::btnSaveEA, PanelButton::btnSetLA, PanelButton::btnCalcLoad},
+    .offAtCalculation = {PanelButton::btnSetLA, PanelButton::btnCalcLoad},
+    .offAfterwards = {PanelButton::btnCALCULATE},
+    .onAfterwards = {PanelButton::btnSaveEA},
+    .focusAfterwards = PanelButton::btnSaveEA,
 };
 
 inline constexpr PanelRules heatingLoad1{
@@ -212,10 +228,10 @@ inline constexpr PanelRules heatingLoad1{
     .wetBulbClip = {.english = 0.1, .metric = 0.05},
     .dewPointClip = {.english = 0.1, .metric = 0.1},
     .offOnChange = {},
-    .offOnClick = {"btnSaveEnteringAir", "btnInputLeavingAir"},
+    .offOnClick = {PanelButton::btnSaveEnteringAir, PanelButton::btnInputLeavingAir},
     .offAtCalculation = {},
-    .offAfterwards = {"btnCALCULATE"},
-    .onAfterwards = {"btnSaveEnteringAir", "btnInputLeavingAir"},
+    .offAfterwards = {PanelButton::btnCALCULATE},
+    .onAfterwards = {PanelButton::btnSaveEnteringAir, PanelButton::btnInputLeavingAir},
     .focusAfterwards = {},
 };
 
@@ -237,9 +253,9 @@ inline constexpr PanelRules humid1{
     .wetBulbClip = {.english = 0.1, .metric = 0.05},
     .dewPointClip = {.english = 0.1, .metric = 0.1},
     .offOnChange = {},
-    .offOnClick = {"btnHumidityDesired"},
+    .offOnClick = {PanelButton::btnHumidityDesired},
     .offAtCalculation = {},
-    .offAfterwards = {"btnCALCULATE"},
-    .onAfterwards = {"btnHumidityDesired"},
+    .offAfterwards = {PanelButton::btnCALCULATE},
+    .onAfterwards = {PanelButton::btnHumidityDesired},
     .focusAfterwards = {},
 };

@@ -1,10 +1,6 @@
 #include "screens/Rows.h"
 
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QString>
-#include <QVBoxLayout>
-#include <QWidget>
 
 namespace {
 
@@ -13,28 +9,24 @@ constexpr int captionCharacters = 20;
 constexpr int fieldCharacters = 16;
 constexpr int unitCharacters = 28;
 
-int widthOf(const QWidget& widget, int characters)
-{
-    return widget.fontMetrics().averageCharWidth() * characters;
-}
-
-int rowHeight(const QWidget& widget) { return widget.fontMetrics().height() * 2; }
+constexpr double linesPerRow = 2;
 
 } // namespace
 
-void addRow(QGridLayout& grid, int line, const Row& row)
+void addRow(Grid& grid, int line, const Row& row)
 {
     int column = 0;
-    for (QWidget* const cell : {row.caption.widget(), row.field.widget(), row.unit.widget()}) {
-        cell->setFixedHeight(rowHeight(*cell));
-        grid.addWidget(cell, line, column++);
+    for (const Control* const cell :
+         std::initializer_list<const Control*>{&row.caption, &row.field, &row.unit}) {
+        setFixedHeight(*cell, heightOfLines(*cell, linesPerRow));
+        grid.add(*cell, line, column++);
     }
     row.caption.describe(row.field);
 }
 
 void layOutInFrame(Frame& frame, const std::vector<Row>& rows)
 {
-    auto* const grid = new QGridLayout(frame.widget());
+    auto* const grid = new Grid(frame);
     grid->setVerticalSpacing(11);
     grid->setHorizontalSpacing(10);
     grid->setContentsMargins(16, 14, 16, 14);
@@ -42,53 +34,50 @@ void layOutInFrame(Frame& frame, const std::vector<Row>& rows)
     for (const Row& row : rows)
         addRow(*grid, line++, row);
     grid->setRowStretch(line, 1);
-    grid->setColumnMinimumWidth(0, widthOf(*frame.widget(), captionCharacters));
-    grid->setColumnMinimumWidth(1, widthOf(*frame.widget(), fieldCharacters));
-    grid->setColumnMinimumWidth(2, widthOf(*frame.widget(), unitCharacters));
+    grid->setColumnMinimumWidth(0, widthOfCharacters(frame, captionCharacters));
+    grid->setColumnMinimumWidth(1, widthOfCharacters(frame, fieldCharacters));
+    grid->setColumnMinimumWidth(2, widthOfCharacters(frame, unitCharacters));
     grid->setColumnStretch(2, 1);
 }
 
 void layOutPairs(Frame& frame, const std::vector<Pair>& pairs)
 {
-    auto* const grid = new QGridLayout(frame.widget());
+    auto* const grid = new Grid(frame);
     grid->setVerticalSpacing(6);
     grid->setContentsMargins(14, 12, 14, 14);
     int line = 0;
     for (const Pair& pair : pairs) {
-        pair.field.widget()->setFixedHeight(rowHeight(*pair.field.widget()));
+        setFixedHeight(pair.field, heightOfLines(pair.field, linesPerRow));
         pair.field.alignRight();
-        grid->addWidget(pair.unit.widget(), line++, 0);
-        grid->addWidget(pair.field.widget(), line++, 0);
+        pair.unit.describe(pair.field);
+        grid->add(pair.unit, line++, 0);
+        grid->add(pair.field, line++, 0);
     }
 }
 
-void layOutBelowBanner(QWidget& area, Frame& banner, QWidget& panel)
+void layOutBelowBanner(const Form& form, Frame& banner, Grid& panel)
 {
-    // No frame is drawn around nothing, and its caption stands where those of the panel's frames do.
-    banner.widget()->setStyleSheet(banner.widget()->styleSheet() +
-                                   "QGroupBox { border: none; }"
-                                   "QGroupBox::title { subcontrol-origin: margin; left: 0px; }");
-    banner.widget()->setFixedHeight(banner.widget()->fontMetrics().height() + 4);
-    auto* const line = new QHBoxLayout;
+    banner.showCaptionAlone();
+    auto* const line = new Line;
     line->setContentsMargins(16, 0, 16, 0);
-    line->addWidget(banner.widget());
+    line->add(banner);
 
-    auto* const whole = new QVBoxLayout(&area);
+    auto* const whole = new Column(form);
     whole->setContentsMargins(0, 12, 0, 0);
     whole->setSpacing(0);
     whole->addLayout(line);
-    whole->addWidget(&panel, 1);
+    whole->addLayout(&panel, 1);
 }
 
-QHBoxLayout* buttonRow(std::initializer_list<Button*> left, std::initializer_list<Button*> right)
+Line* buttonRow(std::initializer_list<Button*> left, std::initializer_list<Button*> right)
 {
-    auto* const row = new QHBoxLayout;
+    auto* const row = new Line;
     row->setSpacing(10);
     for (const Button* button : left)
-        row->addWidget(button->widget());
+        row->add(*button);
     row->addStretch();
     for (const Button* button : right)
-        row->addWidget(button->widget());
+        row->add(*button);
     return row;
 }
 

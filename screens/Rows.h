@@ -3,15 +3,12 @@
 #include "platform/forms/Button.h"
 #include "platform/forms/Frame.h"
 #include "platform/forms/Label.h"
+#include "platform/forms/Layout.h"
 #include "platform/forms/TextField.h"
 
 #include <initializer_list>
 #include <string>
 #include <vector>
-
-class QGridLayout;
-class QHBoxLayout;
-class QWidget;
 
 /// One row of a frame: a caption, the field that it describes, the unit beside it.
 struct Row
@@ -29,7 +26,7 @@ struct Pair
 };
 
 /// Adds one row to a grid of captions, fields and units.
-void addRow(QGridLayout& grid, int line, const Row& row);
+void addRow(Grid& grid, int line, const Row& row);
 
 /// Lays rows out in a frame, so that captions, fields and units of all frames line up.
 void layOutInFrame(Frame& frame, const std::vector<Row>& rows);
@@ -38,10 +35,10 @@ void layOutInFrame(Frame& frame, const std::vector<Row>& rows);
 void layOutPairs(Frame& frame, const std::vector<Pair>& pairs);
 
 /// Lays a form out as a frame that holds nothing, whose caption is a line of instruction, above a panel.
-void layOutBelowBanner(QWidget& area, Frame& banner, QWidget& panel);
+void layOutBelowBanner(const Form& form, Frame& banner, Grid& panel);
 
 /// The row of buttons at the foot of a dialog: some at its left edge, the others at its right.
-QHBoxLayout* buttonRow(std::initializer_list<Button*> left, std::initializer_list<Button*> right);
+Line* buttonRow(std::initializer_list<Button*> left, std::initializer_list<Button*> right);
 
 /// Gives a field a light back colour, black text on it, and its value the right place.
 void colourEntry(TextField& field, Colour colour);

@@ -4,10 +4,6 @@
 #include "screens/Help.h"
 #include "screens/Rows.h"
 
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QWidget>
-
 cfmForm::cfmForm() : Form("cfmForm", FormKind::Dialog)
 {
     setCaption("Air Volume Input");
@@ -22,15 +18,15 @@ cfmForm::cfmForm() : Form("cfmForm", FormKind::Dialog)
 
 void cfmForm::layOut()
 {
-    auto* const grid = new QGridLayout(area());
+    auto* const grid = new Grid(*this);
     grid->setContentsMargins(20, 20, 20, 20);
     grid->setVerticalSpacing(14);
     grid->setHorizontalSpacing(12);
-    grid->addWidget(Label1.widget(), 0, 0, 1, 2);
-    grid->addWidget(txtCFMinput.widget(), 1, 0);
-    grid->addWidget(label2.widget(), 1, 1);
-    grid->setColumnMinimumWidth(0, label2.widget()->fontMetrics().averageCharWidth() * 18);
-    grid->setColumnMinimumWidth(1, label2.widget()->fontMetrics().averageCharWidth() * 24);
+    grid->add(Label1, 0, 0, 1, 2);
+    grid->add(txtCFMinput, 1, 0);
+    grid->add(label2, 1, 1);
+    grid->setColumnMinimumWidth(0, widthOfCharacters(label2, 18));
+    grid->setColumnMinimumWidth(1, widthOfCharacters(label2, 24));
     grid->setRowMinimumHeight(2, 8);
     grid->addLayout(buttonRow({}, {&btnOK, &btnCancel}), 3, 0, 1, 2);
     txtCFMinput.alignRight();

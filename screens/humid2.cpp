@@ -73,6 +73,7 @@ void humid2::btnCalcHumid_Click()
     try {
         solveDesiredAir();
         showMoisture();
+        KeepLastRun(Calculator::Humidification, {{"outside", HumidOutsideAir}, {"desired", HumidDesiredAir}});
     } catch (const RunTimeError&) {
         // What was written before the failure stays.
     }

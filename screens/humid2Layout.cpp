@@ -3,11 +3,6 @@
 #include "screens/Rows.h"
 #include "screens/humid2.h"
 
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QVBoxLayout>
-#include <QWidget>
-
 #include <algorithm>
 
 namespace {
@@ -15,11 +10,11 @@ namespace {
 constexpr int fieldCharacters = 16;
 constexpr int roomBesideButtonText = 28;
 
-int lineHeight(const QWidget& widget) { return widget.fontMetrics().height() * 2; }
+int entryHeight(const Control& control) { return heightOfLines(control, 2); }
 
-QGridLayout& gridIn(Frame& frame)
+Grid& gridIn(Frame& frame)
 {
-    auto* const grid = new QGridLayout(frame.widget());
+    auto* const grid = new Grid(frame);
     grid->setContentsMargins(16, 14, 16, 14);
     grid->setHorizontalSpacing(10);
     grid->setVerticalSpacing(10);
@@ -27,19 +22,19 @@ QGridLayout& gridIn(Frame& frame)
 }
 
 /// Captions, fields and units, so that those of the two frames of entries line up.
-QGridLayout& entryGridIn(Frame& frame, int captionWidth)
+Grid& entryGridIn(Frame& frame, int captionWidth)
 {
-    QGridLayout& grid = gridIn(frame);
+    Grid& grid = gridIn(frame);
     grid.setColumnMinimumWidth(0, captionWidth);
-    grid.setColumnMinimumWidth(1, frame.widget()->fontMetrics().averageCharWidth() * fieldCharacters);
+    grid.setColumnMinimumWidth(1, widthOfCharacters(frame, fieldCharacters));
     grid.setColumnStretch(2, 1);
     return grid;
 }
 
 void giveRoom(Button& button)
 {
-    QWidget* const shown = button.widget();
-    shown->setMinimumSize(shown->sizeHint().width() + roomBesideButtonText, lineHeight(*shown));
+    setLeastWidth(button, naturalWidth(button) + roomBesideButtonText);
+    setLeastHeight(button, entryHeight(button));
 }
 
 } // namespace
@@ -53,32 +48,30 @@ void humid2::layOut()
     giveRoom(btnCalcHumid);
     giveRoom(btnOK);
 
-    auto* const whole = new QVBoxLayout(area());
+    auto* const whole = new Column(*this);
     whole->setContentsMargins(16, 16, 16, 16);
     whole->setSpacing(16);
-    whole->addWidget(Frame2.widget());
-    whole->addWidget(Frame1.widget());
+    whole->add(Frame2);
+    whole->add(Frame1);
     whole->addLayout(buttonRow({&btnCalcHumid}, {&btnOK}));
-    whole->addWidget(Frame3.widget());
+    whole->add(Frame3);
     whole->addStretch();
 
     // The humidity comes ahead of the temperature.
-    TextField* const inOrder[] = {&txtDesH, &txtDesT, &txtVol, &txtAC, &txtOSA};
-    for (std::size_t next = 1; next < std::size(inOrder); ++next)
-        QWidget::setTabOrder(inOrder[next - 1]->widget(), inOrder[next]->widget());
+    setTabOrder({&txtDesH, &txtDesT, &txtVol, &txtAC, &txtOSA});
 }
 
 int humid2::captionWidth() const
 {
     int widest = 0;
     for (const Label* caption : {&Label13, &Label1, &Label2, &Label3})
-        widest = std::max(widest, caption->widget()->sizeHint().width());
+        widest = std::max(widest, naturalWidth(*caption));
     return widest;
 }
 
 void humid2::layOutDesired()
 {
-    QGridLayout& grid = entryGridIn(Frame2, captionWidth());
+    Grid& grid = entryGridIn(Frame2, captionWidth());
     addRow(grid, 0, {Label13, txtDesT, lblT});
     addRow(grid, 1, {Label1, txtDesH, lblRH});
     for (TextField* field : {&txtDesT, &txtDesH})
@@ -87,12 +80,12 @@ void humid2::layOutDesired()
 
 void humid2::layOutQuantities()
 {
-    QGridLayout& grid = entryGridIn(Frame1, captionWidth());
-    grid.addWidget(Label17.widget(), 0, 0, 1, 3);
-    grid.addWidget(Label8.widget(), 1, 0, 1, 3);
+    Grid& grid = entryGridIn(Frame1, captionWidth());
+    grid.add(Label17, 0, 0, 1, 3);
+    grid.add(Label8, 1, 0, 1, 3);
     addRow(grid, 2, {Label2, txtVol, lblSpaceVol});
     addRow(grid, 3, {Label3, txtAC, lblAC});
-    grid.addWidget(Label16.widget(), 4, 0, 1, 3);
+    grid.add(Label16, 4, 0, 1, 3);
     addRow(grid, 5, {lblOSAFlow1, txtOSA, lblOSAFlow2});
     for (TextField* field : {&txtVol, &txtAC, &txtOSA})
         colourEntry(*field, Colours::LightGreen);
@@ -100,11 +93,11 @@ void humid2::layOutQuantities()
 
 void humid2::layOutMoisture()
 {
-    QGridLayout& grid = gridIn(Frame3);
+    Grid& grid = gridIn(Frame3);
     const auto add = [&grid](int row, int column, TextField& field, Label& unit) {
-        field.widget()->setFixedHeight(lineHeight(*field.widget()));
-        grid.addWidget(field.widget(), row, column);
-        grid.addWidget(unit.widget(), row, column + 1);
+        setFixedHeight(field, entryHeight(field));
+        grid.add(field, row, column);
+        grid.add(unit, row, column + 1);
         colourEntry(field, Colours::LightYellow);
         field.leaveTabOrder();
     };

@@ -4,9 +4,6 @@
 #include "screens/Rows.h"
 
 #include <QCoreApplication>
-#include <QHBoxLayout>
-#include <QVBoxLayout>
-#include <QWidget>
 
 namespace {
 
@@ -35,13 +32,13 @@ void About::layOut()
     btnEMAIL.setToolTip("support@dunmoor.example");
     btnURL.setToolTip(webAddress);
 
-    auto* const column = new QVBoxLayout(area());
+    auto* const column = new Column(*this);
     column->setContentsMargins(28, 24, 28, 20);
     column->setSpacing(8);
     for (Label* line : {&lblTitle, &lblVersion, &lblCopyright, &lblCompany, &lblDescription})
-        column->addWidget(line->widget());
-    column->addWidget(lblMoreDescription.widget());
-    column->addWidget(Line1.widget());
+        column->add(*line);
+    column->add(lblMoreDescription);
+    column->add(Line1);
     column->addSpacing(8);
     column->addLayout(buttonRow({&btnEMAIL, &btnURL}, {&cmdOK}));
 }

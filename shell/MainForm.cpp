@@ -1,7 +1,9 @@
 #include "shell/MainForm.h"
 
+#include "chart/ChartPicture.h"
 #include "core/MainMod.h"
 #include "platform/forms/Forms.h"
+#include "platform/forms/Layout.h"
 #include "screens/AirPropertiesCalc.h"
 #include "screens/CoolingLoad1.h"
 #include "screens/HeatingLoad1.h"
@@ -12,24 +14,13 @@
 #include "shell/About.h"
 #include "shell/Settings.h"
 #include "shell/Store.h"
-#include "shell/chart/ChartPicture.h"
 
-#include <QGridLayout>
-#include <QVBoxLayout>
-#include <QWidget>
-
-#include <utility>
-
-void ShowMainForm()
-{
-    form<MainForm>().keepLastAir();
-    form<MainForm>().Show();
-}
+void ShowMainForm() { form<MainForm>().Show(); }
 
 void ShowAbout() { form<About>().ShowModal(); }
 
 MainForm::MainForm()
-    : Form("MainForm", FormKind::Screen), Image1(*this, "Image1", std::make_unique<ChartPicture>())
+    : Form("MainForm", FormKind::Screen), Image1(*this, "Image1", std::make_unique<chart::ChartPicture>())
 {
     setCaption("Dunmoor");
     layOut();
@@ -52,22 +43,22 @@ void MainForm::layOut()
     btnHeating.setToolTip("Calculate Heating Coil Loads");
     btnHumidity.setToolTip("Calculate Humidification Requirements");
 
-    auto* const buttons = new QVBoxLayout;
+    auto* const buttons = new Column;
     buttons->setSpacing(14);
     for (Button* button : {&btnAirCalc, &btnMixedAir, &btnCooling, &btnHeating, &btnHumidity}) {
-        button->widget()->setMinimumHeight(button->widget()->fontMetrics().height() * 5 / 2);
-        buttons->addWidget(button->widget());
+        setLeastHeight(*button, heightOfLines(*button, 2.5));
+        buttons->add(*button);
     }
     buttons->addStretch();
 
-    auto* const grid = new QGridLayout(area());
+    auto* const grid = new Grid(*this);
     grid->setContentsMargins(28, 20, 28, 28);
     grid->setHorizontalSpacing(28);
-    grid->addWidget(lblProductName.widget(), 0, 0);
-    grid->addWidget(lblProduct.widget(), 1, 0);
+    grid->add(lblProductName, 0, 0);
+    grid->add(lblProduct, 1, 0);
     grid->setRowMinimumHeight(2, 16);
     grid->addLayout(buttons, 3, 0);
-    grid->addWidget(Image1.widget(), 0, 1, 4, 1);
+    grid->add(Image1, 0, 1, 4, 1);
     grid->setColumnStretch(1, 1);
     grid->setColumnMinimumWidth(0, 190);
     grid->setRowStretch(3, 1);
@@ -126,22 +117,11 @@ void MainForm::open()
     form<Calculator>().Show();
 }
 
-void MainForm::btnAirCalc_Click()
-{
-    open<AirPropertiesCalc>();
-    isAirPropertiesOpen = true;
-}
-
+void MainForm::btnAirCalc_Click() { open<AirPropertiesCalc>(); }
 void MainForm::btnMixedAir_Click() { open<MixedAir>(); }
 void MainForm::btnCooling_Click() { open<CoolingLoad1>(); }
 void MainForm::btnHeating_Click() { open<HeatingLoad1>(); }
 void MainForm::btnHumidity_Click() { open<Humid1>(); }
-
-void MainForm::keepLastAir()
-{
-    if (std::exchange(isAirPropertiesOpen, false))
-        KeepAirProperties();
-}
 
 void MainForm::mnuExit_Click()
 {

@@ -12,9 +12,6 @@ class MainForm : public Form
 public:
     MainForm();
 
-    /// On the way back from the air properties calculator: keeps the air it found for the chart.
-    void keepLastAir();
-
 protected:
     void Form_Load() override;
     void Form_Activate() override;
@@ -46,7 +43,6 @@ private:
     Button btnHeating{*this, "btnHeating", "&Heating Load "};
     Button btnHumidity{*this, "btnHumidity", "H&umidification"};
     Picture Image1;
-    bool isAirPropertiesOpen = false;
 
     Menu mnuFile{*this, "mnuFile", "&File"};
     MenuCommand mnuExit{*this, "mnuExit", "E&xit"};

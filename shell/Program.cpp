@@ -31,6 +31,7 @@ void StartProgram()
     QGuiApplication::setWindowIcon(icon);
     QGuiApplication::setQuitOnLastWindowClosed(false); // the main menu alone ends the process
 
+    IgnoreRelativeFolders();
     const NumberCharacters characters = UserNumberCharacters();
     numberLocale = {.decimalPoint = characters.decimalPoint, .groupSeparator = characters.groupSeparator};
     ShowCoreMessage = [](const std::string& text) { MsgBox(text); };

@@ -5,10 +5,6 @@
 #include "screens/Rows.h"
 #include "shell/Store.h"
 
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QWidget>
-
 namespace {
 
 /// What the form does for one entry of its list.
@@ -79,16 +75,16 @@ Settings::Settings() : Form("Settings", FormKind::Dialog)
 
 void Settings::layOut()
 {
-    auto* const grid = new QGridLayout(area());
+    auto* const grid = new Grid(*this);
     grid->setContentsMargins(20, 20, 20, 20);
     grid->setVerticalSpacing(14);
     grid->setHorizontalSpacing(12);
-    grid->addWidget(lblUnits.widget(), 0, 0);
-    grid->addWidget(Combo1.widget(), 0, 1);
-    grid->addWidget(lblBP.widget(), 1, 0);
-    grid->addWidget(txtBP.widget(), 1, 1);
-    grid->addWidget(Label1.widget(), 1, 2);
-    grid->setColumnMinimumWidth(2, Label1.widget()->fontMetrics().averageCharWidth() * 6);
+    grid->add(lblUnits, 0, 0);
+    grid->add(Combo1, 0, 1);
+    grid->add(lblBP, 1, 0);
+    grid->add(txtBP, 1, 1);
+    grid->add(Label1, 1, 2);
+    grid->setColumnMinimumWidth(2, widthOfCharacters(Label1, 6));
     grid->setColumnStretch(1, 1);
     grid->setRowMinimumHeight(2, 12);
     grid->addLayout(buttonRow({&btnDefault}, {&btnOK, &btnCancel}), 3, 0, 1, 3);

@@ -9,6 +9,8 @@
 ///   Pressure_psi    options                        start; options, as Pressure_Psi (the same key)
 ///   Pressure_kPa    options                        start; options
 ///   Baro_Pressure   end of the program             nobody, and that is to stay
+///
+/// The first use of a store that can't be read shows a message box.
 std::string StoredText(const std::string& key, const std::string& defaultText);
 std::string StoredText(const std::string& key, double defaultNumber);
 void StoreText(const std::string& key, const std::string& text);

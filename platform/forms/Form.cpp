@@ -4,14 +4,27 @@
 #include "platform/forms/FormWindow.h"
 #include "platform/forms/Menu.h"
 
+#include <QApplication>
 #include <QEventLoop>
-#include <QGuiApplication>
 #include <QMenuBar>
 #include <QPalette>
 #include <QScreen>
 #include <QWindow>
 
 #include <stdexcept>
+
+namespace {
+
+/// Closes the open menus and lists. The toolkit would leave them, over nothing, until a click.
+void closePopups()
+{
+    while (QWidget* const popup = QApplication::activePopupWidget()) {
+        if (!popup->close())
+            return;
+    }
+}
+
+} // namespace
 
 Twips Screen::width() { return toTwips(QGuiApplication::primaryScreen()->geometry().width()); }
 Twips Screen::height() { return toTwips(QGuiApplication::primaryScreen()->geometry().height()); }
@@ -64,6 +77,8 @@ void Form::ShowModal()
 
 void Form::Hide()
 {
+    if (frame->isVisible())
+        closePopups();
     frame->hide();
     endWait();
 }

@@ -8,8 +8,10 @@
 
 namespace {
 
-std::map<std::type_index, std::unique_ptr<Form>> loadedForms;
-std::vector<std::unique_ptr<Form>> retiredForms;
+// Never destroyed: where exit() ends the process, as when the display goes away, they would destroy the
+// windows after the toolkit. clear() destroys the forms at a normal end.
+auto& loadedForms = *new std::map<std::type_index, std::unique_ptr<Form>>;
+auto& retiredForms = *new std::vector<std::unique_ptr<Form>>;
 
 } // namespace
 

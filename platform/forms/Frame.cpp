@@ -21,3 +21,12 @@ void Frame::setCaption(const std::string& caption)
 std::string Frame::caption() const { return asGroup(this)->title().toStdString(); }
 
 void Frame::setBold() { asGroup(this)->setStyleSheet("QGroupBox { font-weight: bold; }"); }
+
+void Frame::showCaptionAlone()
+{
+    // The caption begins where those of other frames do.
+    widget()->setStyleSheet(widget()->styleSheet() +
+                            "QGroupBox { border: none; }"
+                            "QGroupBox::title { subcontrol-origin: margin; left: 0px; }");
+    widget()->setFixedHeight(widget()->fontMetrics().height() + 4);
+}

@@ -12,4 +12,6 @@ public:
     std::string caption() const;
     /// Sets the caption in bold; the controls inside keep their own weight.
     void setBold();
+    /// Shows the caption as a line of its own: the frame holds nothing, and no border is drawn.
+    void showCaptionAlone();
 };

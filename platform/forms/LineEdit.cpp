@@ -5,10 +5,9 @@
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
-#include <QMenu>
 
 #include <algorithm>
-#include <memory>
+#include <utility>
 
 namespace {
 
@@ -41,19 +40,45 @@ bool movesSelectsOrCopies(const QKeyEvent& event)
                        [&event](auto key) { return event.matches(key); });
 }
 
-/// The character of a key, or 0 for a key that is no character and edits nothing. Tab comes before, in
-/// event().
+/// The commands that edit, and the character that stands for each.
+int characterOfCommand(const QKeyEvent& event)
+{
+    constexpr std::pair<QKeySequence::StandardKey, int> commands[] = {
+        {QKeySequence::Paste, Key::Paste},
+        {QKeySequence::Cut, Key::Cut},
+        {QKeySequence::Undo, Key::Undo},
+        {QKeySequence::Redo, Key::Redo},
+        {QKeySequence::Delete, Key::Delete},
+        {QKeySequence::DeleteStartOfWord, Key::Delete},
+        {QKeySequence::DeleteEndOfWord, Key::Delete},
+        {QKeySequence::DeleteEndOfLine, Key::Delete},
+        {QKeySequence::DeleteCompleteLine, Key::Delete},
+    };
+    const auto* const found =
+        std::find_if(std::begin(commands), std::end(commands),
+                     [&event](const auto& entry) { return event.matches(entry.first); });
+    return found == std::end(commands) ? 0 : found->second;
+}
+
+/// True for a key alone, with Shift, or with AltGr, which some systems report as Ctrl+Alt. With Ctrl, Alt or
+/// Meta a key is a command, although the toolkit gives it a character.
+bool canType(const QKeyEvent& event)
+{
+    const auto commanding = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const bool isAltGr = commanding == (Qt::ControlModifier | Qt::AltModifier);
+    return commanding == Qt::NoModifier || (isAltGr && event.text().front().isPrint());
+}
+
+/// The character of a key, or 0 for a key that edits nothing. Tab comes before, in event().
 int characterOf(const QKeyEvent& event)
 {
     if (event.key() == Qt::Key_Tab)
         return 0;
-    if (event.matches(QKeySequence::Paste))
-        return Key::Paste;
-    if (event.matches(QKeySequence::Cut))
-        return Key::Cut;
-    if (event.key() == Qt::Key_Delete)
-        return Key::Delete;
-    return event.text().isEmpty() ? 0 : event.text().front().unicode();
+    if (const int command = characterOfCommand(event))
+        return command;
+    if (event.key() == Qt::Key_Backspace)
+        return Key::Backspace;
+    return event.text().isEmpty() || !canType(event) ? 0 : event.text().front().unicode();
 }
 
 } // namespace
@@ -79,10 +104,15 @@ void LineEdit::keyPressEvent(QKeyEvent* event)
             field.swallows(Key::Enter); // it edits nothing either way
         return;
     }
-    const int character = movesSelectsOrCopies(*event) ? 0 : characterOf(*event);
-    if (character != 0 && field.swallows(character))
+    if (movesSelectsOrCopies(*event)) {
+        QLineEdit::keyPressEvent(event);
         return;
-    QLineEdit::keyPressEvent(event);
+    }
+    const int character = characterOf(*event);
+    if (character == 0)
+        event->ignore(); // for the window. The toolkit would type some of these, or edit by them.
+    else if (!field.swallows(character))
+        QLineEdit::keyPressEvent(event);
 }
 
 void LineEdit::inputMethodEvent(QInputMethodEvent* event)
@@ -122,9 +152,8 @@ void LineEdit::contextMenuEvent(QContextMenuEvent* event)
 {
     // A field that swallows its keys offers what a read-only one does.
     setReadOnly(field.swallows(Key::Paste));
-    const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+    QLineEdit::contextMenuEvent(event); // shows the menu without waiting: the form may close under it
     setReadOnly(false);
-    menu->exec(event->globalPos());
 }
 
 void LineEdit::dropEvent(QDropEvent* event)

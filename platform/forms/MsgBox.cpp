@@ -5,15 +5,15 @@
 
 namespace {
 
-/// The window that a message belongs to. A form that a handler has just unloaded may still count as the
-/// active window; it must not own the box, which would go down with it.
+/// The window that a message belongs to. It must outlast the box, which would go down with it: neither a form
+/// that a handler has just unloaded, which may still count as the active window, nor a tip or a menu.
 QWidget* shownWindow()
 {
     QWidget* const active = QApplication::activeWindow();
     if (active != nullptr && active->isVisible())
         return active;
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible())
+        if (window->isVisible() && (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog))
             return window;
     }
     return nullptr;

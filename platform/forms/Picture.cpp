@@ -1,7 +1,6 @@
 #include "platform/forms/Picture.h"
 
 #include "platform/forms/Form.h"
-#include "platform/forms/PackedImage.h"
 
 #include <QAccessibleWidget>
 #include <QAction>
@@ -14,6 +13,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmap>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
 #include <QTimer>
@@ -54,7 +54,7 @@ protected:
             return;
         }
         QPainter painter(this);
-        painter.drawImage(0, 0, upToDate());
+        painter.drawPixmap(0, 0, upToDate());
         if (hasFocus())
             paintFocus(painter);
     }
@@ -88,15 +88,14 @@ protected:
     }
 
 private:
-    QImage upToDate()
+    const QPixmap& upToDate()
     {
         Key key{size(), devicePixelRatioF(), palette().cacheKey(), font(), contents->version()};
-        if (key == keptFor)
-            return kept.unpacked();
-        QImage fresh = rendered(Qt::transparent);
-        kept = PackedImage(fresh);
-        keptFor = std::move(key);
-        return fresh;
+        if (key != keptFor) {
+            kept = QPixmap::fromImage(rendered(Qt::transparent));
+            keptFor = std::move(key);
+        }
+        return kept;
     }
 
     QImage rendered(const QColor& ground)
@@ -132,7 +131,7 @@ private:
     Form& form;
     std::unique_ptr<PictureContents> contents;
     bool isDue = false;
-    PackedImage kept;
+    QPixmap kept;
     Key keptFor;
 };
 

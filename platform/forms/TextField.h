@@ -7,10 +7,13 @@
 /// The keys that a KeyPress handler asks about, by their character.
 namespace Key {
 constexpr int Swallowed = 0;
+constexpr int Backspace = 8;
 constexpr int Tab = 9;
 constexpr int Enter = 13;
 constexpr int Paste = 22;
 constexpr int Cut = 24;
+constexpr int Redo = 25;
+constexpr int Undo = 26;
 constexpr int Delete = 127;
 } // namespace Key
 
@@ -19,7 +22,8 @@ constexpr int Delete = 127;
 ///    writes a text that differs.
 ///  - MouseDown, then Click are raised by the mouse alone, never by moving the focus here.
 ///  - KeyPress is raised before the user's key, paste, cut or drop edits the text; a handler that sets the
-///    key to Key::Swallowed keeps the text as it is. Moving, selecting and copying raise nothing.
+///    key to Key::Swallowed keeps the text as it is. Moving, selecting and copying raise nothing, nor does a
+///    key that edits nothing, such as a letter with Ctrl, Alt or Meta.
 class TextField : public Control
 {
 public:

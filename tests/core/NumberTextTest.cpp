@@ -109,6 +109,53 @@ TEST_F(NumberText, TellsTooLargeFromTooSmall)
     EXPECT_EQ(ParseDouble("1" + std::string(400, '0') + "e-400"), 1.0);
 }
 
+TEST_F(NumberText, ReadsAnExponentOfAnyLength)
+{
+    const std::string largest = "9223372036854775807"; // of a 64-bit integer
+    const std::string oneLess = "9223372036854775806";
+    const std::string oneMore = "9223372036854775808";
+    const std::string endless(1000, '9');
+    for (const std::string& exponent : {largest, oneLess, oneMore, endless, "000" + largest}) {
+        for (const std::string mantissa : {"1", "1.5", "0.001", "1000", "-1"}) {
+            EXPECT_EQ(ErrorOf([&] { ParseDouble(mantissa + "e" + exponent); }), Overflow) << exponent;
+            EXPECT_EQ(ErrorOf([&] { ParseDouble(mantissa + "e+" + exponent); }), Overflow) << exponent;
+            EXPECT_EQ(ParseDouble(mantissa + "e-" + exponent), 0.0) << exponent;
+        }
+        for (const std::string zero : {"0", "0.000", "-0"})
+            EXPECT_EQ(ParseDouble(zero + "E" + exponent), 0.0) << exponent;
+    }
+    EXPECT_EQ(ParseDouble("12e" + std::string(1000, '0') + "1"), 120.0);
+    EXPECT_EQ(ParseDouble("12e-" + std::string(1000, '0') + "1"), 1.2);
+}
+
+TEST_F(NumberText, ReadsAnyNumberOfDigitsAroundThePoint)
+{
+    const std::string zeros(1000000, '0');
+    EXPECT_EQ(ErrorOf([&] { ParseDouble("1" + zeros); }), Overflow);
+    EXPECT_EQ(ErrorOf([&] { ParseDouble("1" + zeros + "e9223372036854775807"); }), Overflow);
+    EXPECT_EQ(ParseDouble("0." + zeros + "1"), 0.0);
+    EXPECT_EQ(ParseDouble("0." + zeros + "1e-9223372036854775808"), 0.0);
+    EXPECT_EQ(ParseDouble("1" + zeros + "e-1000000"), 1.0);
+    EXPECT_EQ(ParseDouble("0." + zeros + "1e1000001"), 1.0);
+    EXPECT_EQ(ParseDouble(zeros + "70." + zeros), 70.0);
+    EXPECT_EQ(ParseDouble("0." + zeros + "e5"), 0.0);
+}
+
+TEST_F(NumberText, TellsTooLargeFromTooSmallAtEachPlaceOfThePoint)
+{
+    // The first digit's place decides, wherever the point stands.
+    for (int places = 0; places <= 400; ++places) {
+        const std::string zeros(static_cast<std::size_t>(places), '0');
+        const std::string up = std::to_string(309 + places);
+        const std::string down = std::to_string(330 + places);
+        EXPECT_EQ(ErrorOf([&] { ParseDouble("0." + zeros + "1e" + std::to_string(310 + places)); }),
+                  Overflow);
+        EXPECT_EQ(ErrorOf([&] { ParseDouble("1" + zeros + "e" + up); }), Overflow);
+        EXPECT_EQ(ParseDouble("1" + zeros + "e-" + down), 0.0);
+        EXPECT_EQ(ParseDouble("0." + zeros + "1e-" + down), 0.0);
+    }
+}
+
 TEST_F(NumberText, ReadsTheNearestDouble)
 {
     std::mt19937_64 random(7);

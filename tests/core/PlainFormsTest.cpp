@@ -1,6 +1,6 @@
 // What the program computes faster gives the bits of the plain form, over every argument that there is.
 
-#include "core/PlainForms.h"
+#include "tests/core/PlainForms.h"
 #include "tests/core/CoreTest.h"
 #include "tests/core/Thoroughness.h"
 

@@ -108,6 +108,18 @@ TEST_F(EnglishSolvers, RaiseAlmostFullHumidityToFull)
     EXPECT_EQ(StatePoint.RH.asSingle(), 0.9995F);
 }
 
+// So whether the limit itself counts as above it makes no difference.
+TEST_F(EnglishSolvers, MeetNoHumidityExactlyAtTheUpperLimit)
+{
+    double percent = 99.99 - 1e-9;
+    for (int i = 0; i < 200000; ++i) { // every double within about 1e-9 of the limit
+        ASSERT_NE(percent / 100, 0.9999);
+        percent = std::nextafter(percent, 100.0);
+    }
+    ASSERT_GT(percent, 99.99 + 1e-9);
+    EXPECT_NE(static_cast<double>(0.9999F), 0.9999);
+}
+
 TEST_F(EnglishSolvers, ReadAClippedHumidityByItsKind)
 {
     SetAir(70.0F, 14.696F);

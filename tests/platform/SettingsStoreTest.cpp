@@ -1,55 +1,8 @@
 // The user's store of strings, as the program and as a person with an editor see it.
 
-#include "platform/SettingsStore.h"
+#include "tests/platform/StoreFixture.h"
 
-#include <gtest/gtest.h>
-
-#include <QByteArray>
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
-
-namespace {
-
-class Store : public testing::Test
-{
-protected:
-    Store()
-    {
-        qputenv("XDG_CONFIG_HOME", folder().toUtf8());
-        QDir().mkpath(folder());
-    }
-
-    QString folder() const { return place.path() + "/config"; }
-    QString file() const { return folder() + "/Dunmoor.ini"; }
-
-    static void save(const std::string& key, const std::string& text)
-    {
-        SaveSetting("Dunmoor", "Settings", key, text);
-    }
-    static std::string saved(const std::string& key)
-    {
-        return GetSetting("Dunmoor", "Settings", key, "(nothing)");
-    }
-
-    static std::string bytes(const QString& path)
-    {
-        QFile stored(path);
-        return stored.open(QIODevice::ReadOnly) ? stored.readAll().toStdString() : "(no file)";
-    }
-
-    static void write(const QString& path, const QByteArray& text)
-    {
-        QFile stored(path);
-        ASSERT_TRUE(stored.open(QIODevice::WriteOnly));
-        stored.write(text);
-    }
-
-    QTemporaryDir place;
-};
-
-} // namespace
 
 TEST_F(Store, GivesTheDefaultForWhatItHasNotGot)
 {
@@ -193,27 +146,4 @@ TEST_F(Store, ReadsWhatWasWrittenByHand)
     EXPECT_EQ(saved("Pressure_kPa"), "  101.3 ");
     EXPECT_EQ(saved("Metric_Units"), "");
     EXPECT_EQ(saved("Baro_Pressure"), "abc def");
-}
-
-TEST_F(Store, ReadsNothingFromAFileThatIsNone)
-{
-    write(file(), QByteArray("\x00\xFF\xFE rubbish [[[ = = \n\n ]", 22));
-    EXPECT_EQ(saved("Metric_Units"), "(nothing)");
-    save("Metric_Units", "True"); // whether it can be kept or not, the program goes on
-}
-
-TEST_F(Store, IsHarmlessWhereItCannotBeWritten)
-{
-    write(place.path() + "/occupied", "a file where the folder should be");
-    qputenv("XDG_CONFIG_HOME", (place.path() + "/occupied").toUtf8());
-    save("Metric_Units", "True");
-    EXPECT_EQ(saved("Metric_Units"), "(nothing)");
-    EXPECT_EQ(bytes(place.path() + "/occupied"), "a file where the folder should be");
-}
-
-TEST_F(Store, IsHarmlessWhereTheFileIsAFolder)
-{
-    QDir().mkpath(file());
-    save("Metric_Units", "True");
-    EXPECT_EQ(saved("Metric_Units"), "(nothing)");
 }

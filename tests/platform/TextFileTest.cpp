@@ -1,9 +1,15 @@
 #include "platform/TextFile.h"
 
+#include "tests/support/FullDisk.h"
+
 #include <gtest/gtest.h>
 
 #include <QFile>
 #include <QTemporaryDir>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -125,9 +131,47 @@ TEST_F(TextFileTest, CannotBeOpenedTwice)
 
 TEST_F(TextFileTest, FailsWithTheLineThatFindsNoRoomAndStaysOpen)
 {
-    ASSERT_EQ(file.openForOutput("/dev/full"), FileFault::None);
+    ASSERT_EQ(file.openForOutput(path()), FileFault::None);
+    const FullDisk disk;
     EXPECT_EQ(file.writeLine("text"), FileFault::Access);
     EXPECT_TRUE(file.isOpen());
+}
+
+TEST_F(TextFileTest, RefusesAPipeAndDoesNotWaitForItsOtherEnd)
+{
+    ASSERT_EQ(mkfifo(path("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(file.openForOutput(path("pipe")), FileFault::Access);
+    EXPECT_EQ(file.openForInput(path("pipe")), FileFault::Access);
+    const int reader = open(path("pipe").c_str(), O_RDONLY | O_NONBLOCK);
+    EXPECT_EQ(file.openForOutput(path("pipe")), FileFault::Access) << "also while somebody reads";
+    close(reader);
+}
+
+TEST_F(TextFileTest, RefusesDevices)
+{
+    for (const char* device : {"/dev/null", "/dev/full", "/dev/zero"}) {
+        EXPECT_EQ(file.openForOutput(device), FileFault::Access) << device;
+        EXPECT_EQ(file.openForInput(device), FileFault::Access) << device;
+    }
+}
+
+TEST_F(TextFileTest, FollowsALinkUnlessItIsToldNotTo)
+{
+    makeFile("of somebody\n");
+    ASSERT_TRUE(QFile::link(folder.filePath("file.txt"), folder.filePath("link")));
+    EXPECT_EQ(file.openForOutput(path("link"), Links::Refuse), FileFault::Access);
+    EXPECT_EQ(file.openForInput(path("link"), Links::Refuse), FileFault::Access);
+    EXPECT_EQ(bytes(), "of somebody\n");
+    ASSERT_EQ(file.openForOutput(path("link")), FileFault::None);
+    EXPECT_EQ(file.writeLine("new"), FileFault::None);
+    EXPECT_EQ(bytes(), "new\n");
+}
+
+TEST_F(TextFileTest, RefusesALoopOfLinks)
+{
+    ASSERT_TRUE(QFile::link(folder.filePath("b"), folder.filePath("a")));
+    ASSERT_TRUE(QFile::link(folder.filePath("a"), folder.filePath("b")));
+    EXPECT_EQ(file.openForOutput(path("a")), FileFault::Access);
 }
 
 } // namespace

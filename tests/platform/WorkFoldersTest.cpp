@@ -31,14 +31,32 @@ protected:
         return qgetenv("XDG_DATA_HOME").toStdString() + "/Dunmoor/" + name;
     }
 
-    /// Gives everybody these rights to a folder.
-    static void allow(const std::string& theFolder, const std::string& rights)
+    static void allow(const std::string& theFolder, mode_t rights)
     {
-        ASSERT_EQ(chmod(theFolder.c_str(), rights == "rwx" ? 0777 : 0555), 0);
+        ASSERT_EQ(chmod(theFolder.c_str(), rights), 0);
+    }
+
+    static constexpr uid_t somebody = 65534;
+
+    /// To root, a folder of somebody's; to anybody else, root's own.
+    QString folderOfAnother() const
+    {
+        if (geteuid() != 0)
+            return "/";
+        EXPECT_TRUE(MakeFolder(path("theirs")));
+        EXPECT_EQ(chown(path("theirs").c_str(), somebody, somebody), 0);
+        return folder.filePath("theirs");
     }
 
     /// Root may write everywhere: goes on as somebody else, for the rest of the test's process.
-    static void becomeSomebodyElse() { ASSERT_TRUE(geteuid() != 0 || setresuid(65534, 65534, 65534) == 0); }
+    static void giveToSomebodyElseAndBecomeThem(const std::vector<std::string>& theirs)
+    {
+        if (geteuid() != 0)
+            return;
+        for (const std::string& path : theirs)
+            ASSERT_EQ(chown(path.c_str(), somebody, somebody), 0);
+        ASSERT_EQ(setresuid(somebody, somebody, somebody), 0);
+    }
 
     QTemporaryDir folder;
 };
@@ -51,27 +69,62 @@ TEST_F(WorkFoldersTest, LieBelowTheApplication)
 
 TEST_F(WorkFoldersTest, LieBelowTheUsersFolderWhereTheApplicationsIsReadOnly)
 {
-    allow(application(), "r-x");
-    becomeSomebodyElse();
+    giveToSomebodyElseAndBecomeThem({application()});
+    allow(application(), 0555);
     EXPECT_EQ(WorkFolder(application(), "data"), ofTheUser("data"));
 }
 
 TEST_F(WorkFoldersTest, StayWhereTheyAreMadeAndWritable)
 {
     ASSERT_TRUE(MakeFolder(path("data")));
-    allow(path("data"), "rwx");
-    allow(application(), "r-x");
-    becomeSomebodyElse();
+    giveToSomebodyElseAndBecomeThem({application(), path("data")});
+    allow(application(), 0555);
     EXPECT_EQ(WorkFolder(application(), "data"), path("data"));
     EXPECT_EQ(WorkFolder(application(), "tempdata"), ofTheUser("tempdata"));
+}
+
+TEST_F(WorkFoldersTest, LieBelowTheUsersFolderWhereOthersMayWriteInTheApplications)
+{
+    for (const mode_t rights : {0770, 0707, 01777}) {
+        allow(application(), rights);
+        EXPECT_EQ(WorkFolder(application(), "tempdata"), ofTheUser("tempdata")) << std::oct << rights;
+    }
+    allow(application(), 0755);
+    EXPECT_EQ(WorkFolder(application(), "tempdata"), path("tempdata"));
+}
+
+TEST_F(WorkFoldersTest, LieBelowTheUsersFolderWhereOthersMayWriteInTheirOwn)
+{
+    ASSERT_TRUE(MakeFolder(path("tempdata")));
+    for (const mode_t rights : {0770, 0707, 01777}) {
+        allow(path("tempdata"), rights);
+        EXPECT_EQ(WorkFolder(application(), "tempdata"), ofTheUser("tempdata")) << std::oct << rights;
+    }
+}
+
+TEST_F(WorkFoldersTest, LieBelowTheUsersFolderWhereTheApplicationsBelongsToAnotherUser)
+{
+    EXPECT_EQ(WorkFolder(folderOfAnother().toStdString(), "tempdata"), ofTheUser("tempdata"));
+}
+
+TEST_F(WorkFoldersTest, LieBelowTheUsersFolderWhereTheirOwnLeadsToAnotherUsers)
+{
+    ASSERT_TRUE(QFile::link(folderOfAnother(), folder.filePath("tempdata")));
+    EXPECT_EQ(WorkFolder(application(), "tempdata"), ofTheUser("tempdata"));
+}
+
+TEST_F(WorkFoldersTest, AreMadeSoThatTheyStayTheUsersAloneUnderAnyMask)
+{
+    umask(0);
+    ASSERT_TRUE(MakeFolder(path("tempdata")));
+    EXPECT_EQ(WorkFolder(application(), "tempdata"), path("tempdata"));
 }
 
 TEST_F(WorkFoldersTest, LieBelowTheUsersFolderWhereTheirOwnIsReadOnly)
 {
     ASSERT_TRUE(MakeFolder(path("data")));
-    allow(path("data"), "r-x");
-    allow(application(), "rwx");
-    becomeSomebodyElse();
+    giveToSomebodyElseAndBecomeThem({application(), path("data")});
+    allow(path("data"), 0555);
     EXPECT_EQ(WorkFolder(application(), "data"), ofTheUser("data"));
 }
 

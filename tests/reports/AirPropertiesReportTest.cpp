@@ -7,15 +7,16 @@ namespace {
 class AirPropertiesReport : public ReportCommandTest
 {
 protected:
-    std::string written(PercentReading reading = PercentReading::InDouble) const
+    std::string written(AirBlock::Conversion fractionOf = SavedFraction) const
     {
-        return textOfReport([&](ReportWriter& report) { WriteAirPropertiesReport(report, fields, reading); });
+        return textOfReport(
+            [&](ReportWriter& report) { WriteAirPropertiesReport(report, fields, fractionOf); });
     }
 
     /// The line of the relative humidity.
-    std::string humidityLine(PercentReading reading) const
+    std::string humidityLine(AirBlock::Conversion fractionOf) const
     {
-        const std::string text = written(reading);
+        const std::string text = written(fractionOf);
         const std::size_t start = text.find(" Relative");
         return text.substr(start, text.find('\n', start) - start);
     }
@@ -33,8 +34,8 @@ protected:
 
 TEST_F(AirPropertiesReport, ListsTheFieldsInEnglish)
 {
-    EXPECT_EQ(written(PercentReading::InDouble), expectedReport("air-properties-english"));
-    EXPECT_EQ(written(PercentReading::InSingle), expectedReport("air-properties-english"));
+    EXPECT_EQ(written(SavedFraction), expectedReport("air-properties-english"));
+    EXPECT_EQ(written(PrintedFraction), expectedReport("air-properties-english"));
 }
 
 TEST_F(AirPropertiesReport, ListsTheFieldsInMetricWithoutTheGrains)
@@ -73,7 +74,7 @@ TEST_F(AirPropertiesReport, StopsBeforeAHumidityThatIsNoNumber)
         EXPECT_EQ(written(), before + "(Type mismatch)") << '"' << text << '"';
     }
     fields.txtRH = "1e39";
-    EXPECT_EQ(written(PercentReading::InSingle), before + "(Overflow)");
+    EXPECT_EQ(written(PrintedFraction), before + "(Overflow)");
 }
 
 TEST_F(AirPropertiesReport, ReadsTheHumidityAsSingleForThePrinterAndAsDoubleForAFile)
@@ -81,8 +82,8 @@ TEST_F(AirPropertiesReport, ReadsTheHumidityAsSingleForThePrinterAndAsDoubleForA
     // 0.25 percent is half way between 0.2 and 0.3. A hundredth of it is 0.0025 as a double, to 15 digits,
     // and rounds up; the single, 0.00249999994412065, lies below the half.
     fields.txtRH = "0.25";
-    EXPECT_EQ(humidityLine(PercentReading::InDouble), " Relative Humidity =        0.3%");
-    EXPECT_EQ(humidityLine(PercentReading::InSingle), " Relative Humidity =        0.2%");
+    EXPECT_EQ(humidityLine(SavedFraction), " Relative Humidity =        0.3%");
+    EXPECT_EQ(humidityLine(PrintedFraction), " Relative Humidity =        0.2%");
 }
 
 TEST_F(AirPropertiesReport, IsSavedToTheFileOfTheUsersChoice)

@@ -1,24 +1,53 @@
-#include "reports/LineForms.h"
+#include "reports/ReportWriter.h"
 
 #include <gtest/gtest.h>
 
 namespace {
+
+/// The one line that a form writes.
+template <class... Texts>
+std::string lineOf(void (ReportWriter::*form)(Texts...), const std::type_identity_t<Texts>&... texts)
+{
+    std::string written;
+    ReportWriter report([&written](const std::string& line) { written += line; },
+                        [] { return std::string("21 Nov 2026"); });
+    (report.*form)(texts...);
+    return written;
+}
+
+std::string LabelAndValue(std::string_view label, std::string_view value)
+{
+    return lineOf(&ReportWriter::labelAndValue, label, value);
+}
+
+std::string LabelValueAndUnit(std::string_view label, std::string_view value, std::string_view unit)
+{
+    return lineOf(&ReportWriter::labelValueAndUnit, label, value, unit);
+}
+
+std::string ValueAndUnit(std::string_view value, std::string_view unit)
+{
+    return lineOf(&ReportWriter::valueAndUnit, value, unit);
+}
 
 /// The column, from 1, that a text begins at.
 std::size_t columnOf(const std::string& text, const std::string& line) { return line.find(text) + 1; }
 
 TEST(LineForms, BeginTheDateAtColumn40)
 {
-    EXPECT_EQ(DateLine("21 Nov 2026"), "                                       21 Nov 2026");
-    EXPECT_EQ(columnOf("21 Nov", DateLine("21 Nov 2026")), 40U);
+    EXPECT_EQ(lineOf(&ReportWriter::dateLine), "                                       21 Nov 2026");
+    EXPECT_EQ(columnOf("21 Nov", lineOf(&ReportWriter::dateLine)), 40U);
 }
 
-TEST(LineForms, BeginAHeadingAtColumn2) { EXPECT_EQ(Heading("Mixed Air"), " Mixed Air"); }
+TEST(LineForms, BeginAHeadingAtColumn2)
+{
+    EXPECT_EQ(lineOf(&ReportWriter::heading, "Mixed Air"), " Mixed Air");
+}
 
 TEST(LineForms, RuleOffWith37HyphensFromColumn2)
 {
-    EXPECT_EQ(Rule(), " -------------------------------------");
-    EXPECT_EQ(Rule().size(), 38U);
+    EXPECT_EQ(lineOf(&ReportWriter::rule), " -------------------------------------");
+    EXPECT_EQ(lineOf(&ReportWriter::rule).size(), 38U);
 }
 
 TEST(LineForms, SetLabelValueAndUnitAtTheColumns2And29And43)
@@ -82,8 +111,9 @@ TEST(LineForms, SetAValueAndItsUnitAtTheColumns2And15)
 
 TEST(LineForms, SetAValueAtColumn4)
 {
-    EXPECT_EQ(Column4Line("21 Nov 2026"), "   21 Nov 2026");
-    EXPECT_EQ(Column4Line(), "   ");
+    EXPECT_EQ(lineOf(&ReportWriter::column4Line, "a text"), "   a text");
+    EXPECT_EQ(lineOf(&ReportWriter::column4DateLine), "   21 Nov 2026");
+    EXPECT_EQ(lineOf(&ReportWriter::column4Line, ""), "   ");
 }
 
 TEST(LineForms, CountCharactersAndNotBytes)
@@ -93,19 +123,18 @@ TEST(LineForms, CountCharactersAndNotBytes)
     EXPECT_EQ(line, " Air Flow Rate =            12\u202f345         m3/hr");
 }
 
-TEST(ReportLine, ZonesBeginEvery14Columns)
+TEST(LineForms, BeginAZoneEvery14Columns)
 {
-    EXPECT_EQ(ReportLine().PrintZone().put("x").text().find('x'), 14U);
-    EXPECT_EQ(ReportLine().PrintZone().PrintZone().put("x").text().find('x'), 28U);
-    EXPECT_EQ(ReportLine().PrintZone().PrintZone().PrintZone().put("x").text().find('x'), 42U);
-    EXPECT_EQ(ReportLine().put(std::string(55, '.')).PrintZone().put("x").text().find('x'), 56U);
-    EXPECT_EQ(ReportLine().put(std::string(57, '.')).PrintZone().put("x").text().find('x'), 70U);
-}
-
-TEST(ReportLine, GoesNowhereToAColumnItHasPassed)
-{
-    EXPECT_EQ(ReportLine().put("12345").toColumn(4).put("x").text(), "12345x");
-    EXPECT_EQ(ReportLine().put("123").toColumn(4).put("x").text(), "123x");
+    const auto columnBehind = [](std::size_t length) {
+        return columnOf("x", ValueAndUnit(std::string(length, '.'), "x"));
+    };
+    EXPECT_EQ(columnBehind(0), 15U);
+    EXPECT_EQ(columnBehind(12), 15U);
+    EXPECT_EQ(columnBehind(14), 29U);
+    EXPECT_EQ(columnBehind(26), 29U);
+    EXPECT_EQ(columnBehind(28), 43U);
+    EXPECT_EQ(columnBehind(54), 57U);
+    EXPECT_EQ(columnBehind(56), 71U);
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 
 #include <QFileInfo>
 
+#include <sys/stat.h>
+
 namespace {
 
 class PrintFrame : public ReportCommandTest
@@ -169,6 +171,53 @@ TEST_F(PrintFrame, UsesTheUsersOwnFolderWhereTheApplicationsCannotBeWritten)
     print(printTo(file("out.pdf")), oneLine("text"));
     EXPECT_EQ(bytesOf(qEnvironmentVariable("XDG_DATA_HOME") + "/Dunmoor/tempdata/cooling.txt"), " text\n");
     EXPECT_EQ(textOf(file("out.pdf")), "text\n");
+}
+
+TEST_F(PrintFrame, UsesTheUsersOwnFolderWhereOthersMayWriteBesideTheProgram)
+{
+    QFile victim(file("victim"));
+    ASSERT_TRUE(victim.open(QIODevice::WriteOnly));
+    ASSERT_EQ(chmod(base.toLocal8Bit(), 01777), 0);
+    QDir().mkpath(base + "/tempdata");
+    ASSERT_TRUE(QFile::link(file("victim"), temporaryFile())); // as somebody else would plant it
+    print(printTo(file("out.pdf")), oneLine("text"));
+    EXPECT_EQ(bytesOf(file("victim")), "");
+    EXPECT_EQ(bytesOf(qEnvironmentVariable("XDG_DATA_HOME") + "/Dunmoor/tempdata/cooling.txt"), " text\n");
+    EXPECT_EQ(textOf(file("out.pdf")), "text\n");
+}
+
+TEST_F(PrintFrame, EndsSilentlyAtALinkInPlaceOfItsTemporaryFile)
+{
+    QDir().mkpath(base + "/tempdata");
+    ASSERT_TRUE(QFile::link(file("victim"), temporaryFile()));
+    for (const std::string content : {"(none)", "kept"}) {
+        print(printTo(file("out.pdf")), oneLine("text"));
+        EXPECT_EQ(bytesOf(file("victim")), content);
+        EXPECT_EQ(bytesOf(file("out.pdf")), "(none)");
+        EXPECT_FALSE(ReportFile.isOpen());
+        QFile victim(file("victim")); // the second time the link leads to a file
+        ASSERT_TRUE(victim.open(QIODevice::WriteOnly));
+        victim.write("kept");
+    }
+}
+
+TEST_F(PrintFrame, EndsSilentlyAtAPipeInPlaceOfItsTemporaryFile)
+{
+    QDir().mkpath(base + "/tempdata");
+    ASSERT_EQ(mkfifo(temporaryFile().toLocal8Bit(), 0600), 0);
+    print(printTo(file("out.pdf")), oneLine("text"));
+    EXPECT_EQ(bytesOf(file("out.pdf")), "(none)");
+    EXPECT_FALSE(ReportFile.isOpen());
+}
+
+TEST_F(PrintFrame, EndsSilentlyWhereThePdfFileIsAPipe)
+{
+    print(printTo(file("out.pdf")), [this](ReportWriter& report) {
+        report.heading("text");
+        ASSERT_EQ(mkfifo(file("out.pdf").toLocal8Bit(), 0600), 0);
+    });
+    EXPECT_EQ(bytesOf(temporaryFile()), " text\n");
+    EXPECT_FALSE(CurrentPrinter().isPrinting());
 }
 
 TEST_F(PrintFrame, TakesPathsWithBlanksAndLettersOfAnyLanguage)

@@ -1,4 +1,5 @@
 #include "tests/reports/Reports.h"
+#include "tests/support/FullDisk.h"
 
 namespace {
 
@@ -49,11 +50,13 @@ TEST_F(ReportFileTest, RaisesWhatKeepsItFromOpening)
     EXPECT_EQ(errorOf([&] { ReportFile.openForOutput(path("missing/file")); }), 76);
     EXPECT_EQ(errorOf([&] { ReportFile.openForOutput(folder.path().toStdString()); }), 75);
     EXPECT_EQ(errorOf([&] { ReportFile.openForInput(path("missing")); }), 53);
+    EXPECT_EQ(errorOf([] { ReportFile.openForOutput("/dev/full"); }), 75);
 }
 
 TEST_F(ReportFileTest, RaisesAFullDiskAtTheLineAndStaysOpen)
 {
-    ReportFile.openForOutput("/dev/full");
+    ReportFile.openForOutput(path());
+    const FullDisk disk;
     EXPECT_EQ(errorOf([] { ReportFile.writeLine("text"); }), 75);
     EXPECT_TRUE(ReportFile.isOpen());
 }

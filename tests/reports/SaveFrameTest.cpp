@@ -1,7 +1,10 @@
 #include "reports/SaveFrame.h"
 #include "tests/reports/Reports.h"
+#include "tests/support/FullDisk.h"
 
 #include <QFileDialog>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -133,9 +136,31 @@ TEST_F(SaveFrame, EndsSilentlyWhereTheFileCannotBeOpenedAndWorksAgain)
     EXPECT_EQ(dialogs.shown.size(), 4U); // no message among them
 }
 
+TEST_F(SaveFrame, EndsSilentlyOnWhatIsNoRegularFileAndWorksAgain)
+{
+    ASSERT_EQ(mkfifo(file("pipe").toLocal8Bit(), 0600), 0);
+    for (const QString& bad : {file("pipe"), QString("/dev/full"), QString("/dev/null")})
+        save(saveAs(bad));
+    EXPECT_FALSE(ReportFile.isOpen());
+    save(saveAs("report"));
+    EXPECT_EQ(bytesOf(base + "/data/report"), " text\n");
+    EXPECT_EQ(dialogs.shown.size(), 4U); // no message among them
+}
+
+TEST_F(SaveFrame, FollowsALinkThatTheUserChooses)
+{
+    ASSERT_TRUE(QFile::link(file("target"), file("link")));
+    save(saveAs(file("link")));
+    EXPECT_EQ(bytesOf(file("target")), " text\n");
+    EXPECT_TRUE(QFileInfo(file("link")).isSymLink());
+}
+
 TEST_F(SaveFrame, StaysOpenAfterAFullDiskSoThatLaterSavesEndSilently)
 {
-    save(saveAs("/dev/full"));
+    saveFailing(saveAs("first"), [](ReportWriter& report) {
+        const FullDisk disk;
+        report.heading("text");
+    });
     EXPECT_TRUE(ReportFile.isOpen());
     save(saveAs("report"));
     EXPECT_EQ(bytesOf(base + "/data/report"), "(none)");

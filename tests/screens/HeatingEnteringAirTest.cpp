@@ -114,3 +114,12 @@ TEST_F(HeatingEnteringScreen, EndsTheProgramAtTheKeyThatMakesTheVolumeNoNumber)
     saveWorkedAir();
     EXPECT_EXIT(user.type("txtAirVolume", "x"), testing::ExitedWithCode(1), "Run-time error '13'");
 }
+
+TEST_F(HeatingEnteringScreen, KeepsTheVolumeAtAltWithALetterThatIsNoAccessKey)
+{
+    open();
+    saveWorkedAir();
+    user.widget("txtAirVolume")->setFocus(Qt::TabFocusReason);
+    user.key(Qt::Key_Z, Qt::AltModifier);
+    EXPECT_EQ(user.text("txtAirVolume"), "1,000");
+}

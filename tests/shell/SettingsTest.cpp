@@ -4,8 +4,15 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
+#include <QDir>
+#include <QFileInfo>
 #include <QScreen>
+#include <QStandardPaths>
+#include <QTimer>
 #include <QWidget>
+
+#include <sys/stat.h>
 
 class OptionsScreen : public ProgramTest
 {
@@ -16,6 +23,11 @@ protected:
         user.inDialog("Settings", actions);
         user.choose("mnuOptions");
         EXPECT_FALSE(isLoaded<Settings>());
+    }
+
+    static QString storeFile()
+    {
+        return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/Dunmoor.ini";
     }
 
     static inline const Message psiRange{"Please input an atmospheric pressure between 11 and 16 psi.",
@@ -332,6 +344,40 @@ TEST_F(OptionsScreen, GoesOnWhereTheStoreCannotBeWritten)
     EXPECT_EQ(user.window(), "MainForm");
 }
 
+TEST_F(OptionsScreen, GoesOnWithTheNewSettingWhereTheStoreIsNoFile)
+{
+    const QString file = storeFile();
+    QDir().mkpath(QFileInfo(file).path());
+    ASSERT_EQ(mkfifo(file.toLocal8Bit(), 0600), 0);
+    start();
+    inOptions([this] {
+        user.type("txtBP", "12");
+        user.click("btnOK");
+    });
+    EXPECT_EQ(BaroPressure, 12.0F);
+    user.choose("mnuExit");
+    ASSERT_EQ(user.messages.size(), 1U) << "it is said once";
+    EXPECT_EQ(user.messages[0].text,
+              "The settings can't be read:\n" + file.toStdString() +
+                  "\nis not a text file of at most 1 MB. It is left as it is, and the default "
+                  "settings apply.");
+    EXPECT_EQ(user.messages[0].title, "Dunmoor");
+    EXPECT_FALSE(QFileInfo(file).isFile());
+}
+
+TEST_F(OptionsScreen, KeepsItsSettingsInTheHomeFolderWhereTheConfigurationFolderIsRelative)
+{
+    qputenv("XDG_CONFIG_HOME", "relative");
+    start();
+    inOptions([this] {
+        user.type("txtBP", "12");
+        user.click("btnOK");
+    });
+    EXPECT_EQ(storeFile(), QDir::homePath() + "/.config/Dunmoor.ini");
+    EXPECT_TRUE(QFileInfo(storeFile()).isFile());
+    EXPECT_FALSE(QFileInfo::exists("relative"));
+}
+
 TEST_F(OptionsScreen, NamesItsFieldWithTheUnit)
 {
     start();
@@ -341,4 +387,20 @@ TEST_F(OptionsScreen, NamesItsFieldWithTheUnit)
         EXPECT_EQ(user.widget("txtBP")->accessibleName().toStdString(), "Barometric pressure, kPa");
         user.click("btnCancel");
     });
+}
+
+TEST_F(OptionsScreen, MayBeClosedUnderTheContextMenuOfThePressure)
+{
+    start();
+    inOptions([this] {
+        QWidget* const field = user.widget("txtBP");
+        QTimer::singleShot(0, qApp, [this] {
+            EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+            user.closeWindow();
+        });
+        QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, field->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(field, &event);
+    });
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(user.window(), "MainForm");
 }

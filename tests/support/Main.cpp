@@ -7,12 +7,15 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 int main(int argc, char** argv)
 {
     // Tests of a fatal end start anew in a process of their own: the toolkit paints with threads, which a
     // plain fork would lose. That process shares the settings, so that a test sees what it wrote.
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     testing::InitGoogleTest(&argc, argv);
+    umask(022); // the program leaves folders alone in which others may write
     const QTemporaryDir ownHome;
     const QDir home(qEnvironmentVariable("DUNMOOR_TEST_HOME", ownHome.path()));
     qputenv("DUNMOOR_TEST_HOME", home.path().toUtf8());

@@ -232,3 +232,28 @@ TEST_F(EndOfTheProcess, ComesOutOfAModalDialog)
     EXPECT_EQ(runWith([this] { user.click("btnFirst"); }), 0);
     EXPECT_EQ(only({"the caller goes on"}), Calls{"the caller goes on"});
 }
+
+TEST_F(EndOfTheProcess, ComesWithoutACrashWhereTheToolkitEndsIt)
+{
+    const auto exitWith = [](int status) {
+        form<SecondScreen>().Unload(); // still waits to be destroyed
+        std::exit(status);
+    };
+    showFirstScreen();
+    form<FirstDialog>().Show();
+    form<SecondScreen>().Show();
+    EXPECT_EXIT(exitWith(3), testing::ExitedWithCode(3), "");
+}
+
+TEST_F(EndOfTheProcess, ComesOutOfAMessageBoxOverAModalDialog)
+{
+    showFirstScreen().btnFirst.onClick([] {
+        form<FirstDialog>().ShowModal();
+        calls.push_back("the caller goes on");
+    });
+    form<FirstDialog>().btnFirst.onClick([] { MsgBox("a message"); });
+    user.atMessage([] { endProcess(); });
+    user.inDialog("FirstDialog", [this] { user.click("btnFirst"); });
+    EXPECT_EQ(runWith([this] { user.click("btnFirst"); }), 0);
+    EXPECT_EQ(only({"the caller goes on"}), Calls{"the caller goes on"});
+}

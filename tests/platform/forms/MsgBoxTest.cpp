@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 class MessageBoxes : public testing::Test
 {
@@ -109,4 +110,17 @@ TEST_F(MessageBoxes, StandOverTheFormThatIsInUse)
         box.close();
     });
     FormRegistry::clear();
+}
+
+TEST_F(MessageBoxes, OutlastATipThatIsTheOnlyWindowInSight)
+{
+    QToolTip::showText({5, 5}, "a tip");
+    ASSERT_TRUE(QToolTip::isVisible());
+    show("a text", "", [](QMessageBox& box) {
+        QToolTip::hideText();
+        ASSERT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(box.text(), "a text");
+        box.close();
+    });
 }

@@ -11,7 +11,6 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QTest>
-#include <QTimer>
 
 class FieldKeys : public FormsTest
 {
@@ -59,20 +58,28 @@ protected:
         QApplication::sendEvent(&edit(), &event);
     }
 
+    /// A key as a keyboard gives it: what it types beside its name, which need not be the same letter.
+    void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text)
+    {
+        QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
+        QApplication::sendEvent(&edit(), &event);
+    }
+
     /// Opens the context menu and chooses an entry of it, if it is there to be chosen.
     void chooseFromContextMenu(const QString& caption)
     {
-        QTimer::singleShot(0, qApp, [caption] {
-            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            ASSERT_NE(menu, nullptr);
-            for (QAction* entry : menu->actions()) {
-                if (entry->text().remove('&').startsWith(caption))
-                    entry->trigger();
-            }
-            menu->close();
-        });
         QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, edit().mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&edit(), &event);
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        EXPECT_FALSE(edit().isReadOnly()) << "the field is as before, while the menu is open too";
+        for (QAction* entry : menu->actions()) {
+            if (entry->text().remove('&').startsWith(caption))
+                entry->trigger();
+        }
+        menu->close();
+        comeToRest();
+        EXPECT_EQ(edit().findChild<QMenu*>(), nullptr) << "no menu is left behind";
     }
 
     std::vector<int> keys;
@@ -236,6 +243,71 @@ TEST_F(FieldKeys, ThatAreSwallowedUndoAndRedoNothing)
     EXPECT_EQ(user.text("txtFirst"), "8");
 }
 
+TEST_F(FieldKeys, ThatAreSwallowedUndoNothingWhereTheCommandComesWithoutACharacter)
+{
+    FirstScreen& screen = showPassing();
+    user.type("txtFirst", "8");
+    screen.txtFirst.onKeyPress([](int& key) { key = Key::Swallowed; });
+    pressKey(Qt::Key_Z, Qt::ControlModifier, "");
+    EXPECT_EQ(user.text("txtFirst"), "8");
+    screen.txtFirst.onKeyPress({});
+    pressKey(Qt::Key_Z, Qt::ControlModifier, "");
+    ASSERT_EQ(user.text("txtFirst"), "70");
+    screen.txtFirst.onKeyPress([](int& key) { key = Key::Swallowed; });
+    pressKey(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier, "");
+    EXPECT_EQ(user.text("txtFirst"), "70");
+}
+
+TEST_F(FieldKeys, ThatAreSwallowedDeleteNothingWhereTheCommandComesWithoutACharacter)
+{
+    showSwallowing();
+    for (const Qt::Key key :
+         {Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_K, Qt::Key_U, Qt::Key_X, Qt::Key_V}) {
+        user.key(Qt::Key_Home);
+        pressKey(key, Qt::ControlModifier, "");
+        user.key(Qt::Key_End);
+        pressKey(key, Qt::ControlModifier, "");
+        EXPECT_EQ(user.text("txtFirst"), "70") << QKeySequence(Qt::CTRL | key).toString().toStdString();
+    }
+}
+
+TEST_F(FieldKeys, DoNothingWithCtrlAltOrMetaAndALetterThatIsNoCommand)
+{
+    showPassing();
+    for (const Qt::KeyboardModifiers held :
+         {Qt::KeyboardModifiers(Qt::AltModifier), Qt::AltModifier | Qt::ShiftModifier,
+          Qt::KeyboardModifiers(Qt::ControlModifier), Qt::ControlModifier | Qt::ShiftModifier,
+          Qt::KeyboardModifiers(Qt::MetaModifier),
+          Qt::MetaModifier | Qt::ControlModifier | Qt::AltModifier}) {
+        pressKey(Qt::Key_J, held, "j");
+        pressKey(Qt::Key_5, held, "5");
+        pressKey(Qt::Key_M, held, "\r"); // what some systems give for Ctrl+M: no Enter
+    }
+    EXPECT_EQ(user.text("txtFirst"), "70");
+    EXPECT_TRUE(keys.empty());
+}
+
+TEST_F(FieldKeys, TypeWithAltGrHoweverTheSystemReportsIt)
+{
+    showPassing();
+    user.type("txtFirst", "");
+    keys.clear();
+    pressKey(Qt::Key_5, Qt::NoModifier, "\u00BD");
+    pressKey(Qt::Key_5, Qt::GroupSwitchModifier, "\u00BC");
+    pressKey(Qt::Key_5, Qt::ControlModifier | Qt::AltModifier, "\u00BE");
+    pressKey(Qt::Key_J, Qt::ControlModifier | Qt::AltModifier, "\n"); // Ctrl+Alt that is no AltGr
+    EXPECT_EQ(user.text("txtFirst"), "\u00BD\u00BC\u00BE");
+    EXPECT_EQ(keys, (std::vector{0xBD, 0xBC, 0xBE}));
+}
+
+TEST_F(FieldKeys, LeaveToTheWindowWhatEditsNothing)
+{
+    showPassing();
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Z, Qt::AltModifier, "z");
+    QApplication::sendEvent(&edit(), &event);
+    EXPECT_FALSE(event.isAccepted());
+}
+
 TEST_F(FieldKeys, StillMoveSelectAndCopyInAFieldThatSwallows)
 {
     showSwallowing();
@@ -261,7 +333,6 @@ TEST_F(FieldKeys, CopyByTheContextMenuOfAFieldThatSwallows)
     user.key(Qt::Key_A, Qt::ControlModifier);
     chooseFromContextMenu("Copy");
     EXPECT_EQ(QApplication::clipboard()->text(), "70");
-    EXPECT_FALSE(edit().isReadOnly()) << "the field is as before";
 }
 
 TEST_F(FieldKeys, SelectByTheMouseInAFieldThatSwallows)

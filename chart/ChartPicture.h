@@ -1,0 +1,22 @@
+#pragma once
+
+#include "chart/Layout.h"
+#include "platform/forms/Picture.h"
+
+#include <optional>
+
+namespace chart {
+
+/// A psychrometric chart with the last run of each calculator, in the units and at the pressure in force.
+class ChartPicture : public PictureContents
+{
+public:
+    std::string version() const override;
+    void paint(QPainter& painter, const QSize& size, const QWidget& on) override;
+    std::string tipAt(const QPoint& place) const override;
+
+private:
+    std::optional<Layout> painted; ///< without its curves
+};
+
+} // namespace chart

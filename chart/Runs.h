@@ -1,0 +1,25 @@
+#pragma once
+
+#include "core/LastRuns.h"
+
+#include <vector>
+
+namespace chart {
+
+/// A calculator's last run as the chart shows it.
+struct Run
+{
+    Calculator calculator{};
+    std::vector<RunState> states; ///< without those above saturation
+    bool isJoined = false;        ///< a line joins the first two states; never if a state was left out
+
+    /// The line has an arrow.
+    bool isDirected() const { return calculator != Calculator::MixedAir; }
+};
+
+const char* TitleOf(Calculator calculator);
+
+/// The last runs in the units in force, in the order of the main menu.
+std::vector<Run> ShownRuns();
+
+} // namespace chart

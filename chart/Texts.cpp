@@ -1,0 +1,54 @@
+#include "chart/Texts.h"
+
+#include "core/NumberPicture.h"
+#include "core/NumberText.h"
+#include "core/StatePoint.h"
+
+#include <cmath>
+#include <string>
+
+namespace chart {
+namespace {
+
+QString number(double value, const char* picture)
+{
+    return QString::fromStdString(FormatNumber(TaggedNumber(value), picture));
+}
+
+} // namespace
+
+QString TdbUnit() { return IsMetric() ? "°C" : "°F"; }
+QString HumidityRatioUnit() { return IsMetric() ? "g/kg" : "lb/lb"; }
+QString SpecificVolumeUnit() { return IsMetric() ? "m³/kg" : "ft³/lb"; }
+
+QString RoundFigure(double value)
+{
+    return QString::fromStdString(PlainText(QString::number(value, 'g', 9).toDouble()));
+}
+
+QString HumidityRatioFigure(double w, double step)
+{
+    const double unit = IsMetric() ? 1000 : 1;
+    constexpr double rounding = 1e-6;
+    const int decimals = static_cast<int>(std::ceil(-std::log10(step * unit) - rounding));
+    const std::string picture =
+        decimals > 0 ? "#0." + std::string(static_cast<std::size_t>(decimals), '0') : "#0";
+    return number(w * unit, picture.c_str());
+}
+
+QString TdbText(double tdb) { return number(tdb, "#0.0") + " " + TdbUnit(); }
+
+QString HumidityRatioText(double w)
+{
+    return (IsMetric() ? number(w * 1000, "#0.00") : number(w, "#0.0000")) + " " + HumidityRatioUnit();
+}
+
+QString RelativeHumidityText(double rh) { return number(rh * 100, "#0.0") + " %"; }
+
+QString PressureText(double pressure)
+{
+    const double shown = IsMetric() ? pressure / 1000 : pressure;
+    return RoundFigure(QString::number(shown, 'g', 6).toDouble()) + (IsMetric() ? " kPa" : " psi");
+}
+
+} // namespace chart

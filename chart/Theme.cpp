@@ -1,0 +1,79 @@
+#include "chart/Theme.h"
+
+#include <array>
+
+namespace chart {
+namespace {
+
+struct Pair
+{
+    QColor light;
+    QColor dark;
+
+    const QColor& on(bool isDark) const { return isDark ? dark : light; }
+};
+
+const Pair saturation{{16, 62, 120}, {130, 195, 255}};
+const Pair humidity{{72, 118, 176}, {96, 148, 205}};
+const Pair wetBulb{{46, 128, 92}, {92, 176, 136}};
+const Pair volume{{160, 112, 48}, {196, 152, 92}};
+
+/// In the order of the main menu.
+const std::array<Pair, 5> runs{{{{112, 48, 150}, {205, 150, 240}},
+                                {{190, 40, 45}, {255, 125, 120}},
+                                {{0, 98, 190}, {110, 180, 255}},
+                                {{190, 88, 0}, {255, 170, 85}},
+                                {{0, 118, 104}, {80, 210, 190}}}};
+
+constexpr int thinCurveAlpha = 130;
+constexpr int gridAlpha = 40;
+constexpr int axisAlpha = 170;
+
+} // namespace
+
+Theme::Theme(const QPalette& desktop)
+    : palette(desktop), isDark(desktop.color(QPalette::Base).lightness() < 128)
+{}
+
+QColor Theme::axis() const
+{
+    QColor color = palette.color(QPalette::WindowText);
+    color.setAlpha(axisAlpha);
+    return color;
+}
+
+QPen Theme::pen(Family family) const
+{
+    QColor color = text(family);
+    switch (family) {
+    case Family::Saturation:
+        return {color, 2.2};
+    case Family::DryBulb:
+    case Family::HumidityRatio:
+        color.setAlpha(gridAlpha);
+        break;
+    default:
+        color.setAlpha(thinCurveAlpha);
+    }
+    return {color, 1};
+}
+
+QColor Theme::text(const std::optional<Family>& family) const
+{
+    if (family == Family::Saturation)
+        return saturation.on(isDark);
+    if (family == Family::RelativeHumidity)
+        return humidity.on(isDark);
+    if (family == Family::WetBulb)
+        return wetBulb.on(isDark);
+    if (family == Family::SpecificVolume)
+        return volume.on(isDark);
+    return palette.color(QPalette::WindowText);
+}
+
+QColor Theme::run(Calculator calculator) const
+{
+    return runs.at(static_cast<std::size_t>(calculator)).on(isDark);
+}
+
+} // namespace chart

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "chart/Curves.h"
+#include "core/LastRuns.h"
+
+#include <QColor>
+#include <QPalette>
+#include <QPen>
+
+#include <optional>
+
+namespace chart {
+
+/// The colors of the chart on a light or a dark desktop.
+class Theme
+{
+public:
+    explicit Theme(const QPalette& desktop);
+
+    QColor paper() const { return palette.color(QPalette::Base); }
+    QColor axis() const;
+    QPen pen(Family family) const;
+    /// Of the names of a family; of other text if there is no family.
+    QColor text(const std::optional<Family>& family) const;
+    /// Of the states and the process of a calculator.
+    QColor run(Calculator calculator) const;
+
+private:
+    QPalette palette;
+    bool isDark;
+};
+
+} // namespace chart

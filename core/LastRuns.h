@@ -1,0 +1,51 @@
+#pragma once
+
+#include "core/AirSnapshot.h"
+
+#include <array>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+/// The calculators, in the order of the main menu.
+enum class Calculator
+{
+    AirProperties,
+    MixedAir,
+    Cooling,
+    Heating,
+    Humidification,
+};
+
+/// A state of a run.
+struct RunState
+{
+    std::string name; ///< its role in the calculator, for example "entering"
+    Single Tdb = 0;   ///< deg F or deg C
+    Single W = 0;     ///< lb/lb or kg/kg
+    Single P = 0;     ///< psi or Pa
+
+    friend bool operator==(const RunState&, const RunState&) = default;
+};
+
+/// The last run that a calculator completed.
+struct LastRun
+{
+    Calculator calculator{};
+    Boolean16 units = False16;    ///< the UnitSystem of the run
+    std::vector<RunState> states; ///< empty before the first run
+
+    friend bool operator==(const LastRun&, const LastRun&) = default;
+};
+
+/// One record for each calculator, in the order of the main menu. No calculation reads them.
+inline std::array<LastRun, 5> LastRuns;
+
+struct NamedAir
+{
+    const char* name;
+    const AirSnapshot& air;
+};
+
+/// Replaces a calculator's record. Called at the step that completes a run; changes nothing else.
+void KeepLastRun(Calculator calculator, std::initializer_list<NamedAir> states);

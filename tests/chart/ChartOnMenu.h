@@ -1,0 +1,164 @@
+#pragma once
+
+#include "chart/Layout.h"
+#include "tests/chart/Modes.h"
+#include "tests/screens/CalculatorFixture.h"
+
+#include <QHelpEvent>
+#include <QImage>
+#include <QTest>
+#include <QToolTip>
+
+#include <cstdlib>
+
+/// A user who looks at the chart of the main menu, and runs calculators.
+class ChartOnMenu : public CalculatorTest
+{
+protected:
+    QWidget* picture() const { return User::findWindow("MainForm")->findChild<QWidget*>("Image1"); }
+
+    /// What the menu shows once the chart is there: it comes after the window's first picture.
+    QImage shown() const
+    {
+        QImage image;
+        const bool isThere = QTest::qWaitFor([&] {
+            image = picture()->grab().toImage();
+            return !isBlank(image);
+        });
+        EXPECT_TRUE(isThere) << "the chart's place stays empty";
+        return image;
+    }
+
+    static bool isBlank(const QImage& image)
+    {
+        QImage ground(image.size(), image.format());
+        ground.setDevicePixelRatio(image.devicePixelRatio());
+        ground.fill(image.pixelColor(0, 0));
+        return image == ground;
+    }
+
+    chart::Layout layout() const { return {picture()->size(), picture()->font()}; }
+
+    /// Whether a state is marked on what the menu shows: a dot of one strong colour.
+    bool isMarked(double tdb, double w) const
+    {
+        const QImage image = shown();
+        const chart::Layout chart = layout();
+        const QPointF exactly = chart.plane.at(tdb, w);
+        const QPoint place(static_cast<int>(exactly.x()), static_cast<int>(exactly.y()));
+        const QColor centre = image.pixelColor(place);
+        if (centre.hsvSaturation() < 150)
+            return false;
+        for (const QPoint step : {QPoint(2, 0), QPoint(-2, 0), QPoint(0, 2), QPoint(0, -2)}) {
+            if (image.pixelColor(place + step) != centre)
+                return false;
+        }
+        return true;
+    }
+
+    void inOptions(const std::function<void()>& actions)
+    {
+        user.inDialog("Settings", actions);
+        user.choose("mnuOptions");
+    }
+
+    void changeUnits(const std::string& entry)
+    {
+        inOptions([&] {
+            user.chooseFromList("Combo1", entry);
+            user.click("btnOK");
+        });
+    }
+
+    std::string tipAt(QPointF place) const
+    {
+        shown();
+        const QPoint there = place.toPoint();
+        QHelpEvent event(QEvent::ToolTip, there, picture()->mapToGlobal(there));
+        QApplication::sendEvent(picture(), &event);
+        const std::string tip = QToolTip::isVisible() ? QToolTip::text().toStdString() : "";
+        QToolTip::hideText();
+        EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+        return tip;
+    }
+
+    void runMixedAir()
+    {
+        user.click("btnMixedAir");
+        calculate("95", "txtRH", "40");
+        answerVolume("btnSaveOSA", "1000");
+        calculate("75", "txtRH", "50");
+        answerVolume("btnRA", "3000");
+        user.click("btnMixedAir");
+        user.click("btnOK");
+        user.choose("mnuMain1");
+    }
+
+    void runCooling()
+    {
+        user.click("btnCooling");
+        calculate(IsMetric() ? "30" : "80", "txtRH", "50");
+        answerVolume("btnSaveEA", "1000");
+        user.inDialog("CoolingLoad2", [this] {
+            user.type("txtLATdb", IsMetric() ? "13" : "55");
+            user.type("txtLATwb", IsMetric() ? "12.5" : "54");
+            user.click("btnOK");
+        });
+        user.click("btnSetLA");
+        user.inDialog("CoolingLoad3", [this] { user.click("Command1"); });
+        user.click("btnCalcLoad");
+        user.choose("mnuMain1");
+    }
+
+    void runHeating()
+    {
+        user.click("btnHeating");
+        calculate(IsMetric() ? "20" : "70", "txtRH", "40");
+        answerVolume("btnSaveEnteringAir", "1000");
+        user.inDialog("HeatingLoad2", [this] {
+            user.type("txtHeatLAT", IsMetric() ? "38" : "100");
+            user.click("btnOK");
+        });
+        user.click("btnInputLeavingAir");
+        user.choose("mnuMain1");
+    }
+
+    void runHumidification()
+    {
+        user.click("btnHumidity");
+        calculate(IsMetric() ? "-20" : "20", "txtRH", "60");
+        user.inDialog("humid2", [this] {
+            user.type("txtDesT", IsMetric() ? "21" : "72");
+            user.type("txtDesH", "30");
+            user.type("txtOSA", "500");
+            user.click("btnCalcHumid");
+            user.click("btnOK");
+        });
+        user.click("btnHumidityDesired");
+        user.choose("mnuMain1");
+    }
+
+    void expectMarked(const std::vector<AirSnapshot>& states)
+    {
+        for (const AirSnapshot& air : states)
+            EXPECT_TRUE(isMarked(air.Tdb, air.W)) << air.Tdb << ", " << air.W;
+    }
+};
+
+/// By more than the rounding of a blended colour.
+inline bool differ(QRgb one, QRgb other)
+{
+    constexpr int rounding = 3;
+    return std::abs(qRed(one) - qRed(other)) > rounding || std::abs(qGreen(one) - qGreen(other)) > rounding ||
+           std::abs(qBlue(one) - qBlue(other)) > rounding;
+}
+
+inline int pixelsThatDiffer(const QImage& one, const QImage& other)
+{
+    int count = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x)
+            count += differ(one.pixel(x, y), other.pixel(x, y)) ? 1 : 0;
+    }
+    return count;
+}

@@ -1,0 +1,168 @@
+// The chart as a user of the main menu sees it: when it comes, what it says, how it is copied.
+
+#include "tests/chart/ChartOnMenu.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
+
+#include <sstream>
+
+namespace {
+
+/// All of the calculator's state, to the bit and the kind.
+std::string wholeState()
+{
+    std::ostringstream all;
+    all << std::hexfloat;
+    const MoistAirState& s = StatePoint;
+    const TaggedNumber* const tagged[] = {
+        &s.Mu, &s.Grains, &s.RH, &s.SpVol, &s.PwsDew, &s.PwsWet,  &s.Pws,           &s.W,
+        &s.Ws, &s.td,     &s.P,  &s.Pw,    &s.Twb,    &AirVolume, &AirVolumePreset, &HeatingLoadValue};
+    for (const TaggedNumber* number : tagged) {
+        all << static_cast<int>(number->kind()) << ' ' << number->text() << ' ';
+        if (number->kind() != NumberKind::Text)
+            all << number->asDouble() << '\n';
+    }
+    for (const Single number : {s.h, s.ReservedSingle, s.WsWet, s.TAbs, s.Tdb, BaroPressure, SpareSingle})
+        all << number << '\n';
+    all << UnitSystem << HumidityRatioTooHigh << GrainsTooHigh << HumiditySelector << '\n';
+    for (const AirSnapshot* air :
+         {&MixedOutsideAir, &MixedReturnAir, &MixedResultAir, &CoolingEnteringAir, &CoolingLeavingAir,
+          &HeatingEnteringAir, &HeatingLeavingAir, &HumidOutsideAir, &HumidDesiredAir})
+        all.write(reinterpret_cast<const char*>(air), sizeof *air);
+    return all.str();
+}
+
+} // namespace
+
+TEST_F(ChartOnMenu, ComesAfterTheFirstPictureOfTheMenu)
+{
+    start();
+    const QImage first = picture()->grab().toImage();
+    EXPECT_TRUE(isBlank(first));
+    EXPECT_GT(pixelsThatDiffer(first, shown()), 10000);
+}
+
+TEST_F(ChartOnMenu, FollowsTheColoursOfTheDesktop)
+{
+    start();
+    const QImage light = shown();
+    QPalette dark(QColor(45, 45, 48));
+    dark.setColor(QPalette::Base, QColor(30, 30, 32));
+    QApplication::setPalette(dark);
+    const chart::Layout chart = layout();
+    const QPoint paper = chart.plane.at(105.3, 0.0012).toPoint();
+    EXPECT_GT(light.pixelColor(paper).lightness(), 200);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown().pixelColor(paper).lightness() < 60; }));
+}
+
+TEST_F(ChartOnMenu, SaysWhatIsUnderThePointer)
+{
+    start();
+    runCooling();
+    const chart::Layout chart = layout();
+    const QPointF place = chart.plane.at(75, 0.0093);
+    // A pixel of the chart is about 0.2 degrees and 0.00005 lb/lb.
+    const std::string tip = tipAt(place);
+    const double tdb = chart.plane.tdbAt(place.toPoint().x());
+    const double w = chart.plane.wAt(place.toPoint().y());
+    StatePoint.Tdb = static_cast<Single>(tdb);
+    StatePoint.W = static_cast<Single>(w);
+    SolveFromW();
+    EXPECT_EQ(tip, FormatNumber(StatePoint.Tdb, "#0.0") + " °F dry bulb\n" +
+                       FormatNumber(StatePoint.W, "#0.0000") + " lb/lb humidity ratio\n" +
+                       FormatNumber(StatePoint.RH * 100, "#0.0") + " % relative humidity");
+    EXPECT_NEAR(tdb, 75, 0.2);
+    EXPECT_NEAR(w, 0.0093, 0.0001);
+
+    const std::string entering = tipAt(chart.plane.at(CoolingEnteringAir.Tdb, CoolingEnteringAir.W));
+    EXPECT_EQ(entering, "Cooling, entering\n80.0 °F dry bulb\n" +
+                            FormatNumber(CoolingEnteringAir.W, "#0.0000") +
+                            " lb/lb humidity ratio\n50.0 % relative humidity\nat 14.696 psi");
+    EXPECT_EQ(tipAt(chart.plane.at(40, 0.02)), "") << "no air is above saturation";
+    EXPECT_EQ(tipAt({1, 1}), "");
+}
+
+TEST_F(ChartOnMenu, SaysItInMetric)
+{
+    startInMetric();
+    runHeating();
+    EXPECT_EQ(tipAt(layout().plane.at(HeatingLeavingAir.Tdb, HeatingLeavingAir.W)),
+              "Heating, leaving\n38.0 °C dry bulb\n" + FormatNumber(HeatingLeavingAir.W * 1000.0, "#0.00") +
+                  " g/kg humidity ratio\n" + FormatNumber(HeatingLeavingAir.RH * 100.0, "#0.0") +
+                  " % relative humidity\nat 101.352 kPa");
+}
+
+TEST_F(ChartOnMenu, IsCopiedAsAPictureByItsMenu)
+{
+    start();
+    shown();
+    QGuiApplication::clipboard()->clear();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, {50, 50}, picture()->mapToGlobal(QPoint(50, 50)));
+    QApplication::sendEvent(picture(), &event);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    User::chooseFromMenu(*menu, menu->actions().constFirst());
+    const QImage copied = QGuiApplication::clipboard()->image();
+    EXPECT_EQ(copied.size(), picture()->size());
+    EXPECT_EQ(pixelsThatDiffer(copied, shown()), 0);
+}
+
+TEST_F(ChartOnMenu, IsCopiedByTheKeyboard)
+{
+    start();
+    picture()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(picture(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->image().size(), picture()->size());
+}
+
+TEST_F(ChartOnMenu, ChangesNothingOfTheState)
+{
+    start();
+    runMixedAir();
+    runCooling();
+    runHeating();
+    runHumidification();
+    for (const char* pressure : {"0", "-5", "0.1", "0.5", "12.35", "14.696", "101.325", "1e30", "3e38"}) {
+        for (const Boolean16 system : {False16, True16}) {
+            BaroPressure = ParseSingle(pressure);
+            UnitSystem = system;
+            const std::string before = wholeState();
+            picture()->update();
+            EXPECT_FALSE(shown().isNull());
+            for (const QPoint place : {QPoint(300, 300), QPoint(1, 1), QPoint(150, 500)})
+                tipAt(place);
+            QTest::keyClick(picture(), Qt::Key_C, Qt::ControlModifier);
+            EXPECT_EQ(wholeState(), before);
+        }
+    }
+}
+
+TEST_F(ChartOnMenu, FollowsTheSizeOfTheWindow)
+{
+    start();
+    shown();
+    User::findWindow("MainForm")->resize(1100, 900);
+    runCooling();
+    expectMarked({CoolingEnteringAir, CoolingLeavingAir});
+    EXPECT_GT(layout().plane.plot.width(), 700);
+}
+
+TEST_F(ChartOnMenu, IsDrawnInTheScreensOwnPixels)
+{
+    qputenv("QT_SCALE_FACTOR", "2"); // the new process of the test starts with it
+    EXPECT_EXIT(
+        {
+            start();
+            shown();
+            picture()->setFocus(Qt::TabFocusReason);
+            QTest::keyClick(picture(), Qt::Key_C, Qt::ControlModifier);
+            const QImage copied = QGuiApplication::clipboard()->image();
+            const QImage blurred = copied.scaled(copied.size() / 2).scaled(copied.size());
+            const bool isSharp =
+                copied.size() == picture()->size() * 2 && pixelsThatDiffer(copied, blurred) > 9000;
+            std::_Exit(isSharp ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
+}

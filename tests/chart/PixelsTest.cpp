@@ -1,0 +1,249 @@
+// The chart's curves, looked for in its pixels where the core's relations say that they are.
+
+#include "chart/Layout.h"
+#include "chart/Painter.h"
+#include "tests/chart/Modes.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QImage>
+
+#include <cmath>
+#include <functional>
+#include <string>
+
+namespace {
+
+constexpr QSize size(560, 610);
+
+Single saturatedW(double t)
+{
+    return HumidityRatioFromVaporPressure(SaturationPressure(ToAbsolute(static_cast<Single>(t))),
+                                          relationsPressure());
+}
+
+/// The humidity ratio of a curve at a dry bulb, straight from the relations.
+double ratioOn(chart::Family family, double value, double t)
+{
+    const auto tdb = static_cast<Single>(t);
+    const Single pws = SaturationPressure(ToAbsolute(tdb));
+    switch (family) {
+    case chart::Family::Saturation:
+        return saturatedW(t);
+    case chart::Family::RelativeHumidity:
+        return HumidityRatioFromVaporPressure(VaporPressureFromRH(static_cast<Single>(value / 100), pws),
+                                              relationsPressure());
+    case chart::Family::WetBulb:
+        return HumidityRatioFromWetBulb(static_cast<Single>(value), tdb, saturatedW(value));
+    default:
+        throw std::logic_error("no such curve");
+    }
+}
+
+/// The argument between two at which a function that only rises, or only falls, has a value.
+double whereIs(double value, double low, double high, const std::function<double(double)>& function)
+{
+    const bool rises = function(high) > function(low);
+    for (int count = 0; count < 60; ++count) {
+        const double middle = (low + high) / 2;
+        ((function(middle) < value) == rises ? low : high) = middle;
+    }
+    return low;
+}
+
+double tdbOfVolume(double volume, double w, const chart::Axis& tdb)
+{
+    return whereIs(volume, tdb.low - 50, tdb.high + 50, [&](double t) {
+        return SpecificVolumeOf(ToAbsolute(static_cast<Single>(t)), static_cast<Single>(w),
+                                relationsPressure());
+    });
+}
+
+/// The chart painted with one curve alone, or with none, on paper of one colour.
+class Picture1
+{
+public:
+    Picture1(double scale, const chart::Curve* curve)
+        : image(size * scale, QImage::Format_ARGB32_Premultiplied), chart(size, QApplication::font())
+    {
+        const QPalette palette(Qt::white);
+        image.setDevicePixelRatio(scale);
+        image.fill(palette.color(QPalette::Base));
+        chart.labels = chart::Labels(QRectF());
+        chart.marks.clear();
+        chart.curves.clear();
+        if (curve != nullptr)
+            chart.curves.push_back(*curve);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        chart::Paint(painter, chart, palette);
+    }
+
+    int darkness(int x, int y) const { return 255 - qGray(image.pixel(x, y)); }
+
+    QImage image;
+
+private:
+    chart::Layout chart;
+};
+
+/// Looks along a column or a row for the curve, a few pixels about its place; device pixels.
+class Finder
+{
+public:
+    Finder(double pictureScale, const chart::Curve& curve)
+        : scale(pictureScale), with(pictureScale, &curve), without(pictureScale, nullptr)
+    {}
+
+    void expectInColumn(int x, double place)
+    {
+        expectAt(place, [&](int y) { return strength(x, y); });
+    }
+    void expectInRow(int y, double place)
+    {
+        expectAt(place, [&](int x) { return strength(x, y); });
+    }
+
+    double scale;
+    int found = 0;
+
+private:
+    int strength(int x, int y) const { return with.darkness(x, y) - without.darkness(x, y); }
+
+    void expectAt(double place, const std::function<int(int)>& strengthAt)
+    {
+        constexpr int around = 12;
+        constexpr int visible = 25;
+        const int middle = static_cast<int>(std::floor(place));
+        int first = middle - around; // of the strongest pixels: a wide line has several
+        int last = first;
+        for (int next = first; next <= middle + around; ++next) {
+            if (strengthAt(next) > strengthAt(first))
+                first = next;
+            if (strengthAt(next) >= strengthAt(first))
+                last = next;
+        }
+        EXPECT_GE(strengthAt(first), visible) << "no line near " << place;
+        EXPECT_LE(std::fabs((first + last + 1) / 2.0 - place), 1.0 + 1e-6);
+        ++found;
+    }
+
+    Picture1 with;
+    Picture1 without;
+};
+
+/// Off the plot's edges, where the axes and the end of the line are.
+QRectF inner(const QRectF& plot) { return plot.adjusted(4, 4, -4, -4); }
+
+/// A curve whose humidity ratio is known at a dry bulb.
+void checkByDryBulb(const chart::Layout& chart, const chart::Curve& curve, double scale)
+{
+    Finder finder(scale, curve);
+    const chart::Plane& plane = chart.plane;
+    const auto ratio = [&](double t) { return ratioOn(curve.family, curve.value, t); };
+    const double start = curve.line.front().x() + 4;
+    const double end = curve.line.back().x() - 4;
+    for (int x = static_cast<int>(start * scale); x < end * scale; x += 7) {
+        const double t = plane.tdbAt((x + 0.5) / scale);
+        const QPointF place = plane.at(t, ratio(t));
+        const QPointF next = plane.at(t + 0.01, ratio(t + 0.01));
+        if (!inner(plane.plot).contains(place))
+            continue;
+        const bool isSteep = std::fabs(next.y() - place.y()) > std::fabs(next.x() - place.x());
+        if (!isSteep) {
+            finder.expectInColumn(x, place.y() * scale);
+        } else {
+            const int y = static_cast<int>(place.y() * scale);
+            const double w = plane.wAt((y + 0.5) / scale);
+            const double exactly = whereIs(w, t - 5, t + 5, ratio);
+            finder.expectInRow(y, plane.at(exactly, w).x() * scale);
+        }
+    }
+    if (end - start > 40) {
+        EXPECT_GT(finder.found, 3);
+    }
+}
+
+void checkVolume(const chart::Layout& chart, const chart::Curve& curve, double scale)
+{
+    Finder finder(scale, curve);
+    const chart::Plane& plane = chart.plane;
+    const double start = curve.line.front().y() + 4;
+    const double end = curve.line.back().y() - 4;
+    for (int y = static_cast<int>(start * scale); y < end * scale; y += 7) {
+        const double w = plane.wAt((y + 0.5) / scale);
+        const QPointF place = plane.at(tdbOfVolume(curve.value, w, plane.span.tdb), w);
+        if (inner(plane.plot).contains(place))
+            finder.expectInRow(y, place.x() * scale);
+    }
+    if (end - start > 40) {
+        EXPECT_GT(finder.found, 3);
+    }
+}
+
+void checkFamily(chart::Family family, std::size_t least)
+{
+    for (const Mode& mode : modes) {
+        mode.putInForce();
+        const chart::Layout chart(size, QApplication::font());
+        std::size_t members = 0;
+        for (const chart::Curve& curve : chart.curves) {
+            if (curve.family != family)
+                continue;
+            ++members;
+            for (const double scale : {1.0, 2.0}) {
+                SCOPED_TRACE(std::to_string(curve.value) + " at " + std::to_string(mode.pressure) +
+                             ", scale " + std::to_string(scale));
+                if (family == chart::Family::SpecificVolume)
+                    checkVolume(chart, curve, scale);
+                else
+                    checkByDryBulb(chart, curve, scale);
+            }
+        }
+        EXPECT_GE(members, least);
+    }
+}
+
+} // namespace
+
+TEST(ChartPixels, HaveTheSaturationCurveWhereTheRelationsPutIt) { checkFamily(chart::Family::Saturation, 1); }
+
+TEST(ChartPixels, HaveTheRelativeHumiditiesThere) { checkFamily(chart::Family::RelativeHumidity, 9); }
+
+TEST(ChartPixels, HaveTheWetBulbsThere) { checkFamily(chart::Family::WetBulb, 6); }
+
+TEST(ChartPixels, HaveTheSpecificVolumesThere) { checkFamily(chart::Family::SpecificVolume, 4); }
+
+TEST(ChartPixels, HaveTheTicksOfBothAxesOnRoundFigures)
+{
+    for (const Mode& mode : modes) {
+        mode.putInForce();
+        const chart::Layout chart(size, QApplication::font());
+        const chart::Span& span = chart.plane.span;
+        for (const chart::Curve& curve : chart.curves) {
+            const QRectF& plot = chart.plane.plot;
+            if (curve.family == chart::Family::DryBulb) {
+                const double part = (curve.value - span.tdb.low) / (span.tdb.high - span.tdb.low);
+                EXPECT_NEAR(curve.line.front().x(), plot.left() + part * plot.width(), 1e-9);
+                EXPECT_EQ(std::fmod(curve.value, IsMetric() ? 5 : 10), 0);
+            } else if (curve.family == chart::Family::HumidityRatio) {
+                const double part = curve.value / span.w.high;
+                EXPECT_NEAR(curve.line.back().y(), plot.bottom() - part * plot.height(), 1e-9);
+                EXPECT_NEAR(std::remainder(curve.value, 0.002), 0, 1e-12);
+            }
+        }
+    }
+}
+
+TEST(ChartPixels, EndTheGridAtSaturation)
+{
+    modes.front().putInForce();
+    const chart::Layout chart(size, QApplication::font());
+    for (const chart::Curve& curve : chart.curves) {
+        if (curve.family == chart::Family::HumidityRatio && curve.value > 0.004) {
+            const double t = chart.plane.tdbAt(curve.line.front().x());
+            EXPECT_NEAR(saturatedW(t), curve.value, 1e-6);
+        }
+    }
+}

@@ -1,0 +1,26 @@
+# Fails if a document names a path of the project that does not exist. A path is what stands between backticks and begins
+# with one of the project's folders; it may hold wildcards,
+# and leave out the ending of a file. Called with -DSOURCE=folder -DDOCUMENTS=list.
+file(GLOB folders LIST_DIRECTORIES true RELATIVE ${SOURCE} ${SOURCE}/*)
+list(FILTER folders EXCLUDE REGEX "^(build|\\..*)$")
+list(JOIN folders "|" anyFolder)
+string(REPLACE "." "\\." anyFolder "${anyFolder}")
+
+set(missing 0)
+set(seen 0)
+foreach(document IN LISTS DOCUMENTS)
+  file(READ ${SOURCE}/${document} text)
+  string(REGEX MATCHALL "`(${anyFolder})/[A-Za-z0-9_./*-]*`" names "${text}")
+  foreach(name IN LISTS names)
+    string(REGEX REPLACE "`|/`" "" path "${name}")
+    file(GLOB found LIST_DIRECTORIES true ${SOURCE}/${path} ${SOURCE}/${path}.*)
+    math(EXPR seen "${seen} + 1")
+    if(NOT found)
+      message(SEND_ERROR "${document} names ${path}, which does not exist")
+    endif()
+  endforeach()
+endforeach()
+message(STATUS "${seen} paths looked up")
+if(seen EQUAL 0)
+  message(SEND_ERROR "no path was found in the documents")
+endif()

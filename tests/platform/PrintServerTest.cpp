@@ -1,0 +1,155 @@
+// A print server that accepts connections and never answers, or answers again later.
+
+#include "platform/PrintServer.h"
+
+#include "platform/PrintDialog.h"
+#include "platform/Printer.h"
+#include "tests/platform/AnyForm.h"
+#include "tests/platform/Dialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace {
+
+/// Listens at a path of the file system. The system accepts for it; nobody reads or writes.
+class SilentServer
+{
+public:
+    explicit SilentServer(const QString& path) : socket(::socket(AF_UNIX, SOCK_STREAM, 0))
+    {
+        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+        path.toLocal8Bit().toStdString().copy(address.sun_path, sizeof address.sun_path - 1);
+        EXPECT_EQ(bind(socket, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+        EXPECT_EQ(listen(socket, 100), 0);
+    }
+    ~SilentServer() { close(socket); }
+    SilentServer(const SilentServer&) = delete;
+    SilentServer& operator=(const SilentServer&) = delete;
+
+private:
+    int socket;
+};
+
+/// Counts how often a widget is painted.
+class Paintings : public QObject
+{
+public:
+    explicit Paintings(QWidget& painted) : widget(painted)
+    {
+        widget.installEventFilter(this);
+        ask.callOnTimeout([this] { widget.update(); });
+        ask.start(50);
+    }
+    int count = 0;
+
+private:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    QWidget& widget;
+    QTimer ask;
+};
+
+class PrintServerTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        qputenv("CUPS_SERVER", path().toUtf8());
+        form<AnyForm>().Show();
+    }
+    void TearDown() override
+    {
+        EXPECT_TRUE(dialogs.unexpected.empty()) << dialogs.unexpected.front().toStdString();
+        FormRegistry::clear();
+    }
+
+    QString path() const { return folder.filePath("cups.sock"); }
+    QString pdf() const { return folder.filePath("out.pdf"); }
+
+    /// Opens the dialog, which offers the PDF file alone, and prints there.
+    void printToFile()
+    {
+        dialogs.answer("PrintDialog", [this](QDialog& dialog) {
+            EXPECT_EQ(child<QComboBox>(dialog, "printers").count(), 1);
+            EXPECT_EQ(child<QComboBox>(dialog, "printers").currentText(), "Print to File (PDF)");
+            printTo(pdf())(dialog);
+        });
+        ASSERT_TRUE(ShowPrintDialog(form<AnyForm>()));
+        EXPECT_TRUE(CurrentPrinter().printLine("text"));
+        EXPECT_TRUE(CurrentPrinter().endDocument());
+        EXPECT_TRUE(QFile::remove(pdf()));
+    }
+
+    Dialogs dialogs;
+    QTemporaryDir folder;
+};
+
+TEST_F(PrintServerTest, ThatNeverAnswersLeavesPrintingToAFile)
+{
+    const SilentServer server(path());
+    printToFile();
+    printToFile(); // and is not waited for again
+}
+
+TEST_F(PrintServerTest, ThatNeverAnswersLeavesTheWindowPainted)
+{
+    const SilentServer server(path());
+    int paintings = 0;
+    Paintings window(*form<AnyForm>().window());
+    dialogs.answer("PrintDialog", [&](QDialog& dialog) {
+        paintings = window.count;
+        cancel(dialog);
+    });
+    EXPECT_FALSE(ShowPrintDialog(form<AnyForm>()));
+    EXPECT_GT(paintings, 5);
+}
+
+TEST_F(PrintServerTest, ThatFallsSilentLaterLeavesPrintingToAFile)
+{
+    printToFile(); // nothing listens yet
+    const SilentServer server(path());
+    printToFile();
+}
+
+TEST_F(PrintServerTest, ThatGoesAwayAgainLeavesPrintingToAFile)
+{
+    {
+        const SilentServer server(path());
+        printToFile();
+    }
+    printToFile();
+}
+
+TEST_F(PrintServerTest, ThatNeverAnswersLetsTheWindowBeClosed)
+{
+    const SilentServer server(path());
+    QTimer::singleShot(500, [] { form<AnyForm>().Hide(); });
+    EXPECT_FALSE(ShowPrintDialog(form<AnyForm>())); // no dialog comes: see TearDown
+}
+
+TEST_F(PrintServerTest, ThatNeverAnswersLetsTheProcessEnd)
+{
+    EXPECT_EXIT(
+        {
+            const SilentServer server(path());
+            AskPrintServer();
+            FormRegistry::clear();
+            std::exit(0);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+} // namespace
