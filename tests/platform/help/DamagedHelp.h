@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/help/HelpWindow.h"
+#include "tests/support/Bytes.h"
 
 #include <QApplication>
 #include <QByteArray>
-#include <QFile>
 #include <QLineEdit>
 #include <QString>
 #include <QTest>
@@ -14,16 +14,6 @@
 
 #include <memory>
 #include <random>
-#include <stdexcept>
-
-/// The bytes of a file. @throws std::runtime_error where there is none
-inline QByteArray bytesOf(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error("no file " + path.toStdString());
-    return file.readAll();
-}
 
 /// Reads help files that are damaged, as a reader would: the first page, every page and picture that is not
 /// as it was, the contents, the index, a search, all in a help window that is on the screen. Nothing of that
