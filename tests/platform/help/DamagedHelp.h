@@ -38,18 +38,13 @@ public:
     static long mostMemory();
 
 private:
-    void readInWindow(const std::shared_ptr<const HelpBook>& book);
+    void readInWindow(const std::shared_ptr<const HelpBook>& book, const QList<ChmMember>& members);
 
-    QByteArray whole;
-    std::shared_ptr<const ChmFile> wholeFile = ChmFile::open(whole);
-    HelpWindow window;
+    const QByteArray whole;
+    const HelpBook undamaged{UnpackChm(whole)};
 };
 
-inline DamagedHelp::DamagedHelp(const QString& path) : whole(bytesOf(path))
-{
-    window.setAttribute(Qt::WA_DeleteOnClose, false);
-    window.show();
-}
+inline DamagedHelp::DamagedHelp(const QString& path) : whole(bytesOf(path)) {}
 
 inline long DamagedHelp::mostMemory()
 {
@@ -77,24 +72,27 @@ inline void DamagedHelp::readBeginnings(qsizetype from, qsizetype to, qsizetype 
 
 inline void DamagedHelp::read(const QByteArray& bytes)
 {
-    const std::shared_ptr<const HelpBook> book = HelpBook::open(bytes);
-    ++(book == nullptr ? unreadable : readable);
-    if (book != nullptr)
-        readInWindow(book);
+    const QList<ChmMember> members = UnpackChm(bytes);
+    const auto book = std::make_shared<const HelpBook>(members);
+    ++(book->pages().isEmpty() ? unreadable : readable);
+    if (!book->pages().isEmpty())
+        readInWindow(book, members);
 }
 
-inline void DamagedHelp::readInWindow(const std::shared_ptr<const HelpBook>& book)
+inline void DamagedHelp::readInWindow(const std::shared_ptr<const HelpBook>& book,
+                                      const QList<ChmMember>& members)
 {
-    window.setBook(book);
+    HelpWindow window(book);
+    window.setAttribute(Qt::WA_DeleteOnClose, false);
+    window.show();
     auto* const page = window.findChild<QTextBrowser*>("helpPage");
     for (const int topic : {100, 999})
         window.goToTopic(topic);
-    for (const QString& name : book->files()) {
-        const std::optional<QByteArray> bytes = book->readFile(name);
-        if (bytes && wholeFile->read(name) == bytes)
+    for (const ChmMember& member : members) {
+        if (!member.bytes.isNull() && undamaged.file(member.name) == member.bytes)
             continue;
-        const QUrl address("help:/" + name);
-        if (book->pages().contains(name)) {
+        const QUrl address("help:/" + member.name);
+        if (book->pages().contains(member.name)) {
             ++damagedPages;
             page->setSource(address);
         } else {
