@@ -1,15 +1,20 @@
-# Compiles the help file in the folder BOOK, where all its sources lie.
+# Compiles the help project SOURCES/PROJECT.hhp, with PICTURES in its folder pictures/, to FOLDER/PROJECT.chm.
+file(REMOVE_RECURSE ${FOLDER})
+file(COPY ${SOURCES}/ DESTINATION ${FOLDER})
+if(PICTURES)
+  file(COPY ${PICTURES} DESTINATION ${FOLDER}/pictures)
+endif()
 
 # The compiler writes the project's folder into the map of topics. Named this way it is the same everywhere.
-set(folder /proc/self/cwd)
-execute_process(COMMAND ${CHMCMD} ${folder}/dunmoor.hhp WORKING_DIRECTORY ${BOOK}
-                OUTPUT_VARIABLE said ERROR_VARIABLE said RESULT_VARIABLE result)
+set(name_of_folder /proc/self/cwd)
+execute_process(COMMAND ${CHMCMD} ${name_of_folder}/${PROJECT}.hhp WORKING_DIRECTORY ${FOLDER}
+                OUTPUT_VARIABLE said ERROR_VARIABLE said)
 # It ends with 0 whatever it finds.
-if(NOT result EQUAL 0 OR said MATCHES "Error|Warning|corrupt|not found" OR NOT EXISTS ${BOOK}/dunmoor.chm)
+if(NOT EXISTS ${FOLDER}/${PROJECT}.chm OR (NOT MAY_WARN AND said MATCHES "Error|Warning|corrupt|not found"))
   message(FATAL_ERROR "The help file does not compile:\n${said}")
 endif()
 
-execute_process(COMMAND ${CHMLS} extract dunmoor.chm /\#STRINGS strings WORKING_DIRECTORY ${BOOK}
+execute_process(COMMAND ${CHMLS} extract ${PROJECT}.chm /\#STRINGS strings WORKING_DIRECTORY ${FOLDER}
                 OUTPUT_QUIET ERROR_QUIET COMMAND_ERROR_IS_FATAL ANY)
-execute_process(COMMAND ${TOPIC_NAMES} dunmoor.chm strings ${folder}/ WORKING_DIRECTORY ${BOOK}
+execute_process(COMMAND ${FINISH} ${PROJECT}.chm strings ${name_of_folder}/ WORKING_DIRECTORY ${FOLDER}
                 COMMAND_ERROR_IS_FATAL ANY)

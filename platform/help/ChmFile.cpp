@@ -1,110 +1,68 @@
 #include "platform/help/ChmFile.h"
 
-#include "platform/help/MemorySystem.h"
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <mspack.h>
 
 #include <algorithm>
+#include <memory>
+#include <tuple>
 #include <vector>
 
 namespace {
 
-QString nameOf(const mschmd_file& member)
+/// The members that can be unpacked within the limits, in the order in which that is fastest.
+std::vector<mschmd_file*> membersOf(const mschmd_header& header)
 {
-    const QString name = QString::fromUtf8(member.filename);
-    return name.startsWith('/') ? name.mid(1) : name;
+    std::vector<mschmd_file*> members;
+    for (mschmd_file* first : {header.files, header.sysfiles}) {
+        for (mschmd_file* member = first; member != nullptr; member = member->next) {
+            const bool fits = member->length >= 0 && member->length <= largestChmMember &&
+                              member->offset >= 0 && member->offset <= largestChmContent;
+            if (fits && members.size() < mostChmMembers)
+                members.push_back(member);
+        }
+    }
+    std::ranges::sort(members, {}, [](const mschmd_file* member) {
+        return std::tuple(member->offset, QByteArrayView(member->filename)); // empty ones share an offset
+    });
+    return members;
 }
 
-/// Whether unpacking the member stays within the limits. To reach it, all that stands before it may have to
-/// be unpacked, too.
-bool isWithinLimits(const mschmd_file& member)
+QByteArray readAll(const QString& path)
 {
-    return member.length >= 0 && member.length <= ChmFile::largestMember && member.offset >= 0 &&
-           member.offset <= ChmFile::largestContent - member.length;
-}
-
-/// Whether people see it: neither a folder nor one of the file's own tables.
-bool isForPeople(const QString& name)
-{
-    return !name.isEmpty() && !name.endsWith('/') && !name.startsWith('#') && !name.startsWith('$') &&
-           !name.startsWith("::");
-}
-
-/// The bytes as the unpacking library accepts them. Some compilers write the first of the two identifiers in
-/// the header twice, which it takes for a wrong signature.
-QByteArray withSecondIdentifier(QByteArray bytes)
-{
-    constexpr qsizetype first = 0x18;
-    constexpr qsizetype length = 16;
-    constexpr qsizetype second = first + length;
-    if (bytes.size() >= second + length && bytes.mid(first, length) == bytes.mid(second, length))
-        bytes[second] = 0x11; // the one byte in which they differ
-    return bytes;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
 
-ChmFile::ChmFile(const QByteArray& bytes)
-    : memory(std::make_unique<MemorySystem>(bytes)), unpacker(mspack_create_chm_decompressor(memory.get()))
-{}
-
-ChmFile::~ChmFile()
+QList<ChmMember> UnpackChm(const QByteArray& bytes)
 {
-    if (unpacker != nullptr && header != nullptr)
-        unpacker->close(unpacker, header);
-    mspack_destroy_chm_decompressor(unpacker);
-}
-
-std::unique_ptr<ChmFile> ChmFile::open(const QByteArray& bytes)
-{
-    if (bytes.size() > largestFile)
-        return nullptr;
-    std::unique_ptr<ChmFile> file(new ChmFile(withSecondIdentifier(bytes)));
-    if (file->unpacker == nullptr)
-        return nullptr;
-    file->header = file->unpacker->open(file->unpacker, MemorySystem::inputName);
-    if (file->header == nullptr)
-        return nullptr;
-    file->addMembers(file->header->files);
-    file->addMembers(file->header->sysfiles);
-    return file;
-}
-
-void ChmFile::addMembers(mschmd_file* first)
-{
-    for (mschmd_file* member = first; member != nullptr && members.size() < mostMembers;
-         member = member->next) {
-        const QString name = nameOf(*member).toLower();
-        if (isWithinLimits(*member) && !members.contains(name))
-            members.insert(name, member);
+    const QTemporaryDir folder;
+    const QString unpacked = folder.filePath("unpacked");
+    QFile packed(folder.filePath("packed"));
+    if (bytes.size() > largestChmFile || !packed.open(QIODevice::WriteOnly) ||
+        packed.write(bytes) != bytes.size() || !packed.flush())
+        return {};
+    const std::unique_ptr<mschm_decompressor, void (*)(mschm_decompressor*)> unpacker(
+        mspack_create_chm_decompressor(nullptr), mspack_destroy_chm_decompressor);
+    const QByteArray path = QFile::encodeName(packed.fileName());
+    mschmd_header* const header = unpacker ? unpacker->open(unpacker.get(), path.constData()) : nullptr;
+    if (header == nullptr)
+        return {};
+    QList<ChmMember> members;
+    qint64 content = 0;
+    for (mschmd_file* member : membersOf(*header)) {
+        if ((content += member->length) > largestChmContent)
+            break;
+        const QString name = QString::fromUtf8(member->filename);
+        const int error = unpacker->extract(unpacker.get(), member, QFile::encodeName(unpacked).constData());
+        const QByteArray read = error == MSPACK_ERR_OK ? readAll(unpacked) : QByteArray();
+        members.append(
+            {name.startsWith('/') ? name.mid(1) : name, read.size() == member->length ? read : QByteArray()});
     }
-}
-
-QStringList ChmFile::names() const
-{
-    std::vector<const mschmd_file*> shown;
-    for (const mschmd_file* member : members) {
-        if (isForPeople(nameOf(*member)))
-            shown.push_back(member);
-    }
-    std::ranges::sort(shown, {}, [](const mschmd_file* member) {
-        return std::pair(member->offset, nameOf(*member)); // the name, for empty members at one place
-    });
-    QStringList names;
-    for (const mschmd_file* member : shown)
-        names.append(nameOf(*member));
-    return names;
-}
-
-bool ChmFile::has(const QString& name) const { return members.contains(name.toLower()); }
-
-std::optional<QByteArray> ChmFile::read(const QString& name) const
-{
-    mschmd_file* const member = members.value(name.toLower());
-    if (member == nullptr)
-        return std::nullopt;
-    memory->output.clear();
-    memory->outputLimit = member->length;
-    const int error = unpacker->extract(unpacker, member, MemorySystem::outputName);
-    if (error != MSPACK_ERR_OK || memory->output.size() != member->length)
-        return std::nullopt;
-    return std::exchange(memory->output, {});
+    unpacker->close(unpacker.get(), header);
+    return members;
 }

@@ -1,84 +1,123 @@
 #include "platform/help/HelpBook.h"
 
-#include "platform/help/HtmlScanner.h"
+#include "platform/help/PageLimits.h"
+
+#include <QDataStream>
+#include <QIODevice>
+#include <QStringDecoder>
+
+#include <algorithm>
+#include <utility>
 
 namespace {
 
-constexpr qsizetype largestPage = 1 << 20;
+constexpr int homePageCode = 2;
 
-bool isPage(const QString& name)
+/// The text up to the first NUL.
+QString textIn(const QByteArray& bytes) { return QString::fromUtf8(bytes.constData()); }
+
+/// Reads the member "#SYSTEM": records of a code, a length and a text. Ignores a damaged rest.
+QHash<int, QString> readSystem(const QByteArray& member)
 {
-    return name.endsWith(".htm", Qt::CaseInsensitive) || name.endsWith(".html", Qt::CaseInsensitive);
+    QHash<int, QString> texts;
+    QDataStream stream(member.mid(4)); // after the version
+    stream.setByteOrder(QDataStream::LittleEndian);
+    quint16 code = 0;
+    quint16 length = 0;
+    while ((stream >> code >> length).status() == QDataStream::Ok) {
+        QByteArray data(length, '\0');
+        if (stream.readRawData(data.data(), length) != length)
+            break;
+        texts.insert(code, textIn(data));
+    }
+    return texts;
+}
+
+/// Reads the member "#IVB": pairs of a topic number and the place of a page's name in the member "#STRINGS".
+QHash<int, QString> readTopics(const QByteArray& numbers, const QByteArray& strings)
+{
+    constexpr qsizetype longestName = 1024;
+    QHash<int, QString> pages;
+    QDataStream stream(numbers.mid(4)); // after the length
+    stream.setByteOrder(QDataStream::LittleEndian);
+    qint32 topic = 0;
+    quint32 place = 0;
+    while ((stream >> topic >> place).status() == QDataStream::Ok)
+        pages.insert(topic, textIn(strings.mid(place, longestName)));
+    return pages;
+}
+
+QString notice(const QString& heading, const QString& text)
+{
+    return "<h2>" + heading + "</h2><p>" + text.toHtmlEscaped() + "</p>";
 }
 
 } // namespace
 
-HelpBook::HelpBook(std::unique_ptr<ChmFile> opened)
-    : file(std::move(opened)),
-      system(ReadSystemTable(file->read("#SYSTEM").value_or(QByteArray()))),
-      topics(ReadTopicMap(file->read("#IVB").value_or(QByteArray()),
-                          file->read("#STRINGS").value_or(QByteArray()))),
-      home(chooseHomePage())
+HelpBook::HelpBook(QList<ChmMember> unpacked)
+    : members(std::move(unpacked)),
+      system(readSystem(file("#SYSTEM"))),
+      topics(readTopics(file("#IVB"), file("#STRINGS")))
 {}
 
 std::shared_ptr<const HelpBook> HelpBook::open(const QByteArray& bytes)
 {
-    std::unique_ptr<ChmFile> opened = ChmFile::open(bytes);
-    if (opened == nullptr)
-        return nullptr;
-    std::shared_ptr<const HelpBook> book(new HelpBook(std::move(opened)));
-    return book->home.isEmpty() ? nullptr : book;
+    auto book = std::make_shared<const HelpBook>(UnpackChm(bytes));
+    return book->pages().isEmpty() ? nullptr : book;
 }
 
-QString HelpBook::chooseHomePage() const
+const ChmMember* HelpBook::find(const QString& name) const
 {
-    QString named = findMember(system.homePage);
-    if (!named.isEmpty())
-        return named;
-    const QStringList all = pages();
-    return all.isEmpty() ? QString() : all.first();
+    const auto found = std::ranges::find_if(members, [&name](const ChmMember& member) {
+        return member.name.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return found == members.end() ? nullptr : &*found;
 }
 
-/// The member that a reference of one of the file's tables means. The compiler may write the page's place on
-/// its own disk: then the longest end of that which is a member. Without one, nothing.
-QString HelpBook::findMember(const QString& reference) const
+QByteArray HelpBook::file(const QString& name) const
 {
-    const qsizetype anchor = reference.indexOf('#');
-    const QString path = anchor < 0 ? reference : reference.first(anchor);
-    for (qsizetype start = path.startsWith('/') ? 1 : 0;; start = path.indexOf('/', start) + 1) {
-        const QString end = path.mid(start);
-        if (!end.isEmpty() && file->has(end))
-            return end + reference.mid(path.size());
-        if (path.indexOf('/', start) < 0)
-            return {};
-    }
+    const ChmMember* const member = find(name);
+    return member == nullptr ? QByteArray() : member->bytes;
 }
 
-QString HelpBook::pageOfTopic(int topic) const { return findMember(topics.value(topic)); }
+QString HelpBook::text(const QString& name) const
+{
+    const QByteArray bytes = file(name);
+    QStringDecoder decoder = QStringDecoder::decoderForHtml(bytes);
+    if (!decoder.isValid())
+        decoder = QStringDecoder(QStringDecoder::Latin1);
+    return decoder(bytes);
+}
+
+QString HelpBook::homePage() const
+{
+    const QString named = system.value(homePageCode);
+    return find(named) == nullptr ? pages().value(0) : named;
+}
+
+QString HelpBook::pageOfTopic(int topic) const
+{
+    const QString page = topics.value(topic);
+    return find(page.section('#', 0, 0)) == nullptr ? QString() : page;
+}
 
 QStringList HelpBook::pages() const
 {
-    QStringList names = file->names();
-    names.removeIf([](const QString& name) { return !isPage(name); });
+    QStringList names;
+    for (const ChmMember& member : members) {
+        if (member.name.endsWith(".htm", Qt::CaseInsensitive) ||
+            member.name.endsWith(".html", Qt::CaseInsensitive))
+            names.append(member.name);
+    }
     return names;
 }
 
-std::optional<QString> HelpBook::readPage(const QString& name) const
+QString HelpBook::page(const QString& name) const
 {
-    const std::optional<QByteArray> bytes = file->read(name);
-    if (!bytes || bytes->size() > largestPage)
-        return std::nullopt;
-    return DecodeText(*bytes);
-}
-
-QList<SitemapEntry> HelpBook::readSitemap(const QString& name, const QString& ending) const
-{
-    QString member = findMember(name);
-    if (member.isEmpty()) {
-        for (const QString& other : file->names()) {
-            if (other.endsWith(ending, Qt::CaseInsensitive))
-                member = other;
-        }
-    }
-    return ReadSitemap(readPage(member).value_or(QString()));
+    const ChmMember* const member = find(name);
+    if (member == nullptr)
+        return notice("No such page", "This help has no page \"" + name + "\".");
+    if (member->bytes.isNull())
+        return notice("Page not readable", "The page \"" + name + "\" of the help file is damaged.");
+    return WithinLimits(text(name)) + ' '; // an empty page is a page, too
 }

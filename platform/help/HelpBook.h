@@ -1,44 +1,40 @@
 #pragma once
 
 #include "platform/help/ChmFile.h"
-#include "platform/help/HelpTables.h"
 #include "platform/help/Sitemap.h"
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
-#include <optional>
 
 /// A help file as its reader sees it: pages, a contents tree, an index, numbered topics. A page is named as
-/// in the file; a reference may carry an anchor, as "air.html#range".
+/// in the file, in upper or lower case; a reference may carry an anchor, as "air.html#range".
 class HelpBook
 {
 public:
-    /// @return nothing where the bytes are no help file, or one without a page
+    /// @return null if the bytes are no help file, or one without a page
     static std::shared_ptr<const HelpBook> open(const QByteArray& bytes);
+    explicit HelpBook(QList<ChmMember> unpacked);
 
-    QString title() const { return system.title; } ///< may be empty
-    QString homePage() const { return home; }
-    QString pageOfTopic(int topic) const; ///< empty where the file has no such topic
-    QList<SitemapEntry> contents() const { return readSitemap(system.contents, ".hhc"); }
-    QList<SitemapEntry> index() const { return readSitemap(system.index, ".hhk"); }
+    QString title() const { return system.value(3); } ///< may be empty
+    QString homePage() const;
+    QString pageOfTopic(int topic) const; ///< empty if the file has no such topic
+    QList<SitemapEntry> contents() const { return ReadSitemap(text(system.value(0))); }
+    QList<SitemapEntry> index() const { return ReadSitemap(text(system.value(1))); }
 
-    QStringList files() const { return file->names(); }
-    QStringList pages() const; ///< of the files
-    bool has(const QString& name) const { return file->has(name); }
-    /// @return nothing where there is no such page, or it is damaged or larger than a page can be
-    std::optional<QString> readPage(const QString& name) const;
-    std::optional<QByteArray> readFile(const QString& name) const { return file->read(name); }
+    QStringList pages() const;
+    /// The HTML to show for a page: the page itself, or a notice if it is missing or damaged. A page that the
+    /// toolkit could not lay out in reasonable time comes as its text alone.
+    QString page(const QString& name) const;
+    QByteArray file(const QString& name) const; ///< empty if missing or damaged
 
 private:
-    explicit HelpBook(std::unique_ptr<ChmFile> opened);
-    QString chooseHomePage() const;
-    QString findMember(const QString& reference) const;
-    QList<SitemapEntry> readSitemap(const QString& name, const QString& ending) const;
+    const ChmMember* find(const QString& name) const;
+    QString text(const QString& name) const;
 
-    std::unique_ptr<ChmFile> file;
-    SystemTable system;
+    QList<ChmMember> members;
+    QHash<int, QString> system; ///< what the file says about itself, by code
     QHash<int, QString> topics;
-    QString home;
 };

@@ -48,10 +48,25 @@ QColor ReadableOn(const QColor& ground, const QColor& colour)
 HelpColours::HelpColours(const QPalette& palette)
     : page(palette.color(QPalette::Active, QPalette::Base)),
       text(ReadableOn(page, palette.color(QPalette::Active, QPalette::Text))),
-      quietText(ReadableOn(page, between(text, page, 0.35F))),
       link(ReadableOn(page, palette.color(QPalette::Active, QPalette::Link))),
       rule(between(page, text, 0.25F)),
       shade(between(page, text, 0.07F)),
       mark(between(page, QColor(255, 196, 0), 0.45F)),
       marked(ReadableOn(mark, text))
 {}
+
+QString HelpColours::styleSheet() const
+{
+    const QString sheet = R"(
+        a { color: %1; text-decoration: underline; }
+        h1 { margin-top: 4px; margin-bottom: 14px; font-weight: 600; }
+        h2 { margin-top: 26px; margin-bottom: 8px; font-weight: 600; }
+        p { margin-top: 6px; margin-bottom: 10px; line-height: 3px; -qt-line-height-type: line-distance; }
+        li { margin-top: 3px; margin-bottom: 3px; line-height: 3px; -qt-line-height-type: line-distance; }
+        table { margin-top: 8px; margin-bottom: 12px; border-color: %2; border-style: solid;
+                border-collapse: collapse; }
+        th { padding: 5px 9px; border-color: %2; background-color: %3; font-weight: 600; }
+        td { padding: 5px 9px; border-color: %2; }
+    )";
+    return sheet.arg(link.name(), rule.name(), shade.name());
+}

@@ -2,16 +2,18 @@
 
 #include <QColor>
 #include <QPalette>
+#include <QString>
 
 /// The colours of a help page, made from those of the desktop so that all can be read on a light and on a
 /// dark one.
 struct HelpColours
 {
     explicit HelpColours(const QPalette& palette);
+    /// The style sheet that pages are shown with, before their own.
+    QString styleSheet() const;
 
     QColor page;
     QColor text;
-    QColor quietText;
     QColor link;
     QColor rule;   ///< lines of tables
     QColor shade;  ///< behind the headings of tables

@@ -1,18 +1,17 @@
 #include "platform/help/HelpPage.h"
 
 #include "platform/help/HelpColours.h"
-#include "platform/help/HelpMarkup.h"
-#include "platform/help/HelpStyle.h"
 
 #include <QBuffer>
 #include <QDesktopServices>
-#include <QDir>
 #include <QEvent>
 #include <QImageReader>
+#include <QMimeData>
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QScrollBar>
-#include <QTextBlock>
+#include <QStyle>
+#include <QTextDocumentFragment>
 
 #include <algorithm>
 #include <utility>
@@ -22,154 +21,101 @@ namespace {
 constexpr int widestPicture = 700; // in pixels of the desktop
 constexpr int highestPicture = 2000;
 constexpr qint64 mostPixels = 16'000'000;
+constexpr qsizetype largestStyleSheet = 64 << 10;
 constexpr int mostMarks = 500;
 constexpr int smallestStep = -4;
 constexpr int largestStep = 12;
 
-QString nameIn(const QUrl& address)
+constexpr QLatin1String helpScheme("help");
+
+QString nameIn(const QUrl& address) { return address.path(QUrl::FullyDecoded).mid(1); }
+
+void follow(QTextBrowser& page, const QUrl& address)
 {
-    const QString name = QDir::cleanPath(address.path(QUrl::FullyDecoded));
-    return name.startsWith('/') ? name.mid(1) : name;
+    if (address.scheme() == helpScheme)
+        page.setSource(address);
+    else if (QStringList{"http", "https", "mailto"}.contains(address.scheme()))
+        QDesktopServices::openUrl(address);
 }
-
-QString notice(const QString& heading, const QString& text)
-{
-    return "<h2>" + heading + "</h2><p>" + text.toHtmlEscaped() + "</p>";
-}
-
-/// The page on paper: its resources come from the page on the screen.
-class PrintedPage : public QTextDocument
-{
-public:
-    explicit PrintedPage(HelpPage& shown) : page(shown) {}
-
-    QVariant loadResource(int type, const QUrl& name) override { return page.loadResource(type, name); }
-
-private:
-    HelpPage& page;
-};
 
 } // namespace
 
-HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent)
+HelpPage::HelpPage(std::shared_ptr<const HelpBook> shown, QWidget* parent)
+    : QTextBrowser(parent), book(std::move(shown))
 {
     setObjectName("helpPage");
     setAccessibleName("Help page");
     setOpenLinks(false);
     document()->setDocumentMargin(22);
-    connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& address) { follow(address); });
+    connect(this, &QTextBrowser::anchorClicked, this,
+            [this](const QUrl& address) { follow(*this, address); });
     restyle();
-}
-
-void HelpPage::setBook(std::shared_ptr<const HelpBook> shown)
-{
-    book = std::move(shown);
-    isOfOtherBook = true;
-}
-
-QUrl HelpPage::addressOf(const QString& reference) const
-{
-    const QString written = reference.section('#', 0, 0);
-    const bool isEncoded = !book->has(written) && book->has(QUrl::fromPercentEncoding(written.toUtf8()));
-    QUrl address;
-    address.setScheme("help");
-    address.setPath("/" + (isEncoded ? QUrl::fromPercentEncoding(written.toUtf8()) : written));
-    address.setFragment(reference.section('#', 1));
-    return address;
 }
 
 void HelpPage::open(const QString& reference, const QStringList& wordsToMark)
 {
-    const bool isFirstOfBook = isOfOtherBook;
-    setSource(addressOf(reference));
-    if (isOfOtherBook)
-        reload(); // the page shown, of the other book, has the same name
-    if (isFirstOfBook)
-        clearHistory();
-    words = wordsToMark;
-    markWords();
+    setSource(QUrl(helpScheme + ":/" + reference));
+    markWords(wordsToMark);
 }
 
 QString HelpPage::pageName() const { return nameIn(current); }
 
-void HelpPage::follow(const QUrl& address)
-{
-    if (address.scheme() == "help")
-        setSource(address);
-    else if (address.scheme() == "http" || address.scheme() == "https" || address.scheme() == "mailto")
-        QDesktopServices::openUrl(address);
-}
-
 QVariant HelpPage::loadResource(int type, const QUrl& name)
 {
     const QUrl address = current.resolved(name);
-    if (book == nullptr || address.scheme() != "help")
-        return {};
-    switch (type) {
-    case QTextDocument::HtmlResource:
-        startPage(address);
-        return pageText(nameIn(address));
-    case QTextDocument::StyleSheetResource:
-        return StyleToShow(book->readPage(nameIn(address)).value_or(QString()));
-    case QTextDocument::ImageResource:
-        return picture(address);
-    default:
-        return {};
+    const bool isOfHelp = address.scheme() == helpScheme;
+    if (type == QTextDocument::ImageResource)
+        return isOfHelp ? picture(address) : picture({});
+    if (type == QTextDocument::HtmlResource && isOfHelp) {
+        current = address.adjusted(QUrl::RemoveFragment);
+        words.clear();
+        setExtraSelections({});
+        return book->page(nameIn(address));
     }
+    return isOfHelp ? QString::fromUtf8(book->file(nameIn(address)).left(largestStyleSheet)) : QString();
 }
 
-/// Takes note of the page that is about to be shown; the toolkit's own note comes later than its pictures.
-void HelpPage::startPage(const QUrl& address)
+/// A picture as the page asks for it, scaled smoothly to the pixels of the screen. If it is missing or too
+/// large, the toolkit's sign for a file.
+QImage HelpPage::picture(const QUrl& address) const
 {
-    current = address.adjusted(QUrl::RemoveFragment);
-    isOfOtherBook = false;
-    if (isRestyling)
-        return;
-    words.clear();
-    setExtraSelections({});
-}
-
-QString HelpPage::pageText(const QString& name) const
-{
-    if (!book->has(name))
-        return notice("No such page", "This help has no page \"" + name + "\".");
-    const std::optional<QString> page = book->readPage(name);
-    if (!page)
-        return notice("Page not readable", "The page \"" + name + "\" of the help file is damaged.");
-    return PageToShow(*page) + " "; // an empty page is a page, too
-}
-
-/// A picture as the page asks for it: scaled down smoothly to the dots of the screen, where it is larger.
-QVariant HelpPage::picture(const QUrl& address) const
-{
-    QByteArray bytes = book->readFile(nameIn(address)).value_or(QByteArray());
+    QByteArray bytes = book->file(nameIn(address));
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer);
     const QSize size = reader.size();
-    if (size.isEmpty() || qint64{size.width()} * size.height() > mostPixels)
-        return {};
-    const int asked = address.fragment().toInt();
-    const int width = std::min(asked > 0 ? asked : size.width(), widestPicture);
-    const qreal dots = devicePixelRatioF();
-    const QSize shown = size.scaled(width, highestPicture, Qt::KeepAspectRatio) * dots;
-    QImage image = reader.read();
+    const bool isShown = !size.isEmpty() && qint64{size.width()} * size.height() <= mostPixels;
+    const QImage image = isShown ? reader.read() : QImage();
     if (image.isNull())
-        return {};
-    image = image.scaled(shown.expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    image.setDevicePixelRatio(dots);
-    return image;
+        return style()->standardPixmap(QStyle::SP_FileIcon).toImage();
+    const int asked = widthAskedFor(address);
+    const int width = std::min(asked > 0 ? asked : size.width(), widestPicture);
+    const qreal ratio = devicePixelRatioF();
+    const QSize shown = size.scaled(width, highestPicture, Qt::KeepAspectRatio) * ratio;
+    QImage scaled = image.scaled(shown.expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(ratio);
+    return scaled;
+}
+
+/// The width in pixels that the page gives a picture; 0 if it gives none.
+int HelpPage::widthAskedFor(const QUrl& address) const
+{
+    for (const QTextFormat& format : document()->allFormats()) {
+        const QTextImageFormat image = format.toImageFormat();
+        if (format.isImageFormat() && current.resolved(QUrl(image.name())) == address)
+            return qRound(image.width());
+    }
+    return 0;
 }
 
 void HelpPage::restyle()
 {
-    document()->setDefaultStyleSheet(HelpStyleSheet(HelpColours(palette())));
+    document()->setDefaultStyleSheet(HelpColours(palette()).styleSheet());
     if (current.isEmpty())
         return;
     const int place = verticalScrollBar()->value();
-    isRestyling = true;
+    const QStringList marked = words;
     reload();
-    isRestyling = false;
-    markWords();
+    markWords(marked);
     verticalScrollBar()->setValue(place);
 }
 
@@ -180,8 +126,9 @@ void HelpPage::changeEvent(QEvent* event)
         restyle();
 }
 
-void HelpPage::markWords()
+void HelpPage::markWords(const QStringList& wordsToMark)
 {
+    words = wordsToMark;
     QList<ExtraSelection> marks;
     const HelpColours colours(palette());
     const QRegularExpression wanted("(?<![\\p{L}\\p{N}])(" + words.join('|') + ")",
@@ -224,9 +171,20 @@ void HelpPage::setTextSize(int newStep)
 
 void HelpPage::print(QPrinter& printer)
 {
-    PrintedPage paper(*this);
+    QTextDocument paper(this); // loads from this page
     paper.setDefaultFont(parentWidget()->font());
-    paper.setDefaultStyleSheet(HelpStyleSheet(HelpColours(QPalette(Qt::white))));
-    paper.setHtml(pageText(pageName()));
+    paper.setDefaultStyleSheet(HelpColours(QPalette(Qt::white)).styleSheet());
+    paper.setHtml(book->page(pageName()));
     paper.print(&printer);
+}
+
+/// Copies as plain and as formatted text. The toolkit's office document would hold pictures that it looks for
+/// among the files of the machine.
+QMimeData* HelpPage::createMimeDataFromSelection() const
+{
+    const QTextDocumentFragment selected(textCursor());
+    auto* const copied = new QMimeData;
+    copied->setText(selected.toPlainText());
+    copied->setHtml(selected.toHtml());
+    return copied;
 }

@@ -14,14 +14,13 @@ class QPrinter;
 class HelpPage : public QTextBrowser
 {
 public:
-    explicit HelpPage(QWidget* parent);
+    HelpPage(std::shared_ptr<const HelpBook> shown, QWidget* parent);
 
-    void setBook(std::shared_ptr<const HelpBook> shown);
-    /// Shows a page, at its anchor where the reference has one, and marks the words on it.
+    /// Shows a page, at its anchor if the reference has one, and marks the words on it.
     void open(const QString& reference, const QStringList& wordsToMark = {});
     QString pageName() const; ///< of the page shown
 
-    /// Goes to the next mark, from the last one to the first. False where nothing is marked.
+    /// Goes to the next mark, from the last one to the first. False if nothing is marked.
     bool goToNextMark();
     int marks() const { return static_cast<int>(extraSelections().size()); }
 
@@ -32,25 +31,22 @@ public:
     /// Prints the page shown, dark on light.
     void print(QPrinter& printer);
 
+    /// Never returns null: the toolkit would look for the resource among the files of the machine.
     QVariant loadResource(int type, const QUrl& name) override;
 
 protected:
     void changeEvent(QEvent* event) override;
+    QMimeData* createMimeDataFromSelection() const override;
 
 private:
-    QUrl addressOf(const QString& reference) const;
-    QString pageText(const QString& name) const;
-    QVariant picture(const QUrl& address) const;
-    void startPage(const QUrl& address);
-    void follow(const QUrl& address);
+    QImage picture(const QUrl& address) const;
+    int widthAskedFor(const QUrl& address) const;
     void restyle();
-    void markWords();
+    void markWords(const QStringList& wordsToMark);
 
     std::shared_ptr<const HelpBook> book;
-    QUrl current;      // the page shown
-    QStringList words; // to mark on the page shown
+    QUrl current;      // the page shown; known before the toolkit loads what it refers to
+    QStringList words; // marked on the page shown
     qsizetype nextMark = 0;
     int step = 0; // of the text's size
-    bool isRestyling = false;
-    bool isOfOtherBook = false; // what is shown
 };

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int pageRole = Qt::UserRole;
+constexpr const char* searchHint = "Finds the pages that hold all the words.";
 
 QVBoxLayout* makeColumn(QWidget* pane)
 {
@@ -30,13 +31,20 @@ QLabel* makeLabel(const QString& text, QWidget* buddy)
     return label;
 }
 
+template <class Widget>
+Widget* makeNamed(const QString& name, const QString& accessibleName)
+{
+    auto* const widget = new Widget;
+    widget->setObjectName(name);
+    widget->setAccessibleName(accessibleName);
+    return widget;
+}
+
 /// A list whose lines open a page, by a click or by Enter.
 QListWidget* makeList(const QString& name, const QString& accessibleName,
                       const std::function<void(const QString&)>& openPage)
 {
-    auto* const list = new QListWidget;
-    list->setObjectName(name);
-    list->setAccessibleName(accessibleName);
+    auto* const list = makeNamed<QListWidget>(name, accessibleName);
     list->setUniformItemSizes(true);
     const auto open = [openPage](const QListWidgetItem* item) { openPage(item->data(pageRole).toString()); };
     QObject::connect(list, &QListWidget::itemClicked, list, open);
@@ -46,20 +54,13 @@ QListWidget* makeList(const QString& name, const QString& accessibleName,
 
 QLineEdit* makeField(const QString& name, const QString& accessibleName)
 {
-    auto* const field = new QLineEdit;
-    field->setObjectName(name);
-    field->setAccessibleName(accessibleName);
+    auto* const field = makeNamed<QLineEdit>(name, accessibleName);
     field->setClearButtonEnabled(true);
     field->setMaxLength(200);
     return field;
 }
 
-QString pageOf(const SitemapEntry& entry)
-{
-    return entry.targets.isEmpty() ? QString() : entry.targets[0].page;
-}
-
-/// Room for a line of a list or a tree with air around it.
+/// Room for a line of a list or a tree, with some space above and below the text.
 QSize lineSize(const QWidget& list) { return {0, list.fontMetrics().height() + 9}; }
 
 void addLine(QListWidget& list, const QString& text, const QString& page)
@@ -70,39 +71,41 @@ void addLine(QListWidget& list, const QString& text, const QString& page)
     item->setSizeHint(lineSize(list));
 }
 
+/// Hides the lines that don't contain the text, and makes the first of the others the current one.
+void filter(QListWidget& list, const QString& text)
+{
+    QListWidgetItem* first = nullptr;
+    for (int row = 0; row < list.count(); ++row) {
+        QListWidgetItem* const item = list.item(row);
+        item->setHidden(!item->text().contains(text.trimmed(), Qt::CaseInsensitive));
+        if (first == nullptr && !item->isHidden())
+            first = item;
+    }
+    list.setCurrentItem(first);
+}
+
 } // namespace
 
-ContentsPane::ContentsPane(OpenHelpPage openPage) : tree(new QTreeWidget)
+ContentsPane::ContentsPane(const HelpBook& book, const OpenHelpPage& openPage)
+    : tree(makeNamed<QTreeWidget>("helpContents", "Contents"))
 {
-    tree->setObjectName("helpContents");
-    tree->setAccessibleName("Contents");
     tree->setHeaderHidden(true);
     tree->setUniformRowHeights(true);
     makeColumn(this)->addWidget(tree);
     setFocusProxy(tree);
-    const auto open = [openPage = std::move(openPage)](const QTreeWidgetItem* item) {
-        const QString page = item->data(0, pageRole).toString();
-        if (!page.isEmpty())
-            openPage(page, {});
+    const auto open = [openPage](const QTreeWidgetItem* item) {
+        openPage(item->data(0, pageRole).toString(), {});
     };
     connect(tree, &QTreeWidget::itemClicked, this, open);
     connect(tree, &QTreeWidget::itemActivated, this, open);
-}
 
-void ContentsPane::setBook(const HelpBook& book)
-{
-    tree->clear();
-    QList<QTreeWidgetItem*> parents; // the last line of each level
+    QList<QTreeWidgetItem*> parents{tree->invisibleRootItem()}; // and then the last line of each level
     for (const SitemapEntry& entry : book.contents()) {
-        parents.resize(std::min<qsizetype>(parents.size(), entry.level));
-        auto* const item = new QTreeWidgetItem({entry.title});
-        item->setData(0, pageRole, pageOf(entry));
+        parents.resize(std::min<qsizetype>(parents.size(), entry.level + 1));
+        auto* const item = new QTreeWidgetItem(parents.last(), {entry.title});
+        item->setData(0, pageRole, entry.page);
         item->setToolTip(0, entry.title);
         item->setSizeHint(0, lineSize(*tree));
-        if (parents.isEmpty())
-            tree->addTopLevelItem(item);
-        else
-            parents.last()->addChild(item);
         parents.append(item);
     }
     tree->expandToDepth(0);
@@ -126,65 +129,40 @@ void ContentsPane::showPage(const QString& page)
         shown->setExpanded(true);
 }
 
-IndexPane::IndexPane(OpenHelpPage openPage)
-    : field(makeField("helpIndexFilter", "Keyword")),
-      list(makeList("helpIndex", "Keywords", [openPage = std::move(openPage)](const QString& page) {
-          if (!page.isEmpty())
-              openPage(page, {});
-      }))
+QWidget* makeIndexPane(const HelpBook& book, const OpenHelpPage& openPage)
 {
-    auto* const column = makeColumn(this);
+    auto* const field = makeField("helpIndexFilter", "Keyword");
+    auto* const list =
+        makeList("helpIndex", "Keywords", [openPage](const QString& page) { openPage(page, {}); });
+    auto* const pane = new QWidget;
+    auto* const column = makeColumn(pane);
     column->addWidget(makeLabel("&Keyword", field));
     column->addWidget(field);
     column->addWidget(list);
-    setFocusProxy(field);
-    connect(field, &QLineEdit::textChanged, this, [this](const QString& text) { filter(text); });
-    connect(field, &QLineEdit::returnPressed, list, [this] {
-        if (list->currentItem() != nullptr && !list->currentItem()->isHidden())
+    pane->setFocusProxy(field);
+    QObject::connect(field, &QLineEdit::textChanged, list,
+                     [list](const QString& text) { filter(*list, text); });
+    QObject::connect(field, &QLineEdit::returnPressed, list, [list] {
+        if (list->currentItem() != nullptr)
             emit list->itemActivated(list->currentItem());
     });
+    for (const SitemapEntry& entry : book.index())
+        addLine(*list, QString(qsizetype{4} * entry.level, ' ') + entry.title, entry.page);
+    return pane;
 }
 
-void IndexPane::setBook(const HelpBook& book)
-{
-    field->clear();
-    list->clear();
-    for (const SitemapEntry& entry : book.index()) {
-        const QString keyword = QString(qsizetype{4} * entry.level, ' ') + entry.title;
-        if (entry.targets.size() <= 1)
-            addLine(*list, keyword, pageOf(entry));
-        for (qsizetype at = 0; at < entry.targets.size() && entry.targets.size() > 1; ++at) {
-            const SitemapEntry::Target& target = entry.targets[at];
-            addLine(*list, target.title.isEmpty() ? keyword : keyword + ": " + target.title, target.page);
-        }
-    }
-}
-
-void IndexPane::filter(const QString& text)
-{
-    QListWidgetItem* first = nullptr;
-    for (int row = 0; row < list->count(); ++row) {
-        QListWidgetItem* const item = list->item(row);
-        item->setHidden(!item->text().contains(text.trimmed(), Qt::CaseInsensitive));
-        if (first == nullptr && !item->isHidden())
-            first = item;
-    }
-    list->setCurrentItem(first);
-}
-
-SearchPane::SearchPane(OpenHelpPage openPage)
-    : field(makeField("helpSearchField", "Words to search for")),
-      summary(new QLabel),
-      results(
-          makeList("helpSearchResults", "Pages found",
-                   [this, openPage = std::move(openPage)](const QString& page) { openPage(page, words); }))
+SearchPane::SearchPane(std::shared_ptr<const HelpBook> book, const OpenHelpPage& openPage)
+    : pages(std::move(book)),
+      field(makeField("helpSearchField", "Words to search for")),
+      summary(new QLabel(searchHint)),
+      results(makeList("helpSearchResults", "Pages found",
+                       [this, openPage](const QString& page) { openPage(page, words); }))
 {
     auto* const button = new QPushButton("&Find");
     button->setObjectName("helpFind");
     button->setAutoDefault(false);
     summary->setObjectName("helpSearchSummary");
     summary->setWordWrap(true);
-    summary->setText("Finds the pages that hold all the words.");
 
     auto* const line = new QHBoxLayout;
     line->addWidget(field);
@@ -199,13 +177,6 @@ SearchPane::SearchPane(OpenHelpPage openPage)
     connect(field, &QLineEdit::returnPressed, this, [this] { search(); });
 }
 
-void SearchPane::setBook(std::shared_ptr<const HelpBook> book)
-{
-    pages = std::make_unique<HelpSearch>(std::move(book));
-    field->clear();
-    results->clear();
-}
-
 void SearchPane::takeFocus()
 {
     field->setFocus(Qt::ShortcutFocusReason);
@@ -216,11 +187,11 @@ void SearchPane::search()
 {
     words = SearchWords(field->text());
     results->clear();
-    for (const HelpSearch::Result& result : pages->find(words))
+    for (const HelpSearch::Result& result : pages.find(words))
         addLine(*results, result.title, result.page);
     const int count = results->count();
     if (words.isEmpty())
-        summary->setText("Finds the pages that hold all the words.");
+        summary->setText(searchHint);
     else
         summary->setText(count == 0 ? "No page holds all these words."
                                     : QString::number(count) + (count == 1 ? " page" : " pages"));

@@ -14,17 +14,16 @@ class QLineEdit;
 class QListWidget;
 class QTreeWidget;
 
-/// Opens a page of the help, with words to mark on it.
+/// Opens a page of the help, with words to mark on it. Does nothing if the reference is empty.
 using OpenHelpPage = std::function<void(const QString& reference, const QStringList& words)>;
 
 /// The contents tree.
 class ContentsPane : public QWidget
 {
 public:
-    explicit ContentsPane(OpenHelpPage openPage);
+    ContentsPane(const HelpBook& book, const OpenHelpPage& openPage);
 
-    void setBook(const HelpBook& book);
-    /// Selects the line of a page, where there is one.
+    /// Selects the line of a page, if there is one.
     void showPage(const QString& page);
 
 private:
@@ -32,33 +31,20 @@ private:
 };
 
 /// The index, with a field that leaves in the list what contains the text typed.
-class IndexPane : public QWidget
-{
-public:
-    explicit IndexPane(OpenHelpPage openPage);
-
-    void setBook(const HelpBook& book);
-
-private:
-    void filter(const QString& text);
-
-    QLineEdit* field;
-    QListWidget* list;
-};
+QWidget* makeIndexPane(const HelpBook& book, const OpenHelpPage& openPage);
 
 /// The search through the text of all pages.
 class SearchPane : public QWidget
 {
 public:
-    explicit SearchPane(OpenHelpPage openPage);
+    SearchPane(std::shared_ptr<const HelpBook> book, const OpenHelpPage& openPage);
 
-    void setBook(std::shared_ptr<const HelpBook> book);
     void takeFocus();
 
 private:
     void search();
 
-    std::unique_ptr<HelpSearch> pages;
+    HelpSearch pages;
     QStringList words; // of the results shown
     QLineEdit* field;
     QLabel* summary;

@@ -1,16 +1,18 @@
 #include "platform/help/HelpSearch.h"
 
-#include "platform/help/PageText.h"
-
-#include <QElapsedTimer>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <tuple>
 
 namespace {
 
-constexpr qsizetype mostText = 16 << 20; // characters of all pages
-constexpr qint64 longestReading = 3000;  // ms; an honest file takes a hundredth of it
+/// Reads a page without loading anything that it refers to.
+class WordsAlone : public QTextDocument
+{
+public:
+    QVariant loadResource(int /*type*/, const QUrl& /*name*/) override { return QString(); }
+};
 
 /// The words of a text in lower case, a space before each.
 QString spacedWords(const QString& text)
@@ -39,51 +41,44 @@ QStringList SearchWords(const QString& typed)
 
 void HelpSearch::readPages()
 {
-    isRead = true;
-    QElapsedTimer clock;
-    clock.start();
-    qsizetype read = 0;
     for (const QString& name : book->pages()) {
-        if (clock.elapsed() > longestReading || read > mostText)
-            break;
-        const std::optional<QString> page = book->readPage(name);
-        if (!page)
-            continue;
-        const PageText said = ReadPageText(*page);
-        read += said.text.size();
-        pages.push_back({name, said.title.isEmpty() ? name : said.title, spacedWords(said.title),
-                         spacedWords(said.text)});
+        WordsAlone read;
+        read.setHtml(book->page(name));
+        const QString title = read.metaInformation(QTextDocument::DocumentTitle).simplified();
+        pages.push_back(
+            {{name, title.isEmpty() ? name : title}, spacedWords(title), spacedWords(read.toPlainText())});
     }
 }
 
 QList<HelpSearch::Result> HelpSearch::find(const QStringList& words)
 {
-    if (!isRead)
+    if (pages.empty())
         readPages();
     struct Ranked
     {
         qsizetype inTitle = 0;
-        Result result;
+        qsizetype hits = 0;
+        const Result* result = nullptr;
     };
     std::vector<Ranked> found;
     for (const Page& page : pages) {
-        Ranked ranked{0, {page.name, page.title, 0}};
+        Ranked ranked{0, 0, &page.shown};
         bool hasAll = !words.isEmpty();
         for (const QString& word : words) {
             const qsizetype inTitle = page.wordsOfTitle.count(" " + word);
             const qsizetype hits = inTitle + page.words.count(" " + word);
             hasAll = hasAll && hits > 0;
             ranked.inTitle += inTitle;
-            ranked.result.hits += hits;
+            ranked.hits += hits;
         }
         if (hasAll)
             found.push_back(ranked);
     }
-    std::ranges::stable_sort(found, std::ranges::greater(), [](const Ranked& ranked) {
-        return std::tuple(ranked.inTitle, ranked.result.hits);
+    std::stable_sort(found.begin(), found.end(), [](const Ranked& one, const Ranked& other) {
+        return std::tuple(one.inTitle, one.hits) > std::tuple(other.inTitle, other.hits);
     });
     QList<Result> results;
     for (const Ranked& ranked : found)
-        results.append(ranked.result);
+        results.append(*ranked.result);
     return results;
 }

@@ -22,23 +22,20 @@ public:
     {
         QString page;
         QString title;
-        qsizetype hits = 0;
     };
-    /// The pages that hold every word, be it as the beginning of a longer one: those with a word in their
-    /// title first, then those with most hits.
+    /// The pages that hold every word, or a longer one that begins with it: those with a word in their title
+    /// first, then those with most hits.
     QList<Result> find(const QStringList& words);
 
 private:
     struct Page
     {
-        QString name;
-        QString title;
+        Result shown;
         QString wordsOfTitle; ///< in lower case, a space before each
         QString words;
     };
     void readPages();
 
     std::shared_ptr<const HelpBook> book;
-    bool isRead = false;
     std::vector<Page> pages;
 };

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QEvent>
+#include <QKeySequence>
 #include <QLabel>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -31,17 +32,28 @@ bool isDialogOf(const QWidget* dialog, const QWidget* window)
 
 } // namespace
 
-HelpWindow::HelpWindow()
+/// What the reader can do by a key, and by a button of the tool bar if it has a label.
+struct HelpWindow::Command
+{
+    const char* name;
+    const char* text;
+    const char* label; ///< words alone, which any desktop has
+    QKeySequence key;
+    std::function<void()> handler;
+};
+
+HelpWindow::HelpWindow(std::shared_ptr<const HelpBook> shown)
     : QWidget(nullptr, Qt::Window),
+      book(std::move(shown)),
       tools(new QToolBar),
       tabs(new QTabWidget),
-      contents(new ContentsPane(opener())),
-      index(new IndexPane(opener())),
-      search(new SearchPane(opener())),
-      page(new HelpPage(this)),
+      contents(new ContentsPane(*book, opener())),
+      search(new SearchPane(book, opener())),
+      page(new HelpPage(book, this)),
       notice(new QLabel)
 {
     setObjectName("HelpWindow");
+    setWindowTitle(book->title().isEmpty() ? "Help" : book->title() + " Help");
     setAttribute(Qt::WA_DeleteOnClose);
     notice->setObjectName("helpNotice");
     notice->hide();
@@ -49,7 +61,7 @@ HelpWindow::HelpWindow()
 
     tabs->setObjectName("helpPanes");
     tabs->addTab(contents, "&Contents");
-    tabs->addTab(index, "&Index");
+    tabs->addTab(makeIndexPane(*book, opener()), "&Index");
     tabs->addTab(search, "&Search");
 
     auto* const sides = new QSplitter;
@@ -65,8 +77,7 @@ HelpWindow::HelpWindow()
     column->addWidget(tools);
     column->addWidget(sides, 1);
     column->addWidget(notice);
-    makeToolBar();
-    makeShortcuts();
+    makeCommands();
     connect(page, &QTextBrowser::sourceChanged, this, [this] { pageHasChanged(); });
     connect(page, &QTextBrowser::highlighted, this, [this](const QUrl& link) {
         page->viewport()->setToolTip(link.scheme() == "help" ? QString() : link.toDisplayString());
@@ -79,32 +90,30 @@ OpenHelpPage HelpWindow::opener()
     return [this](const QString& reference, const QStringList& words) { openPage(reference, words); };
 }
 
-QAction* HelpWindow::addCommand(const QString& name, const QString& text, const QKeySequence& key,
-                                const std::function<void()>& handler)
+void HelpWindow::makeCommands()
 {
-    auto* const action = new QAction(text, this);
-    action->setObjectName(name);
-    action->setShortcut(key);
-    connect(action, &QAction::triggered, this, handler);
-    addAction(action);
-    return action;
-}
+    QAction* const back =
+        addCommand({"helpBack", "Back", "\u2190 Back", Qt::ALT | Qt::Key_Left, [this] { page->backward(); }});
+    QAction* const forward = addCommand(
+        {"helpForward", "Forward", "Forward \u2192", Qt::ALT | Qt::Key_Right, [this] { page->forward(); }});
+    addCommand(
+        {"helpHome", "Home", "Home", Qt::ALT | Qt::Key_Home, [this] { openPage(book->homePage(), {}); }});
+    tools->addSeparator();
+    addCommand(
+        {"helpSmaller", "Smaller text", "A\u2212", Qt::CTRL | Qt::Key_Minus, [this] { resizeText(-1); }});
+    addCommand({"helpNormal", "Normal text", "A", Qt::CTRL | Qt::Key_0, [this] { page->setTextSize(0); }});
+    addCommand({"helpLarger", "Larger text", "A+", Qt::CTRL | Qt::Key_Plus, [this] { resizeText(1); }});
+    tools->addSeparator();
+    QAction* const copy =
+        addCommand({"helpCopy", "Copy", "Copy", QKeySequence::Copy, [this] { page->copy(); }});
+    addCommand({"helpPrint", "Print", "Print", QKeySequence::Print, [this] { print(); }});
 
-void HelpWindow::makeToolBar()
-{
-    back = addButton("helpBack", "Back", "\u2190 Back", Qt::ALT | Qt::Key_Left, [this] { page->backward(); });
-    forward = addButton("helpForward", "Forward", "Forward \u2192", Qt::ALT | Qt::Key_Right,
-                        [this] { page->forward(); });
-    addButton("helpHome", "Home", "Home", Qt::ALT | Qt::Key_Home, [this] { openPage(book->homePage(), {}); });
-    tools->addSeparator();
-    addButton("helpSmaller", "Smaller text", "A\u2212", Qt::CTRL | Qt::Key_Minus,
-              [this] { page->setTextSize(page->textSize() - 1); });
-    addButton("helpNormal", "Normal text", "A", Qt::CTRL | Qt::Key_0, [this] { page->setTextSize(0); });
-    addButton("helpLarger", "Larger text", "A+", Qt::CTRL | Qt::Key_Plus,
-              [this] { page->setTextSize(page->textSize() + 1); });
-    tools->addSeparator();
-    QAction* const copy = addButton("helpCopy", "Copy", "Copy", QKeySequence::Copy, [this] { page->copy(); });
-    addButton("helpPrint", "Print", "Print", QKeySequence::Print, [this] { print(); });
+    addCommand({"helpLargerToo", "Larger text", nullptr, Qt::CTRL | Qt::Key_Equal,
+                [this] { resizeText(1); }}); // + without Shift
+    addCommand({"helpSearch", "Search", nullptr, QKeySequence::Find, [this] { startSearch(); }});
+    addCommand({"helpSearchOn", "Search on", nullptr, Qt::Key_F3, [this] { searchOn(); }});
+    addCommand({"helpSwitchPanes", "Switch panes", nullptr, Qt::Key_F6, [this] { switchPanes(); }});
+    addCommand({"helpClose", "Close", nullptr, Qt::Key_Escape, [this] { close(); }});
 
     for (QAction* later : {back, forward, copy})
         later->setEnabled(false);
@@ -113,37 +122,23 @@ void HelpWindow::makeToolBar()
     connect(page, &QTextBrowser::copyAvailable, copy, &QAction::setEnabled);
 }
 
-/// A command on the tool bar. Its button shows words alone, which any desktop has.
-QAction* HelpWindow::addButton(const QString& name, const QString& text, const char* label,
-                               const QKeySequence& key, const std::function<void()>& handler)
+QAction* HelpWindow::addCommand(const Command& command)
 {
-    QAction* const action = addCommand(name, text, key, handler);
-    action->setIconText(QString::fromUtf8(label));
-    action->setToolTip(text + " (" + key.toString(QKeySequence::NativeText) + ")");
-    tools->addAction(action);
-    tools->widgetForAction(action)->setAccessibleName(text);
+    auto* const action = new QAction(command.text, this);
+    action->setObjectName(command.name);
+    action->setShortcut(command.key);
+    connect(action, &QAction::triggered, this, command.handler);
+    addAction(action);
+    if (command.label != nullptr) {
+        action->setIconText(QString::fromUtf8(command.label));
+        action->setToolTip(action->text() + " (" + command.key.toString(QKeySequence::NativeText) + ")");
+        tools->addAction(action);
+        tools->widgetForAction(action)->setAccessibleName(action->text());
+    }
     return action;
 }
 
-void HelpWindow::makeShortcuts()
-{
-    addCommand("helpLargerToo", "Larger text", Qt::CTRL | Qt::Key_Equal,
-               [this] { page->setTextSize(page->textSize() + 1); }); // + without Shift
-    addCommand("helpSearch", "Search", QKeySequence::Find, [this] { startSearch(); });
-    addCommand("helpSearchOn", "Search on", Qt::Key_F3, [this] { searchOn(); });
-    addCommand("helpSwitchPanes", "Switch panes", Qt::Key_F6, [this] { switchPanes(); });
-    addCommand("helpClose", "Close", Qt::Key_Escape, [this] { close(); });
-}
-
-void HelpWindow::setBook(std::shared_ptr<const HelpBook> shown)
-{
-    book = std::move(shown);
-    setWindowTitle(book->title().isEmpty() ? "Help" : book->title() + " Help");
-    contents->setBook(*book);
-    index->setBook(*book);
-    search->setBook(book);
-    page->setBook(book);
-}
+void HelpWindow::resizeText(int change) { page->setTextSize(page->textSize() + change); }
 
 void HelpWindow::goToTopic(int topic)
 {
@@ -155,6 +150,8 @@ void HelpWindow::goToTopic(int topic)
 
 void HelpWindow::openPage(const QString& reference, const QStringList& words)
 {
+    if (reference.isEmpty())
+        return;
     page->open(reference, words);
     page->goToNextMark();
 }

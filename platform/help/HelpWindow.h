@@ -3,10 +3,8 @@
 #include "platform/help/HelpBook.h"
 #include "platform/help/HelpPanes.h"
 
-#include <QKeySequence>
 #include <QWidget>
 
-#include <functional>
 #include <memory>
 
 class HelpPage;
@@ -16,15 +14,14 @@ class QTabWidget;
 class QToolBar;
 class QWindow;
 
-/// The window that shows help files. It stands in no form's way and no form stands in its: it goes in front
-/// of the window that asked for it, and moves on to a modal window that would block it. Closing it ends it.
+/// The window that shows a help file. It blocks no form, and no form blocks it: it is in front of the window
+/// that asked for it, and moves on to a modal window that would block it. Closing it deletes it.
 class HelpWindow : public QWidget
 {
 public:
-    HelpWindow();
+    explicit HelpWindow(std::shared_ptr<const HelpBook> shown);
 
-    void setBook(std::shared_ptr<const HelpBook> shown);
-    /// Shows the page of a topic, or the first page and a notice where the file has no such topic.
+    /// Shows the page of a topic, or the first page and a notice if the file has no such topic.
     void goToTopic(int topic);
     /// Comes to the front, before the window that asks.
     void showFor(QWidget& asking);
@@ -33,13 +30,10 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    struct Command;
     OpenHelpPage opener();
-    void makeToolBar();
-    void makeShortcuts();
-    QAction* addCommand(const QString& name, const QString& text, const QKeySequence& key,
-                        const std::function<void()>& handler);
-    QAction* addButton(const QString& name, const QString& text, const char* label, const QKeySequence& key,
-                       const std::function<void()>& handler);
+    void makeCommands();
+    QAction* addCommand(const Command& command);
     void attachTo(QWindow* before);
     void placeBeside(const QWidget& asking);
     void openPage(const QString& reference, const QStringList& words);
@@ -47,15 +41,13 @@ private:
     void startSearch();
     void searchOn();
     void switchPanes();
+    void resizeText(int change);
     void print();
 
     std::shared_ptr<const HelpBook> book;
     QToolBar* tools;
-    QAction* back = nullptr;
-    QAction* forward = nullptr;
     QTabWidget* tabs;
     ContentsPane* contents;
-    IndexPane* index;
     SearchPane* search;
     HelpPage* page;
     QLabel* notice;

@@ -11,6 +11,9 @@
 #include <QFileInfo>
 #include <QPointer>
 
+#include <memory>
+#include <utility>
+
 namespace {
 
 /// The open help window, and what it shows.
@@ -20,27 +23,32 @@ QDateTime shownState;
 
 void closeHelp() { delete helpWindow; }
 
-/// The window, made where none is open. The end of the program takes it down before the toolkit.
-HelpWindow& openWindow()
+/// Opens the window anew. The end of the program takes it down before the toolkit.
+void openWindow(std::shared_ptr<const HelpBook> book)
 {
-    if (helpWindow == nullptr) {
-        helpWindow = new HelpWindow;
-        static const bool isToldOnce = (qAddPostRoutine(closeHelp), true);
-        Q_UNUSED(isToldOnce);
-    }
-    return *helpWindow;
+    closeHelp();
+    helpWindow = new HelpWindow(std::move(book));
+    static const bool isRegisteredOnce = (qAddPostRoutine(closeHelp), true);
+    Q_UNUSED(isRegisteredOnce);
 }
 
-/// The help file, or nothing and a message that says why.
-std::shared_ptr<const HelpBook> openBook(const std::string& file, const QString& path)
+/// Where a file is looked for, for a message.
+QString folderOf(const QFileInfo& file)
 {
-    QFile opened(path);
+    return file.isRelative() && QDir::currentPath().isEmpty() ? "the working folder, which no longer exists"
+                                                              : QDir::toNativeSeparators(file.absolutePath());
+}
+
+/// The help file, or null and a message that says why.
+std::shared_ptr<const HelpBook> openBook(const std::string& file, const QFileInfo& wanted)
+{
+    QFile opened(wanted.filePath());
     if (!opened.open(QIODevice::ReadOnly)) {
         MsgBox("The help file " + file + " was not found.\n\nIt was looked for in " +
-               QDir::toNativeSeparators(QFileInfo(path).absolutePath()).toStdString() + ".");
+               folderOf(wanted).toStdString() + ".");
         return nullptr;
     }
-    std::shared_ptr<const HelpBook> book = HelpBook::open(opened.read(ChmFile::largestFile + 1));
+    std::shared_ptr<const HelpBook> book = HelpBook::open(opened.read(largestChmFile + 1));
     if (book == nullptr)
         MsgBox("The help file " + file + " can't be read. It is damaged, or no help file.");
     return book;
@@ -57,10 +65,10 @@ void HtmlHelpA(Form& owner, const std::string& file, unsigned command, int topic
     const bool isShown = helpWindow != nullptr && helpWindow->isVisible() && wanted.isFile() &&
                          shownFile == path && shownState == wanted.lastModified();
     if (!isShown) {
-        const std::shared_ptr<const HelpBook> book = openBook(file, path);
+        std::shared_ptr<const HelpBook> book = openBook(file, wanted);
         if (book == nullptr)
             return;
-        openWindow().setBook(book);
+        openWindow(std::move(book));
         shownFile = path;
         shownState = wanted.lastModified();
     }

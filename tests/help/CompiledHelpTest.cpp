@@ -1,7 +1,10 @@
 // The compiled help file, looked into with chmls, a reader that is none of ours (Debian's fp-utils).
 
 #include "tests/help/HelpPage.h"
+#include "tests/support/Bytes.h"
 
+#include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -28,11 +31,10 @@ protected:
     /// A file out of the compiled one.
     QByteArray member(const QString& name) const
     {
-        QFile extracted(folder.filePath("member"));
-        extracted.remove();
-        runChmls({"extract", file, name, extracted.fileName()});
-        EXPECT_TRUE(extracted.open(QIODevice::ReadOnly)) << name.toStdString();
-        return extracted.readAll();
+        const QString extracted = folder.filePath("member");
+        QFile::remove(extracted);
+        runChmls({"extract", file, name, extracted});
+        return bytesOf(extracted);
     }
 
     const QTemporaryDir folder;
@@ -76,11 +78,8 @@ TEST_F(CompiledHelp, NamesItsTitleDefaultTopicContentsAndIndex)
 
 TEST_F(CompiledHelp, HoldsEveryPageAsItIs)
 {
-    for (const QString& name : helpPages()) {
-        QFile page(helpFolder() + '/' + name);
-        ASSERT_TRUE(page.open(QIODevice::ReadOnly));
-        EXPECT_EQ(member('/' + name), page.readAll()) << name.toStdString();
-    }
+    for (const QString& name : helpPages())
+        EXPECT_EQ(member('/' + name), bytesOf(helpFolder() + '/' + name)) << name.toStdString();
 }
 
 TEST_F(CompiledHelp, HoldsPicturesContentsIndexAndSearch)
@@ -95,9 +94,32 @@ TEST_F(CompiledHelp, HoldsPicturesContentsIndexAndSearch)
         EXPECT_TRUE(names.contains(name)) << name;
 }
 
-// The folder that the file was built in is nobody's business, and in the map of topics it would lead nowhere.
+// The path of the builder's machine is of no use to anybody, and in the map of topics it would lead nowhere.
 TEST_F(CompiledHelp, NamesNoFolderOfTheBuild)
 {
-    EXPECT_FALSE(member("/#STRINGS").contains("/proc"));
-    EXPECT_FALSE(member("/#STRINGS").contains(DUNMOOR_SOURCES));
+    const QString members = folder.filePath("members");
+    ASSERT_TRUE(QDir().mkpath(members));
+    runChmls({"extractall", file, members});
+    int read = 0;
+    QDirIterator paths(members, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (paths.hasNext()) {
+        const QByteArray bytes = bytesOf(paths.next());
+        for (const char* path : {"/proc/", DUNMOOR_SOURCES, DUNMOOR_BUILD})
+            EXPECT_FALSE(bytes.contains(path)) << path << " in " << paths.fileName().toStdString();
+        ++read;
+    }
+    EXPECT_GT(read, helpPages().size());
+    EXPECT_FALSE(bytesOf(file).contains(DUNMOOR_BUILD)) << "nor outside its members";
+}
+
+TEST_F(CompiledHelp, IsTheSameWhereverAndWheneverItIsBuilt)
+{
+    EXPECT_TRUE(bytesOf(file) == bytesOf(DUNMOOR_HELP_FILE_AGAIN));
+}
+
+TEST_F(CompiledHelp, HasBothIdentifiersInItsHeader)
+{
+    const QByteArray header = bytesOf(file).first(0x38);
+    EXPECT_EQ(header.mid(0x18, 16).toHex(), "10fd017caa7bd0119e0c00a0c922e6ec");
+    EXPECT_EQ(header.mid(0x28, 16).toHex(), "11fd017caa7bd0119e0c00a0c922e6ec");
 }

@@ -4,6 +4,7 @@
 #include "tests/support/ProgramTest.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
@@ -19,6 +20,21 @@ TEST(HelpPages, HaveTheirTitleAsHeadingAndNothingButPlainCharacters)
         for (const char* forbidden : {"script", "font", "style", "frame", "iframe", "object"})
             EXPECT_TRUE(page.all(forbidden).empty()) << name.toStdString() << ": " << forbidden;
     }
+}
+
+// The desktop's colours and the reader's size of text apply to every page.
+TEST(HelpPages, NameNoColoursAndNoFixedSizesOfText)
+{
+    for (const QString& name : helpPages()) {
+        readHelpPage(name).visit([&name](const HelpElement& element) {
+            for (const char* forbidden : {"style", "color", "bgcolor", "background", "text", "link"})
+                EXPECT_FALSE(element.attributes.contains(forbidden)) << name.toStdString() << element.line;
+        });
+    }
+    const QString sheet = helpSource("dunmoor.css");
+    EXPECT_TRUE(sheet.contains("font-size: small"));
+    static const QRegularExpression fixed("color|background|font-size:\\s*\\d|#[0-9a-f]");
+    EXPECT_FALSE(sheet.contains(fixed));
 }
 
 // What a page announces as an example has steps to follow and figures to compare.

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/help/HelpWindow.h"
+#include "tests/support/Bytes.h"
 
 #include <QApplication>
 #include <QByteArray>
-#include <QFile>
 #include <QLineEdit>
 #include <QString>
 #include <QTest>
@@ -14,16 +14,6 @@
 
 #include <memory>
 #include <random>
-#include <stdexcept>
-
-/// The bytes of a file. @throws std::runtime_error where there is none
-inline QByteArray bytesOf(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error("no file " + path.toStdString());
-    return file.readAll();
-}
 
 /// Reads help files that are damaged, as a reader would: the first page, every page and picture that is not
 /// as it was, the contents, the index, a search, all in a help window that is on the screen. Nothing of that
@@ -48,18 +38,13 @@ public:
     static long mostMemory();
 
 private:
-    void readInWindow(const std::shared_ptr<const HelpBook>& book);
+    void readInWindow(const std::shared_ptr<const HelpBook>& book, const QList<ChmMember>& members);
 
-    QByteArray whole;
-    std::shared_ptr<const ChmFile> wholeFile = ChmFile::open(whole);
-    HelpWindow window;
+    const QByteArray whole;
+    const HelpBook undamaged{UnpackChm(whole)};
 };
 
-inline DamagedHelp::DamagedHelp(const QString& path) : whole(bytesOf(path))
-{
-    window.setAttribute(Qt::WA_DeleteOnClose, false);
-    window.show();
-}
+inline DamagedHelp::DamagedHelp(const QString& path) : whole(bytesOf(path)) {}
 
 inline long DamagedHelp::mostMemory()
 {
@@ -87,24 +72,27 @@ inline void DamagedHelp::readBeginnings(qsizetype from, qsizetype to, qsizetype 
 
 inline void DamagedHelp::read(const QByteArray& bytes)
 {
-    const std::shared_ptr<const HelpBook> book = HelpBook::open(bytes);
-    ++(book == nullptr ? unreadable : readable);
-    if (book != nullptr)
-        readInWindow(book);
+    const QList<ChmMember> members = UnpackChm(bytes);
+    const auto book = std::make_shared<const HelpBook>(members);
+    ++(book->pages().isEmpty() ? unreadable : readable);
+    if (!book->pages().isEmpty())
+        readInWindow(book, members);
 }
 
-inline void DamagedHelp::readInWindow(const std::shared_ptr<const HelpBook>& book)
+inline void DamagedHelp::readInWindow(const std::shared_ptr<const HelpBook>& book,
+                                      const QList<ChmMember>& members)
 {
-    window.setBook(book);
+    HelpWindow window(book);
+    window.setAttribute(Qt::WA_DeleteOnClose, false);
+    window.show();
     auto* const page = window.findChild<QTextBrowser*>("helpPage");
     for (const int topic : {100, 999})
         window.goToTopic(topic);
-    for (const QString& name : book->files()) {
-        const std::optional<QByteArray> bytes = book->readFile(name);
-        if (bytes && wholeFile->read(name) == bytes)
+    for (const ChmMember& member : members) {
+        if (!member.bytes.isNull() && undamaged.file(member.name) == member.bytes)
             continue;
-        const QUrl address("help:/" + name);
-        if (book->pages().contains(name)) {
+        const QUrl address("help:/" + member.name);
+        if (book->pages().contains(member.name)) {
             ++damagedPages;
             page->setSource(address);
         } else {

@@ -25,30 +25,28 @@ protected:
 
 TEST_P(DamagedHelpTest, IsReadWithAnyByteChanged)
 {
-    damaged.readWithBytesChanged(GetParam(), 260);
-    EXPECT_GT(damaged.readable, 200);
-    EXPECT_GT(damaged.damagedPages, 20) << "the damage is felt";
+    damaged.readWithBytesChanged(GetParam(), 120);
+    EXPECT_GT(damaged.readable, 90);
+    EXPECT_GT(damaged.damagedPages, 10) << "the damage is felt";
     expectLittleMemory();
 }
-INSTANTIATE_TEST_SUITE_P(Seeds, DamagedHelpTest, testing::Range(1U, 9U));
+INSTANTIATE_TEST_SUITE_P(Seeds, DamagedHelpTest, testing::Range(1U, 5U));
 
 TEST_F(DamagedHelpTest, IsReadCutOffAnywhere)
 {
-    damaged.readBeginnings(0, damaged.size(), 64);
-    EXPECT_EQ(damaged.readable + damaged.unreadable, (damaged.size() + 63) / 64);
-    EXPECT_GT(damaged.unreadable, 50);
+    damaged.readBeginnings(0, damaged.size(), 128);
+    EXPECT_EQ(damaged.readable + damaged.unreadable, (damaged.size() + 127) / 128);
+    EXPECT_GT(damaged.unreadable, 25);
     expectLittleMemory();
 }
 
 TEST_F(DamagedHelpTest, IsReadWithTheBytesThatTellSizesChanged)
 {
     const QByteArray whole = bytesOf(DUNMOOR_SAMPLE_HELP);
-    for (const char value : {'\x7f', '\xff'}) {
-        for (qsizetype place = 0; place < 0xE0; ++place) { // the headers
-            QByteArray bytes = whole;
-            bytes[place] = value;
-            damaged.read(bytes);
-        }
+    for (qsizetype place = 0; place < 0xE0; ++place) { // the headers
+        QByteArray bytes = whole;
+        bytes[place] = place % 4 == 3 ? '\x7f' : '\xff'; // large, and not negative
+        UnpackChm(bytes);
     }
     expectLittleMemory();
 }

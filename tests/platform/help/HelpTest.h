@@ -52,6 +52,16 @@ protected:
         comeToRest();
     }
 
+    /// Shows a page of a help file that holds nothing else, but for some members.
+    static void showPage(const QByteArray& html, const QList<ChmMember>& others = {})
+    {
+        const QList<ChmMember> members = QList<ChmMember>{{"index.html", html}} + others;
+        auto* const window = new HelpWindow(std::make_shared<const HelpBook>(members));
+        window->goToTopic(100);
+        window->showFor(*form<AnyForm>().window());
+        comeToRest();
+    }
+
     static QWidget* findHelp() { return User::findWindow("HelpWindow"); }
     static QWidget& help()
     {

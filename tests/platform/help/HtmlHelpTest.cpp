@@ -87,7 +87,7 @@ TEST_F(HtmlHelp, SaysWhenAFileIsNoHelpFile)
     expectUnreadable("signature.chm");
     write("cut.chm", bytesOf(DUNMOOR_SAMPLE_HELP).first(3000));
     expectUnreadable("cut.chm");
-    write("large.chm", bytesOf(DUNMOOR_SAMPLE_HELP) + QByteArray(ChmFile::largestFile, '\0'));
+    write("large.chm", bytesOf(DUNMOOR_SAMPLE_HELP) + QByteArray(largestChmFile, '\0'));
     expectUnreadable("large.chm");
 }
 
@@ -137,7 +137,17 @@ TEST_F(HtmlHelp, ReadsAFileAgainThatHasChanged)
     EXPECT_EQ(heading(), "Welcome");
 }
 
-TEST_F(HtmlHelp, ShowsAnotherFileInTheSameWindow)
+TEST_F(HtmlHelp, NamesNoFolderIfTheWorkingFolderIsGone)
+{
+    QTemporaryDir gone;
+    ASSERT_TRUE(QDir::setCurrent(gone.path()) && gone.remove());
+    ask(100);
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_EQ(user.messages[0].text, "The help file sample.chm was not found.\n\nIt was looked for in the "
+                                     "working folder, which no longer exists.");
+}
+
+TEST_F(HtmlHelp, ShowsAnotherFileFromItsBeginning)
 {
     ask(105);
     ASSERT_TRUE(QFile::copy("sample.chm", "other.chm"));
