@@ -23,6 +23,8 @@
 #include <stdexcept>
 #include <string>
 
+using namespace forms;
+
 namespace {
 
 constexpr int presses = 300;

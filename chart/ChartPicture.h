@@ -8,7 +8,7 @@
 namespace chart {
 
 /// A psychrometric chart with the last run of each calculator, in the units and at the pressure in force.
-class ChartPicture : public PictureContents
+class ChartPicture : public forms::PictureContents
 {
 public:
     std::string version() const override;

@@ -4,6 +4,8 @@
 #include <QProcess>
 #include <QUrl>
 
+using namespace forms;
+
 namespace {
 
 // The codes that callers know from desktops of this kind.

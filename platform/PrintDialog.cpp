@@ -14,6 +14,8 @@
 #include <QPrintEngine>
 #include <QStandardPaths>
 
+using namespace forms;
+
 namespace {
 
 std::string upperCase(const std::string& name)

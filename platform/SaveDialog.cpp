@@ -4,6 +4,8 @@
 
 #include <QFileDialog>
 
+using namespace forms;
+
 namespace {
 
 /// Cuts the text in front of the next NUL off and returns it.

@@ -3,6 +3,8 @@
 #include "reports/PrintFrame.h"
 #include "reports/SaveFrame.h"
 
+using namespace forms;
+
 TaggedNumber PrintedFraction(const TaggedNumber& txtRH) { return RoundToSingle(txtRH.asSingle() / 100.0); }
 TaggedNumber SavedFraction(const TaggedNumber& txtRH) { return txtRH.asDouble() / 100.0; }
 

@@ -5,7 +5,9 @@
 
 #include <string>
 
+namespace forms {
 class Form;
+} // namespace forms
 
 /// What stands in the fields of the air properties calculator.
 struct AirPropertiesTexts
@@ -31,5 +33,5 @@ void WriteAirPropertiesReport(ReportWriter& report, const AirPropertiesTexts& fi
                               AirBlock::Conversion fractionOf);
 
 /// The calculator's two commands (see PrintFrame.h, SaveFrame.h).
-void PrintAirProperties(const Form& owner, const AirPropertiesTexts& fields);
-void SaveAirProperties(const Form& owner, const AirPropertiesTexts& fields);
+void PrintAirProperties(const forms::Form& owner, const AirPropertiesTexts& fields);
+void SaveAirProperties(const forms::Form& owner, const AirPropertiesTexts& fields);

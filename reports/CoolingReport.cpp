@@ -7,6 +7,8 @@
 #include "reports/PrintFrame.h"
 #include "reports/SaveFrame.h"
 
+using namespace forms;
+
 namespace {
 
 void BeginSection(ReportWriter& report, std::string_view heading)

@@ -2,7 +2,9 @@
 
 #include "reports/ReportWriter.h"
 
+namespace forms {
 class Form;
+} // namespace forms
 
 /// Writes the entering air, the leaving air and the loads as they stand, however far the calculation has got.
 /// @throws RunTimeError as WriteAirBlock
@@ -10,5 +12,5 @@ void WriteCoolingReport(ReportWriter& report);
 
 /// The calculator's two commands (see PrintFrame.h, SaveFrame.h). Printing sets the printer's font, which
 /// stays set.
-void PrintCooling(const Form& owner);
-void SaveCooling(const Form& owner);
+void PrintCooling(const forms::Form& owner);
+void SaveCooling(const forms::Form& owner);

@@ -2,7 +2,9 @@
 
 #include "reports/ReportWriter.h"
 
+namespace forms {
 class Form;
+} // namespace forms
 
 /// Write the entering air, the leaving air and the load as they stand. On paper each of the three sections
 /// has the date far to the right above it; a saved report has it once, at the left.
@@ -11,5 +13,5 @@ void WritePrintedHeatingReport(ReportWriter& report);
 void WriteSavedHeatingReport(ReportWriter& report);
 
 /// The calculator's two commands (see PrintFrame.h, SaveFrame.h).
-void PrintHeating(const Form& owner);
-void SaveHeating(const Form& owner);
+void PrintHeating(const forms::Form& owner);
+void SaveHeating(const forms::Form& owner);

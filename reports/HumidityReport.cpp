@@ -5,6 +5,8 @@
 #include "reports/PrintFrame.h"
 #include "reports/SaveFrame.h"
 
+using namespace forms;
+
 namespace {
 
 /// The pictures of the space lines.

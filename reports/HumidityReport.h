@@ -5,7 +5,9 @@
 #include <functional>
 #include <string>
 
+namespace forms {
 class Form;
+} // namespace forms
 
 /// What stands in the fields and the unit labels of the humidification requirement.
 struct HumidityTexts
@@ -37,5 +39,5 @@ void WritePrintedHumidityReport(ReportWriter& report, const ReadHumidityTexts& r
 void WriteSavedHumidityReport(ReportWriter& report, const ReadHumidityTexts& readTexts);
 
 /// The two commands of both humidification screens (see PrintFrame.h, SaveFrame.h).
-void PrintHumidity(const Form& owner, const ReadHumidityTexts& readTexts);
-void SaveHumidity(const Form& owner, const ReadHumidityTexts& readTexts);
+void PrintHumidity(const forms::Form& owner, const ReadHumidityTexts& readTexts);
+void SaveHumidity(const forms::Form& owner, const ReadHumidityTexts& readTexts);

@@ -6,6 +6,8 @@
 #include "reports/PrintFrame.h"
 #include "reports/SaveFrame.h"
 
+using namespace forms;
+
 namespace {
 
 void WriteBlock(ReportWriter& report, std::string_view heading, const AirSnapshot& air)

@@ -7,6 +7,8 @@
 
 #include <exception>
 
+using namespace forms;
+
 namespace {
 
 void WriteTemporaryFile(const std::string& path, const WriteReport& writeReport)

@@ -6,6 +6,8 @@
 
 #include <exception>
 
+using namespace forms;
+
 using namespace std::string_view_literals;
 
 void SaveReport(const Form& owner, const std::string& title, const WriteReport& writeReport)

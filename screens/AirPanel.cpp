@@ -5,6 +5,8 @@
 #include "core/NumberText.h"
 #include "screens/Shell.h"
 
+using namespace forms;
+
 AirPanel::AirPanel(const std::string& name, const PanelRules& panelRules)
     : Form(name, FormKind::Screen), rules(panelRules)
 {

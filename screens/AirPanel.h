@@ -16,7 +16,7 @@
 /// the button that solves the whole state and writes it back into the same fields.
 ///
 /// What differs between the calculators is data: see PanelRules.h.
-class AirPanel : public Form
+class AirPanel : public forms::Form
 {
     const PanelRules& rules; // first: the controls take their captions from it
 
@@ -43,7 +43,7 @@ protected:
     /// Lays the buttons out in Frame5, from the top.
     void layOutActions(std::initializer_list<Button*> buttons);
     /// Lays out the panel's frames, and a further one under the actions, if there is any.
-    void layOutFrames(Grid& grid, Frame* underActions = nullptr);
+    void layOutFrames(forms::Grid& grid, Frame* underActions = nullptr);
 
     /// Sets all captions of the unit system in force, shows the pressure and puts the warnings back.
     void RepaintForm();

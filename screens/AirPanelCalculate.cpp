@@ -6,6 +6,8 @@
 #include "platform/forms/MsgBox.h"
 #include "screens/AirPanel.h"
 
+using namespace forms;
+
 namespace {
 
 constexpr Single lowestTdb = -40.0F;

@@ -5,6 +5,8 @@
 #include "screens/AirPanel.h"
 #include "screens/Rows.h"
 
+using namespace forms;
+
 void AirPanel::RepaintForm()
 {
     const bool isMetric = IsMetric();

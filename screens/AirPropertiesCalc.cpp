@@ -3,6 +3,8 @@
 #include "core/MainMod.h"
 #include "platform/Desktop.h"
 
+using namespace forms;
+
 AirPropertiesCalc::AirPropertiesCalc() : AirPanel("AirPropertiesCalc", airPropertiesCalc)
 {
     setCaption("Air Properties Calculator");

@@ -7,6 +7,8 @@
 #include "screens/MixedAir.h"
 #include "screens/Shell.h"
 
+using namespace forms;
+
 namespace {
 
 constexpr Colour cellColour{0x80, 0xFF, 0xFF};

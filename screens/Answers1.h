@@ -10,7 +10,7 @@
 #include <string>
 
 /// The mixed air table: outside air, return air and mixture side by side. MixedAir fills it before it shows.
-class Answers1 : public Form
+class Answers1 : public forms::Form
 {
 public:
     Answers1();
@@ -28,7 +28,7 @@ private:
     void RepaintForm();
     void moveUpPastGrains();
     void placeTable();
-    void placeRow(Label& caption, Cells& cells, Label& unit, Twips top);
+    void placeRow(Label& caption, Cells& cells, Label& unit, forms::Twips top);
     void buildMenus();
     void fillColumn(std::size_t column, const AirSnapshot& stream);
     Cells makeCells(const std::string& arrayName);

@@ -9,6 +9,8 @@
 #include "screens/Rows.h"
 #include "screens/cfmForm.h"
 
+using namespace forms;
+
 CoolingLoad1::CoolingLoad1() : AirPanel("CoolingLoad1", coolingLoad1)
 {
     setCaption("Cooling Load Calculation (Adiabatic)");

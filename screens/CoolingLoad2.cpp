@@ -4,6 +4,8 @@
 #include "core/MainMod.h"
 #include "screens/Rows.h"
 
+using namespace forms;
+
 CoolingLoad2::CoolingLoad2() : Form("CoolingLoad2", FormKind::Dialog)
 {
     setCaption("Cooling Leaving Air Temp");

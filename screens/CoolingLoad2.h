@@ -8,7 +8,7 @@
 
 /// The dialog that asks for the air leaving a cooling coil. It sorts the entry against the entering air into
 /// refused, dry or wet, and leaves its verdict and its numbers to the calculator behind it.
-class CoolingLoad2 : public Form
+class CoolingLoad2 : public forms::Form
 {
 public:
     CoolingLoad2();

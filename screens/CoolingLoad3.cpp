@@ -5,6 +5,8 @@
 #include "screens/CoolingLoad1.h"
 #include "screens/Rows.h"
 
+using namespace forms;
+
 CoolingLoad3::CoolingLoad3() : Form("CoolingLoad3", FormKind::Dialog)
 {
     setCaption("Dunmoor  -  Cooling Load Calculation");

@@ -11,7 +11,7 @@
 
 /// The summary of the cooling loads: sensible plus latent equals total. The calculator fills its load fields
 /// before it shows; what is typed into them changes nothing elsewhere.
-class CoolingLoad3 : public Form
+class CoolingLoad3 : public forms::Form
 {
 public:
     CoolingLoad3();

@@ -8,6 +8,8 @@
 #include "screens/Rows.h"
 #include "screens/cfmForm.h"
 
+using namespace forms;
+
 HeatingLoad1::HeatingLoad1() : AirPanel("HeatingLoad1", heatingLoad1)
 {
     setCaption("Heating Coil Load Calculation");

@@ -6,6 +6,8 @@
 #include "screens/HeatingLoad1.h"
 #include "screens/Rows.h"
 
+using namespace forms;
+
 HeatingLoad2::HeatingLoad2() : Form("HeatingLoad2", FormKind::Dialog)
 {
     setCaption("Leaving Air Temp");

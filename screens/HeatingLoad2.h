@@ -6,7 +6,7 @@
 #include "platform/forms/TextField.h"
 
 /// The dialog that asks for the temperature of the air leaving a heating coil, and finds the load.
-class HeatingLoad2 : public Form
+class HeatingLoad2 : public forms::Form
 {
 public:
     HeatingLoad2();

@@ -1,6 +1,8 @@
 #pragma once
 
+namespace forms {
 class Form;
+} // namespace forms
 
 /// The numbered topics of the help file.
 enum class HelpTopic
@@ -15,4 +17,4 @@ enum class HelpTopic
 
 /// Opens the help file at a topic. Its bare name is found from the current directory, which is the
 /// application's once the air properties calculator has been opened.
-void OpenHelp(Form& form, HelpTopic topic);
+void OpenHelp(forms::Form& form, HelpTopic topic);

@@ -7,6 +7,8 @@
 #include "screens/Shell.h"
 #include "screens/humid2.h"
 
+using namespace forms;
+
 Humid1::Humid1() : AirPanel("Humid1", humid1)
 {
     setCaption("Humidifier Calculation");

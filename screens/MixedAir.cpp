@@ -6,6 +6,8 @@
 #include "screens/Rows.h"
 #include "screens/cfmForm.h"
 
+using namespace forms;
+
 MixedAir::MixedAir() : AirPanel("MixedAir", mixedAir)
 {
     setCaption("Mixed Air Calculation");

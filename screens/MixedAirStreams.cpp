@@ -8,6 +8,8 @@
 #include "screens/MixedAir.h"
 #include "screens/cfmForm.h"
 
+using namespace forms;
+
 namespace {
 
 /// What a solver found, into a stream's snapshot. The fields not named here stay 0.

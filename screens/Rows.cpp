@@ -2,6 +2,8 @@
 
 #include <QString>
 
+using namespace forms;
+
 namespace {
 
 // Widths that hold the longest text of each column, the clip warnings among the units.

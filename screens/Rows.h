@@ -13,35 +13,36 @@
 /// One row of a frame: a caption, the field that it describes, the unit beside it.
 struct Row
 {
-    Label& caption;
-    Control& field;
-    Label& unit;
+    forms::Label& caption;
+    forms::Control& field;
+    forms::Label& unit;
 };
 
 /// A field with its unit alone.
 struct Pair
 {
-    TextField& field;
-    Label& unit;
+    forms::TextField& field;
+    forms::Label& unit;
 };
 
 /// Adds one row to a grid of captions, fields and units.
-void addRow(Grid& grid, int line, const Row& row);
+void addRow(forms::Grid& grid, int line, const Row& row);
 
 /// Lays rows out in a frame, so that captions, fields and units of all frames line up.
-void layOutInFrame(Frame& frame, const std::vector<Row>& rows);
+void layOutInFrame(forms::Frame& frame, const std::vector<Row>& rows);
 
 /// Lays fields out under one another, each with its unit.
-void layOutPairs(Frame& frame, const std::vector<Pair>& pairs);
+void layOutPairs(forms::Frame& frame, const std::vector<Pair>& pairs);
 
 /// Lays a form out as a frame that holds nothing, whose caption is a line of instruction, above a panel.
-void layOutBelowBanner(const Form& form, Frame& banner, Grid& panel);
+void layOutBelowBanner(const forms::Form& form, forms::Frame& banner, forms::Grid& panel);
 
 /// The row of buttons at the foot of a dialog: some at its left edge, the others at its right.
-Line* buttonRow(std::initializer_list<Button*> left, std::initializer_list<Button*> right);
+forms::Line* buttonRow(std::initializer_list<forms::Button*> left,
+                       std::initializer_list<forms::Button*> right);
 
 /// Gives a field a light back colour, black text on it, and its value the right place.
-void colourEntry(TextField& field, Colour colour);
+void colourEntry(forms::TextField& field, forms::Colour colour);
 
 /// Calls a field by what it is and its unit.
-void nameWithUnit(Control& field, const std::string& what, const std::string& unit);
+void nameWithUnit(forms::Control& field, const std::string& what, const std::string& unit);

@@ -4,6 +4,8 @@
 #include "screens/Help.h"
 #include "screens/Rows.h"
 
+using namespace forms;
+
 cfmForm::cfmForm() : Form("cfmForm", FormKind::Dialog)
 {
     setCaption("Air Volume Input");

@@ -8,7 +8,7 @@
 
 /// The dialog that asks for one air volume and leaves the answer in AirVolume: the text as it was typed,
 /// which its readers convert, or the integer 0. Its buttons hide it, so that it offers the same text again.
-class cfmForm : public Form
+class cfmForm : public forms::Form
 {
 public:
     cfmForm();

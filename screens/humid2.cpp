@@ -5,6 +5,8 @@
 #include "screens/Help.h"
 #include "screens/Shell.h"
 
+using namespace forms;
+
 humid2::humid2() : Form("humid2", FormKind::Screen)
 {
     setCaption("Humidity Inputs");

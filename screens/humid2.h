@@ -10,7 +10,7 @@
 
 /// The humidification calculator's second screen: the air that is wanted, how much of it, and the water that
 /// it takes.
-class humid2 : public Form
+class humid2 : public forms::Form
 {
 public:
     humid2();

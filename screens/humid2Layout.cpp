@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+using namespace forms;
+
 namespace {
 
 constexpr int fieldCharacters = 16;

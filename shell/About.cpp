@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+using namespace forms;
+
 namespace {
 
 constexpr const char* supportAddress = "mailto:support@dunmoor.example";

@@ -10,7 +10,7 @@
 #include <string>
 
 /// The about box: what the program is, who makes it, and how to reach them.
-class About : public Form
+class About : public forms::Form
 {
 public:
     About();

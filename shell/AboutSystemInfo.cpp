@@ -6,6 +6,8 @@
 
 #include <QFileInfo>
 
+using namespace forms;
+
 namespace {
 
 constexpr const char* viewerKey = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";

@@ -15,6 +15,8 @@
 #include "shell/Settings.h"
 #include "shell/Store.h"
 
+using namespace forms;
+
 void ShowMainForm() { form<MainForm>().Show(); }
 
 void ShowAbout() { form<About>().ShowModal(); }

@@ -7,7 +7,7 @@
 #include "platform/forms/Picture.h"
 
 /// The main menu: five buttons, one for each calculator. The process ends through this form alone.
-class MainForm : public Form
+class MainForm : public forms::Form
 {
 public:
     MainForm();

@@ -9,6 +9,8 @@
 #include <QApplication>
 #include <QIcon>
 
+using namespace forms;
+
 namespace {
 
 std::string describeFailure(const std::exception& failure)

@@ -5,6 +5,8 @@
 #include "screens/Rows.h"
 #include "shell/Store.h"
 
+using namespace forms;
+
 namespace {
 
 /// What the form does for one entry of its list.

@@ -7,7 +7,7 @@
 #include "platform/forms/TextField.h"
 
 /// The options: the unit system and the barometric pressure.
-class Settings : public Form
+class Settings : public forms::Form
 {
 public:
     Settings();

@@ -6,6 +6,8 @@
 
 #include <utility>
 
+using namespace forms;
+
 namespace {
 constexpr auto application = "Dunmoor";
 constexpr auto section = "Settings";

@@ -15,6 +15,8 @@
 #include <cstdio>
 #include <thread>
 
+using namespace forms;
+
 namespace {
 
 /// What a dark desktop sets for its programs.

@@ -5,6 +5,8 @@
 #include <QPushButton>
 #include <QShortcutEvent>
 
+namespace forms {
+
 namespace {
 
 /// A push button whose access key presses it at once, where the toolkit's would animate first.
@@ -44,3 +46,5 @@ void Button::setCaption(const std::string& caption)
 std::string Button::caption() const { return asButton(this)->text().toStdString(); }
 void Button::press() { asButton(this)->click(); }
 void Button::showAsDefault() { asButton(this)->setDefault(true); }
+
+} // namespace forms

@@ -2,6 +2,8 @@
 
 #include "platform/forms/Control.h"
 
+namespace forms {
+
 /// A push button. An ampersand in its caption marks the access key, which moves the focus to it and
 /// presses it.
 class Button : public Control
@@ -20,3 +22,5 @@ public:
 private:
     Handler click;
 };
+
+} // namespace forms

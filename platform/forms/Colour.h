@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+namespace forms {
+
 /// A colour of a control, by its parts from 0 to 255.
 struct Colour
 {
@@ -22,3 +24,5 @@ constexpr Colour LightGreen{128, 255, 128};
 constexpr Colour LightCyan{128, 255, 255};
 constexpr Colour LightYellow{255, 255, 128};
 } // namespace Colours
+
+} // namespace forms

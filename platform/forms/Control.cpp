@@ -3,6 +3,8 @@
 #include <QPalette>
 #include <QWidget>
 
+namespace forms {
+
 namespace {
 
 QColor toQt(Colour colour) { return {colour.red, colour.green, colour.blue}; }
@@ -66,3 +68,5 @@ void Control::raise(const Handler& handler)
     if (handler)
         runHandler(form, handler);
 }
+
+} // namespace forms

@@ -6,9 +6,12 @@
 
 #include <string>
 
-class Form;
 class QPalette;
 class QWidget;
+
+namespace forms {
+
+class Form;
 
 /// What all controls of a form share. A control is a handle: the widget behind it belongs to the form's
 /// window and carries the control's name as its object name.
@@ -57,3 +60,5 @@ private:
     QWidget* theWidget;
     bool hasOwnForeColour = false;
 };
+
+} // namespace forms

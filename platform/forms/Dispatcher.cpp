@@ -7,6 +7,8 @@
 
 #include <cstdlib>
 
+namespace forms {
+
 namespace {
 
 [[noreturn]] void reportAndEnd(const std::exception& failure)
@@ -32,3 +34,5 @@ void endProcess()
     QCoreApplication::exit(
         EXIT_SUCCESS); // quit() would close the forms that are still shown, and could be refused
 }
+
+} // namespace forms

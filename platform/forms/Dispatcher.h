@@ -4,6 +4,8 @@
 #include <functional>
 #include <string>
 
+namespace forms {
+
 class Form;
 
 using Handler = std::function<void()>;
@@ -21,3 +23,5 @@ inline FailureReport DescribeFailure = [](const std::exception& failure) {
 
 /// Ends the process from a handler, status 0: the event loop stops when the handlers have returned.
 void endProcess();
+
+} // namespace forms

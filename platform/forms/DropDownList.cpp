@@ -5,6 +5,8 @@
 #include <QComboBox>
 #include <QSignalBlocker>
 
+namespace forms {
+
 namespace {
 QComboBox* asCombo(const DropDownList* list) { return static_cast<QComboBox*>(list->widget()); }
 } // namespace
@@ -44,3 +46,5 @@ void DropDownList::select(int index)
 }
 
 std::string DropDownList::text() const { return asCombo(this)->currentText().toStdString(); }
+
+} // namespace forms

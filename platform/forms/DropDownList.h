@@ -2,6 +2,8 @@
 
 #include "platform/forms/Control.h"
 
+namespace forms {
+
 /// A list of fixed entries of which one is chosen. Choosing raises Click, by the user (also where the entry
 /// was chosen already) and by the program.
 class DropDownList : public Control
@@ -20,3 +22,5 @@ private:
     Handler click;
     bool raisedByChange = false;
 };
+
+} // namespace forms

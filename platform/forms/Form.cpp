@@ -13,6 +13,8 @@
 
 #include <stdexcept>
 
+namespace forms {
+
 namespace {
 
 /// Closes the open menus and lists. The toolkit would leave them, over nothing, until a click.
@@ -165,3 +167,5 @@ Form::RunningHandler::~RunningHandler()
     --form.runningHandlers;
     FormRegistry::destroyIfIdle(form);
 }
+
+} // namespace forms

@@ -11,12 +11,23 @@
 #include <string_view>
 #include <typeindex>
 
-class Button;
-class FormWindow;
-class Menu;
-class MenuCommand;
 class QEventLoop;
 class QWidget;
+
+namespace forms {
+
+class Button;
+class Control;
+class DropDownList;
+class FormWindow;
+class Frame;
+class Label;
+class Menu;
+class MenuCommand;
+class MenuSeparator;
+class Picture;
+class Rule;
+class TextField;
 
 enum class CloseReason
 {
@@ -38,6 +49,21 @@ enum class FormKind
 /// them their handlers; Form_Load then runs once.
 class Form
 {
+protected:
+    // The classes of its parts, which a form can use by their short names.
+    using Button = forms::Button;
+    using CloseReason = forms::CloseReason;
+    using Control = forms::Control;
+    using DropDownList = forms::DropDownList;
+    using Frame = forms::Frame;
+    using Label = forms::Label;
+    using Menu = forms::Menu;
+    using MenuCommand = forms::MenuCommand;
+    using MenuSeparator = forms::MenuSeparator;
+    using Picture = forms::Picture;
+    using Rule = forms::Rule;
+    using TextField = forms::TextField;
+
 public:
     Form(const std::string& name, FormKind kind);
     virtual ~Form();
@@ -131,3 +157,5 @@ public:
     /// Destroys all forms without running their unload handlers, at the end of the process.
     static void clear();
 };
+
+} // namespace forms

@@ -6,6 +6,8 @@
 #include <map>
 #include <vector>
 
+namespace forms {
+
 namespace {
 
 // Never destroyed: where exit() ends the process, as when the display goes away, they would destroy the
@@ -57,3 +59,5 @@ void FormRegistry::clear()
     loadedForms.clear();
     retiredForms.clear();
 }
+
+} // namespace forms

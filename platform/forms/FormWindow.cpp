@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 
+namespace forms {
+
 FormWindow::FormWindow(Form& ownerForm, bool isDialog)
     : QMainWindow(nullptr, isDialog ? Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                                           Qt::WindowCloseButtonHint
@@ -45,3 +47,5 @@ void FormWindow::keyPressEvent(QKeyEvent* event)
     if (!isEnter || !owner.pressDefaultButton())
         QMainWindow::keyPressEvent(event);
 }
+
+} // namespace forms

@@ -2,6 +2,8 @@
 
 #include <QMainWindow>
 
+namespace forms {
+
 class Form;
 
 /// The window of a form: hands the close box and the Enter key to the form, and keeps room for the controls.
@@ -24,3 +26,5 @@ private:
     Form& owner;
     QSize leastSize;
 };
+
+} // namespace forms

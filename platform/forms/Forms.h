@@ -2,6 +2,8 @@
 
 #include "platform/forms/Form.h"
 
+namespace forms {
+
 /// The process-wide instance of a form class. The first use creates it, hidden, and runs its load handler;
 /// so does the first use after it was unloaded.
 template <class F>
@@ -18,3 +20,5 @@ bool isLoaded()
 {
     return FormRegistry::find(typeid(F)) != nullptr;
 }
+
+} // namespace forms

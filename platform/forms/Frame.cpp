@@ -4,6 +4,8 @@
 
 #include <QGroupBox>
 
+namespace forms {
+
 namespace {
 QGroupBox* asGroup(const Frame* frame) { return static_cast<QGroupBox*>(frame->widget()); }
 } // namespace
@@ -30,3 +32,5 @@ void Frame::showCaptionAlone()
                             "QGroupBox::title { subcontrol-origin: margin; left: 0px; }");
     widget()->setFixedHeight(widget()->fontMetrics().height() + 4);
 }
+
+} // namespace forms

@@ -2,6 +2,8 @@
 
 #include "platform/forms/Control.h"
 
+namespace forms {
+
 /// A frame with a caption around a group of controls; its layout is set on its widget.
 class Frame : public Control
 {
@@ -15,3 +17,5 @@ public:
     /// Shows the caption as a line of its own: the frame holds nothing, and no border is drawn.
     void showCaptionAlone();
 };
+
+} // namespace forms

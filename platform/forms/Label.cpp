@@ -4,6 +4,8 @@
 
 #include <QLabel>
 
+namespace forms {
+
 namespace {
 QLabel* asLabel(const Label* label) { return static_cast<QLabel*>(label->widget()); }
 } // namespace
@@ -57,3 +59,5 @@ void Label::setFontSize(int percentOfNormal, bool bold)
     font.setBold(bold);
     asLabel(this)->setFont(font);
 }
+
+} // namespace forms

@@ -2,6 +2,8 @@
 
 #include "platform/forms/Control.h"
 
+namespace forms {
+
 /// A line of text on a form.
 class Label : public Control
 {
@@ -22,3 +24,5 @@ public:
     void setPointSize(int points);
     void setFontSize(int percentOfNormal, bool bold);
 };
+
+} // namespace forms

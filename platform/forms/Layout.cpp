@@ -3,6 +3,8 @@
 #include <QFontMetrics>
 #include <QWidget>
 
+namespace forms {
+
 int widthOfCharacters(const Control& control, int count)
 {
     return control.widget()->fontMetrics().averageCharWidth() * count;
@@ -28,3 +30,5 @@ void setTabOrder(std::initializer_list<const Control*> controls)
         before = next;
     }
 }
+
+} // namespace forms

@@ -9,6 +9,8 @@
 
 #include <initializer_list>
 
+namespace forms {
+
 /// A layout of the toolkit that takes controls. Without a form or a frame it goes into another layout.
 template <class ToolkitLayout>
 class ControlLayout : public ToolkitLayout
@@ -41,3 +43,5 @@ void setLeastWidth(const Control& control, int width);
 
 /// Tab visits the controls in this order.
 void setTabOrder(std::initializer_list<const Control*> controls);
+
+} // namespace forms

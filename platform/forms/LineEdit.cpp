@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace forms {
+
 namespace {
 
 bool isEnter(const QKeyEvent& event) { return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter; }
@@ -161,3 +163,5 @@ void LineEdit::dropEvent(QDropEvent* event)
     if (!field.swallows(Key::Paste))
         QLineEdit::dropEvent(event);
 }
+
+} // namespace forms

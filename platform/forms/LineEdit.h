@@ -2,6 +2,8 @@
 
 #include <QLineEdit>
 
+namespace forms {
+
 class TextField;
 
 /// The widget of a text field: turns the toolkit's events into the field's.
@@ -24,3 +26,5 @@ private:
     TextField& field;
     bool pressed = false;
 };
+
+} // namespace forms

@@ -5,6 +5,8 @@
 #include <QAction>
 #include <QMenu>
 
+namespace forms {
+
 MenuCommand::MenuCommand(Form& owner, const std::string& name, const std::string& caption)
     : form(owner), theAction(new QAction(QString::fromStdString(caption), owner.window()))
 {
@@ -45,3 +47,5 @@ void Menu::enable() { theMenu->setEnabled(true); }
 void Menu::disable() { theMenu->setEnabled(false); }
 void Menu::show() { theMenu->menuAction()->setVisible(true); }
 void Menu::hide() { theMenu->menuAction()->setVisible(false); }
+
+} // namespace forms

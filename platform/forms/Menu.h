@@ -4,9 +4,12 @@
 
 #include <string>
 
-class Form;
 class QAction;
 class QMenu;
+
+namespace forms {
+
+class Form;
 
 /// An entry of a menu, or a command that stands on the menu bar by itself.
 class MenuCommand
@@ -60,3 +63,5 @@ public:
 private:
     QMenu* theMenu;
 };
+
+} // namespace forms

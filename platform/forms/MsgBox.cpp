@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QMessageBox>
 
+namespace forms {
+
 namespace {
 
 /// The window that a message belongs to. It must outlast the box, which would go down with it: neither a form
@@ -29,3 +31,5 @@ void MsgBox(const std::string& text, const std::string& title)
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
+
+} // namespace forms

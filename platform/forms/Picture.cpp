@@ -20,6 +20,8 @@
 #include <QToolTip>
 #include <QWidget>
 
+namespace forms {
+
 namespace {
 
 /// All that the kept picture depends on.
@@ -152,3 +154,5 @@ Picture::Picture(Form& owner, const std::string& name, std::unique_ptr<PictureCo
 }
 
 void Picture::repaint() { widget()->update(); }
+
+} // namespace forms

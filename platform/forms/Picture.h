@@ -10,6 +10,8 @@ class QPoint;
 class QSize;
 class QWidget;
 
+namespace forms {
+
 /// What a picture shows.
 class PictureContents
 {
@@ -38,3 +40,5 @@ public:
     /// Looks whether what the picture shows has changed.
     void repaint();
 };
+
+} // namespace forms

@@ -3,6 +3,8 @@
 #include "platform/forms/Form.h"
 #include "platform/forms/LineEdit.h"
 
+namespace forms {
+
 namespace {
 LineEdit* asEdit(const TextField* field) { return static_cast<LineEdit*>(field->widget()); }
 } // namespace
@@ -35,3 +37,5 @@ bool TextField::swallows(int key)
     raise([this, &key] { keyPress(key); });
     return key == Key::Swallowed;
 }
+
+} // namespace forms

@@ -4,6 +4,8 @@
 
 #include <functional>
 
+namespace forms {
+
 /// The keys that a KeyPress handler asks about, by their character.
 namespace Key {
 constexpr int Swallowed = 0;
@@ -57,3 +59,5 @@ private:
     Handler mouseDown;
     KeyHandler keyPress;
 };
+
+} // namespace forms

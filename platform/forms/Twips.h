@@ -1,5 +1,7 @@
 #pragma once
 
+namespace forms {
+
 /// Forms and their places are measured in twips; ten of them are one device-independent pixel.
 using Twips = int;
 
@@ -14,3 +16,5 @@ struct Screen
     static Twips width();
     static Twips height();
 };
+
+} // namespace forms

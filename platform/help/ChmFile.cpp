@@ -10,6 +10,8 @@
 #include <tuple>
 #include <vector>
 
+namespace help {
+
 namespace {
 
 /// The members that can be unpacked within the limits, in the order in which that is fastest.
@@ -66,3 +68,5 @@ QList<ChmMember> UnpackChm(const QByteArray& bytes)
     unpacker->close(unpacker.get(), header);
     return members;
 }
+
+} // namespace help

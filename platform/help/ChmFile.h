@@ -4,6 +4,8 @@
 #include <QList>
 #include <QString>
 
+namespace help {
+
 /// A file within a compiled help file.
 struct ChmMember
 {
@@ -20,3 +22,5 @@ constexpr int mostChmMembers = 4096;
 /// anywhere. A member beyond the limits is left out.
 /// @return nothing if the bytes can't be read as a help file
 QList<ChmMember> UnpackChm(const QByteArray& bytes);
+
+} // namespace help

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace help {
+
 namespace {
 
 constexpr int homePageCode = 2;
@@ -121,3 +123,5 @@ QString HelpBook::page(const QString& name) const
         return notice("Page not readable", "The page \"" + name + "\" of the help file is damaged.");
     return WithinLimits(text(name)) + ' '; // an empty page is a page, too
 }
+
+} // namespace help

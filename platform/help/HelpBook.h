@@ -9,6 +9,8 @@
 
 #include <memory>
 
+namespace help {
+
 /// A help file as its reader sees it: pages, a contents tree, an index, numbered topics. A page is named as
 /// in the file, in upper or lower case; a reference may carry an anchor, as "air.html#range".
 class HelpBook
@@ -38,3 +40,5 @@ private:
     QHash<int, QString> system; ///< what the file says about itself, by code
     QHash<int, QString> topics;
 };
+
+} // namespace help

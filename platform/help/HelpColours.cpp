@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace help {
+
 namespace {
 
 constexpr double readable = 4.5;
@@ -70,3 +72,5 @@ QString HelpColours::styleSheet() const
     )";
     return sheet.arg(link.name(), rule.name(), shade.name());
 }
+
+} // namespace help

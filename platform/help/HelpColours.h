@@ -4,6 +4,8 @@
 #include <QPalette>
 #include <QString>
 
+namespace help {
+
 /// The colours of a help page, made from those of the desktop so that all can be read on a light and on a
 /// dark one.
 struct HelpColours
@@ -27,3 +29,5 @@ double Contrast(const QColor& one, const QColor& other);
 
 /// The colour, brought as far towards black or white as it needs for text on the ground.
 QColor ReadableOn(const QColor& ground, const QColor& colour);
+
+} // namespace help

@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace help {
+
 namespace {
 
 constexpr int widestPicture = 700; // in pixels of the desktop
@@ -188,3 +190,5 @@ QMimeData* HelpPage::createMimeDataFromSelection() const
     copied->setHtml(selected.toHtml());
     return copied;
 }
+
+} // namespace help

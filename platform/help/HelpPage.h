@@ -10,6 +10,8 @@
 
 class QPrinter;
 
+namespace help {
+
 /// Shows the pages of a help file in the colours of the desktop. It loads nothing from anywhere else.
 class HelpPage : public QTextBrowser
 {
@@ -50,3 +52,5 @@ private:
     qsizetype nextMark = 0;
     int step = 0; // of the text's size
 };
+
+} // namespace help

@@ -11,6 +11,8 @@
 
 #include <utility>
 
+namespace help {
+
 namespace {
 
 constexpr int pageRole = Qt::UserRole;
@@ -200,3 +202,5 @@ void SearchPane::search()
     results->setCurrentRow(0);
     results->setFocus(Qt::OtherFocusReason);
 }
+
+} // namespace help

@@ -14,6 +14,8 @@ class QLineEdit;
 class QListWidget;
 class QTreeWidget;
 
+namespace help {
+
 /// Opens a page of the help, with words to mark on it. Does nothing if the reference is empty.
 using OpenHelpPage = std::function<void(const QString& reference, const QStringList& words)>;
 
@@ -50,3 +52,5 @@ private:
     QLabel* summary;
     QListWidget* results;
 };
+
+} // namespace help

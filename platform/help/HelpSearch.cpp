@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <tuple>
 
+namespace help {
+
 namespace {
 
 /// Reads a page without loading anything that it refers to.
@@ -82,3 +84,5 @@ QList<HelpSearch::Result> HelpSearch::find(const QStringList& words)
         results.append(*ranked.result);
     return results;
 }
+
+} // namespace help

@@ -9,6 +9,8 @@
 #include <memory>
 #include <vector>
 
+namespace help {
+
 /// The words of what a user types to search, in lower case, each once.
 QStringList SearchWords(const QString& typed);
 
@@ -39,3 +41,5 @@ private:
     std::shared_ptr<const HelpBook> book;
     std::vector<Page> pages;
 };
+
+} // namespace help

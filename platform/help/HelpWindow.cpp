@@ -19,6 +19,8 @@
 
 #include <utility>
 
+namespace help {
+
 namespace {
 
 constexpr QSize usualSize(980, 680);
@@ -240,3 +242,5 @@ bool HelpWindow::event(QEvent* event)
     }
     return QWidget::event(event);
 }
+
+} // namespace help

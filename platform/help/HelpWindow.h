@@ -7,12 +7,15 @@
 
 #include <memory>
 
-class HelpPage;
 class QAction;
 class QLabel;
 class QTabWidget;
 class QToolBar;
 class QWindow;
+
+namespace help {
+
+class HelpPage;
 
 /// The window that shows a help file. It blocks no form, and no form blocks it: it is in front of the window
 /// that asked for it, and moves on to a modal window that would block it. Closing it deletes it.
@@ -52,3 +55,5 @@ private:
     HelpPage* page;
     QLabel* notice;
 };
+
+} // namespace help

@@ -14,6 +14,9 @@
 #include <memory>
 #include <utility>
 
+using namespace forms;
+using namespace help;
+
 namespace {
 
 /// The open help window, and what it shows.
@@ -56,7 +59,7 @@ std::shared_ptr<const HelpBook> openBook(const std::string& file, const QFileInf
 
 } // namespace
 
-void HtmlHelpA(Form& owner, const std::string& file, unsigned command, int topic)
+void HtmlHelpA(forms::Form& owner, const std::string& file, unsigned command, int topic)
 {
     if (command != HH_HELP_CONTEXT)
         return;

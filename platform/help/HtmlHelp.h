@@ -2,7 +2,9 @@
 
 #include <string>
 
+namespace forms {
 class Form;
+} // namespace forms
 
 /// The command that opens the help at a numbered topic.
 constexpr unsigned HH_HELP_CONTEXT = 15;
@@ -11,4 +13,4 @@ constexpr unsigned HH_HELP_CONTEXT = 15;
 /// form waits, too. A name without a folder is looked for in the working directory. A topic that the file
 /// doesn't have opens its first page. What can't be opened is told in a message box.
 /// @param command  HH_HELP_CONTEXT; any other does nothing
-void HtmlHelpA(Form& owner, const std::string& file, unsigned command, int topic);
+void HtmlHelpA(forms::Form& owner, const std::string& file, unsigned command, int topic);

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace help {
+
 namespace {
 
 constexpr qsizetype largestPage = 256 << 10; // characters
@@ -76,3 +78,5 @@ QString WithinLimits(const QString& page)
     return "<p><i>This page is too large to be laid out. This is its text.</i></p><p>" + textOf(page) +
            "</p>";
 }
+
+} // namespace help

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace help {
+
 namespace {
 
 constexpr int mostEntries = 10'000;
@@ -39,3 +41,5 @@ QList<SitemapEntry> ReadSitemap(const QString& page)
     }
     return entries;
 }
+
+} // namespace help

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+namespace help {
+
 /// A line of a contents tree or of an index.
 struct SitemapEntry
 {
@@ -14,3 +16,5 @@ struct SitemapEntry
 /// Reads a contents or index page of a help file. Ignores lines without a title; reads at most 10,000 lines
 /// and 32 levels.
 QList<SitemapEntry> ReadSitemap(const QString& page);
+
+} // namespace help

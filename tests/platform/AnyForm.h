@@ -2,6 +2,8 @@
 
 #include "platform/forms/Forms.h"
 
+using namespace forms;
+
 /// A form without anything on it, to own a dialog.
 class AnyForm : public Form
 {

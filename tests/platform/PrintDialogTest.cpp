@@ -13,6 +13,8 @@
 #include <QSpinBox>
 #include <QTemporaryDir>
 
+using namespace forms;
+
 namespace {
 
 TEST(PrinterToGoOverTo, TakesThePrinterOfTheNameInUpperCase)

@@ -18,6 +18,8 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+using namespace forms;
+
 namespace {
 
 /// Listens at a path of the file system. The system accepts for it; nobody reads or writes.

@@ -9,6 +9,8 @@
 #include <QFileDialog>
 #include <QTemporaryDir>
 
+using namespace forms;
+
 namespace {
 
 using namespace std::string_view_literals;

@@ -2,6 +2,8 @@
 #include "tests/platform/Pdf.h"
 #include "tests/reports/Reports.h"
 
+using namespace forms;
+
 namespace {
 
 class AirPropertiesReport : public ReportCommandTest

@@ -4,6 +4,8 @@
 #include "tests/platform/Pdf.h"
 #include "tests/reports/Reports.h"
 
+using namespace forms;
+
 namespace {
 
 class CoolingReport : public ReportCommandTest

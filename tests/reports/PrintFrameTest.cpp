@@ -7,6 +7,8 @@
 
 #include <sys/stat.h>
 
+using namespace forms;
+
 namespace {
 
 class PrintFrame : public ReportCommandTest

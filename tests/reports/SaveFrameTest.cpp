@@ -6,6 +6,8 @@
 
 #include <sys/stat.h>
 
+using namespace forms;
+
 namespace {
 
 class SaveFrame : public ReportCommandTest

@@ -5,6 +5,8 @@
 
 #include <array>
 
+using namespace forms;
+
 /// The table of the mixed air, after 1000 cfm at 95 and 3000 cfm at 75 degrees were mixed.
 class MixedAirTable : public MixedAirTest
 {

@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <QWidget>
 
+using namespace forms;
+
 /// The air volume dialog, opened from the mixed air calculator.
 class AirVolumeDialog : public MixedAirTest
 {

@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <QWidget>
 
+using namespace forms;
+
 /// The dialog that asks for the air leaving the coil. The entering air is at 80 deg F, its dew point at 59.8.
 class CoolingLeavingAirDialog : public CoolingTest
 {

@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <QWidget>
 
+using namespace forms;
+
 /// The summary of the loads.
 class CoolingSummary : public CoolingTest
 {

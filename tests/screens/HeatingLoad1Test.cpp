@@ -2,6 +2,8 @@
 
 #include "tests/screens/HeatingFixture.h"
 
+using namespace forms;
+
 using HeatingScreen = HeatingTest;
 
 TEST_F(HeatingScreen, OpensBlankWithAllButtonsOff)

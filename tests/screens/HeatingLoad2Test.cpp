@@ -2,6 +2,8 @@
 
 #include "tests/screens/HeatingFixture.h"
 
+using namespace forms;
+
 using HeatingLeavingDialog = HeatingTest;
 
 TEST_F(HeatingLeavingDialog, AsksForTheLeavingTemperature)

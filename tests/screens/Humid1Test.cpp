@@ -2,6 +2,8 @@
 
 #include "tests/screens/HumidFixture.h"
 
+using namespace forms;
+
 using HumidificationScreen = HumidTest;
 
 TEST_F(HumidificationScreen, OpensBlankWithItsButtonsOffAndTheSecondScreenLoaded)

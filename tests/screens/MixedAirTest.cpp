@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <QWidget>
 
+using namespace forms;
+
 using MixedAirScreen = MixedAirTest;
 
 TEST_F(MixedAirScreen, OpensBlankWithAllButtonsOffAndNoVolumes)

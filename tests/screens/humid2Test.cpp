@@ -2,6 +2,8 @@
 
 #include "tests/screens/HumidFixture.h"
 
+using namespace forms;
+
 using HumidityRequirement = HumidTest;
 
 TEST_F(HumidityRequirement, OpensBlankOverTheOutsideAir)

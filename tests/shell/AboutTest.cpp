@@ -8,6 +8,8 @@
 #include <QDesktopServices>
 #include <QTextBrowser>
 
+using namespace forms;
+
 class AboutBox : public CalculatorTest
 {
 protected:

@@ -26,6 +26,8 @@
 #include <algorithm>
 #include <vector>
 
+using namespace forms;
+
 namespace {
 
 struct ShownForm

@@ -14,6 +14,8 @@
 #include <QTimer>
 #include <QWidget>
 
+using namespace forms;
+
 using MainMenu = ProgramTest;
 
 TEST_F(MainMenu, StartsInEnglishAtStandardPressureWithAnEmptyStore)

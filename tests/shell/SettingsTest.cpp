@@ -14,6 +14,8 @@
 
 #include <sys/stat.h>
 
+using namespace forms;
+
 class OptionsScreen : public ProgramTest
 {
 protected:

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace forms;
+
 /// A test that starts the program as its user does: the main menu is up. What the settings hold before is
 /// stored with the functions here, first thing in a test.
 class ProgramTest : public testing::Test

@@ -11,6 +11,8 @@
 #include <QPalette>
 #include <QScreen>
 
+using namespace forms;
+
 using FormSize = FormsTest;
 
 TEST_F(FormSize, IsGivenInTwipsOfATenthOfAPixel)

@@ -6,6 +6,8 @@
 
 #include <set>
 
+using namespace forms;
+
 class Buttons : public FormsTest
 {
 protected:

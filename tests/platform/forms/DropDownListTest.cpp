@@ -6,6 +6,8 @@
 #include <QComboBox>
 #include <QTest>
 
+using namespace forms;
+
 class Lists : public FormsTest
 {
 protected:

@@ -10,6 +10,8 @@
 #include <iostream>
 #include <stdexcept>
 
+using namespace forms;
+
 class Failures : public FormsTest
 {
 protected:

@@ -2,6 +2,8 @@
 
 #include "tests/platform/forms/TestForms.h"
 
+using namespace forms;
+
 using FormLife = FormsTest;
 
 TEST_F(FormLife, LoadsHiddenAtTheFirstUse)

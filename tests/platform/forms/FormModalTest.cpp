@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QWindow>
 
+using namespace forms;
+
 class ModalForm : public FormsTest
 {
 protected:

@@ -5,6 +5,8 @@
 
 #include <QAction>
 
+using namespace forms;
+
 class UnloadInAHandler : public FormsTest
 {
 protected:

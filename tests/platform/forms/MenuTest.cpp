@@ -8,6 +8,8 @@
 #include <QMenuBar>
 #include <QTest>
 
+using namespace forms;
+
 /// A screen with the kinds of menus that there are.
 class MenuScreen : public Form
 {

@@ -9,6 +9,8 @@
 #include <QTimer>
 #include <QToolTip>
 
+using namespace forms;
+
 class MessageBoxes : public testing::Test
 {
 protected:

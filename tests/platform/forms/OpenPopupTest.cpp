@@ -12,6 +12,8 @@
 #include <QTimer>
 #include <QToolTip>
 
+using namespace forms;
+
 namespace {
 
 class NoContents : public PictureContents

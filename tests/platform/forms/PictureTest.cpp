@@ -9,6 +9,8 @@
 #include <QPalette>
 #include <QTest>
 
+using namespace forms;
+
 namespace {
 
 struct Drawing : PictureContents

@@ -20,6 +20,8 @@
 #include <string>
 #include <vector>
 
+using namespace forms;
+
 /// What the handlers did, in order.
 using Calls = std::vector<std::string>;
 inline Calls calls;

@@ -4,6 +4,8 @@
 
 #include <QClipboard>
 
+using namespace forms;
+
 class FieldChange : public FormsTest
 {
 protected:

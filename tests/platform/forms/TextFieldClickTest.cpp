@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+using namespace forms;
+
 class FieldClick : public FormsTest
 {
 protected:

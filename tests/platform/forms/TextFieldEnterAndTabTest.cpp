@@ -2,6 +2,8 @@
 
 #include "tests/platform/forms/TestForms.h"
 
+using namespace forms;
+
 class FieldEnterAndTab : public FormsTest
 {
 protected:

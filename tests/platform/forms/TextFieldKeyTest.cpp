@@ -12,6 +12,8 @@
 #include <QMimeData>
 #include <QTest>
 
+using namespace forms;
+
 class FieldKeys : public FormsTest
 {
 protected:

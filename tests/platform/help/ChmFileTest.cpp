@@ -7,6 +7,8 @@
 
 #include <QStringList>
 
+using namespace help;
+
 namespace {
 
 QString source(const QString& name) { return QString(DUNMOOR_TEST_DATA) + "/help/" + name; }

@@ -15,6 +15,8 @@
 #include <memory>
 #include <random>
 
+using namespace help;
+
 /// Reads help files that are damaged, as a reader would: the first page, every page and picture that is not
 /// as it was, the contents, the index, a search, all in a help window that is on the screen. Nothing of that
 /// may crash or hang. The file that the damage is done to may be any.

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace help;
+
 namespace {
 
 /// Far more than a help file of some 20 KB needs, and far less than a size out of it could ask for.

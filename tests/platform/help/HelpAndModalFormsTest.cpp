@@ -6,6 +6,9 @@
 #include <QScrollBar>
 #include <QWindow>
 
+using namespace forms;
+using namespace help;
+
 namespace {
 
 class HelpAndModalForms : public HelpTest

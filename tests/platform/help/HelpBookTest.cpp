@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace help;
+
 namespace {
 
 class HelpBookTest : public testing::Test

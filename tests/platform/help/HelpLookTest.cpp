@@ -3,6 +3,8 @@
 #include "platform/help/HelpColours.h"
 #include "tests/platform/help/HelpTest.h"
 
+using namespace help;
+
 namespace {
 
 constexpr double readable = 4.5;

@@ -21,6 +21,8 @@
 
 #include <stdexcept>
 
+using namespace help;
+
 /// Someone who reads the help that a form has asked for. The help file lies in the working directory.
 class HelpTest : public testing::Test
 {

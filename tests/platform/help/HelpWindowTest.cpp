@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QScrollBar>
 
+using namespace help;
+
 namespace {
 
 using Lines = std::vector<std::string>;

@@ -4,6 +4,9 @@
 
 #include <QMessageBox>
 
+using namespace forms;
+using namespace help;
+
 namespace {
 
 using Messages = std::vector<Message>;

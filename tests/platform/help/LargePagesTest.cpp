@@ -7,6 +7,8 @@
 
 #include <random>
 
+using namespace help;
+
 namespace {
 
 QByteArray table(int rows, int cells, const QByteArray& cell)

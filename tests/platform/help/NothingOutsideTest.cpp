@@ -11,6 +11,8 @@
 
 #include <array>
 
+using namespace help;
+
 namespace {
 
 /// A page that refers to files in the working folder in every way there is, and a watch that sees them
