@@ -51,7 +51,6 @@ void layOutPairs(Frame& frame, const std::vector<Pair>& pairs)
     for (const Pair& pair : pairs) {
         setFixedHeight(pair.field, heightOfLines(pair.field, linesPerRow));
         pair.field.alignRight();
-        pair.unit.describe(pair.field);
         grid->add(pair.unit, line++, 0);
         grid->add(pair.field, line++, 0);
     }
