@@ -29,7 +29,9 @@ void AirPropertiesCalc::Form_Load()
 
 void AirPropertiesCalc::afterResults()
 {
-    KeepLastRun(Calculator::AirProperties, {{"air", AirSnapshot::of(StatePoint, 0)}});
+    // Only what the record needs: a copy of the whole state could fail, and end a calculation that succeeded.
+    const AirSnapshot air{.W = StatePoint.W.asSingle(), .Tdb = StatePoint.Tdb, .P = StatePoint.P.asSingle()};
+    KeepLastRun(Calculator::AirProperties, {{"air", air}});
 }
 
 AirPropertiesTexts AirPropertiesCalc::texts() const

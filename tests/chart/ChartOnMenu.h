@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QToolTip>
 
+#include <algorithm>
 #include <cstdlib>
 
 /// A user who looks at the chart of the main menu, and runs calculators.
@@ -49,11 +50,9 @@ protected:
         const QColor centre = image.pixelColor(place);
         if (centre.hsvSaturation() < 150)
             return false;
-        for (const QPoint step : {QPoint(2, 0), QPoint(-2, 0), QPoint(0, 2), QPoint(0, -2)}) {
-            if (image.pixelColor(place + step) != centre)
-                return false;
-        }
-        return true;
+        const QPoint around[] = {{2, 0}, {-2, 0}, {0, 2}, {0, -2}};
+        return std::ranges::all_of(
+            around, [&](const QPoint& step) { return image.pixelColor(place + step) == centre; });
     }
 
     void inOptions(const std::function<void()>& actions)
@@ -76,7 +75,7 @@ protected:
         const QPoint there = place.toPoint();
         QHelpEvent event(QEvent::ToolTip, there, picture()->mapToGlobal(there));
         QApplication::sendEvent(picture(), &event);
-        const std::string tip = QToolTip::isVisible() ? QToolTip::text().toStdString() : "";
+        std::string tip = QToolTip::isVisible() ? QToolTip::text().toStdString() : "";
         QToolTip::hideText();
         EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
         return tip;
