@@ -94,17 +94,17 @@ private:
     {
         Key key{size(), devicePixelRatioF(), palette().cacheKey(), font(), contents->version()};
         if (key != keptFor) {
-            kept = QPixmap::fromImage(rendered(Qt::transparent));
+            kept = QPixmap::fromImage(rendered());
             keptFor = std::move(key);
         }
         return kept;
     }
 
-    QImage rendered(const QColor& ground)
+    QImage rendered()
     {
         QImage picture(size() * devicePixelRatioF(), QImage::Format_ARGB32_Premultiplied);
         picture.setDevicePixelRatio(devicePixelRatioF());
-        picture.fill(ground);
+        picture.fill(Qt::transparent);
         QPainter painter(&picture);
         painter.setRenderHint(QPainter::Antialiasing);
         runHandler(form, [&] { contents->paint(painter, size(), *this); });
@@ -122,7 +122,7 @@ private:
     /// The ground comes below what is shown: newer toolkits draw letters on an opaque ground in another way.
     void copy()
     {
-        QImage picture = rendered(Qt::transparent);
+        QImage picture = rendered();
         QPainter painter(&picture);
         painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
         painter.fillRect(rect(), palette().color(QPalette::Window));
