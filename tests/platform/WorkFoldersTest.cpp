@@ -85,7 +85,7 @@ TEST_F(WorkFoldersTest, StayWhereTheyAreMadeAndWritable)
 
 TEST_F(WorkFoldersTest, LieBelowTheUsersFolderWhereOthersMayWriteInTheApplications)
 {
-    for (const mode_t rights : {0770, 0707, 01777}) {
+    for (const mode_t rights : {0770U, 0707U, 01777U}) {
         allow(application(), rights);
         EXPECT_EQ(WorkFolder(application(), "tempdata"), ofTheUser("tempdata")) << std::oct << rights;
     }
@@ -96,7 +96,7 @@ TEST_F(WorkFoldersTest, LieBelowTheUsersFolderWhereOthersMayWriteInTheApplicatio
 TEST_F(WorkFoldersTest, LieBelowTheUsersFolderWhereOthersMayWriteInTheirOwn)
 {
     ASSERT_TRUE(MakeFolder(path("tempdata")));
-    for (const mode_t rights : {0770, 0707, 01777}) {
+    for (const mode_t rights : {0770U, 0707U, 01777U}) {
         allow(path("tempdata"), rights);
         EXPECT_EQ(WorkFolder(application(), "tempdata"), ofTheUser("tempdata")) << std::oct << rights;
     }

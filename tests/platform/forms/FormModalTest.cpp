@@ -114,7 +114,7 @@ TEST_F(ModalForm, LetsNoOtherWindowTakeInput)
     form<SecondScreen>().Show();
     calls.clear();
 
-    user.inDialog("FirstDialog", [this, &caller] {
+    user.inDialog("FirstDialog", [&caller] {
         clickThroughTheSystem(caller.btnSecond);
         clickThroughTheSystem(form<SecondScreen>().btnSecond);
         QTest::keyClick(caller.window()->windowHandle(), Qt::Key_S, Qt::AltModifier);
@@ -205,7 +205,7 @@ TEST_F(ModalForm, ShowsAMessageBoxAboveItselfAndWaitsForIt)
 TEST_F(ModalForm, LetsItsCallerGoOnAlthoughTheCallersFormIsUnloadedMeanwhile)
 {
     FirstScreen& caller = showCaller();
-    user.inDialog("FirstDialog", [this, &caller] {
+    user.inDialog("FirstDialog", [&caller] {
         caller.Unload();
         comeToRest();
         form<FirstDialog>().Hide();
