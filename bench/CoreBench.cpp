@@ -2,8 +2,8 @@
 // search beside its plain form, and a floor under both.
 
 #include "core/MainMod.h"
-#include "tests/core/PlainForms.h"
 #include "core/WetBulbBracket.h"
+#include "tests/core/PlainForms.h"
 
 #include <benchmark/benchmark.h>
 
