@@ -1,7 +1,7 @@
 #pragma once
 
-// The state of the calculator, the relations of moist air, the solvers, and numbers as text. Mixing, loads and
-// humidification have headers of their own.
+// The state of the calculator, the relations of moist air, the solvers, and numbers as text. Mixing, loads
+// and humidification have headers of their own.
 
 #include "core/AirSnapshot.h"
 #include "core/CoreMessage.h"

@@ -29,8 +29,7 @@ int flagsFor(QIODevice::OpenMode mode, Links links)
 
 bool isRegular(int descriptor)
 {
-    struct stat status
-    {};
+    struct stat status = {};
     return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
 }
 

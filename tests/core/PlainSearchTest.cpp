@@ -1,9 +1,9 @@
 // The wet bulb search against its plain form: millions of searches, results to the bit and failures by their
 // number.
 
-#include "tests/core/PlainForms.h"
 #include "core/WetBulbBracket.h"
 #include "tests/core/CoreTest.h"
+#include "tests/core/PlainForms.h"
 #include "tests/core/Thoroughness.h"
 
 #include <cmath>

@@ -59,6 +59,8 @@ struct Popup
 
 void PrintTo(const Popup& popup, std::ostream* out) { *out << popup.name; }
 
+void showTip(PopupForm& form) { QToolTip::showText({5, 5}, "a tip", form.txtFirst.widget()); }
+
 const Popup popups[] = {
     {"ContextMenuOfAField", [](PopupForm& form) { openContextMenu(form.txtFirst); }},
     {"ContextMenuOfAFieldThatSwallows", [](PopupForm& form) { openContextMenu(form.txtSecond); }},
@@ -70,10 +72,7 @@ const Popup popups[] = {
          QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier,
                            bar->actionGeometry(bar->actions().first()).center());
      }},
-    {"Tip",
-     [](PopupForm& form) {
-         QToolTip::showText({5, 5}, "a tip", form.txtFirst.widget());
-     }},
+    {"Tip", showTip},
 };
 
 class OpenPopup : public FormsTest, public testing::WithParamInterface<Popup>
