@@ -1,10 +1,11 @@
-# Warnings and the arithmetic rules that every target of this project is built with. Warnings are errors where
-# CMAKE_COMPILE_WARNING_AS_ERROR says so: in the presets for development, and never for who only wants the program.
+# Warnings and floating-point rules for every target of this project. Warnings are errors if
+# CMAKE_COMPILE_WARNING_AS_ERROR is set: in the development presets, but not for users who only build the program.
 add_library(dunmoor_flags INTERFACE)
 target_compile_options(dunmoor_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
 
-# Results are fixed to the last bit: no fused multiply-add, no re-ordering, no extra precision. Linked with fast math, a
-# program flushes tiny numbers to zero, so the linker is told too; of -Ofast nothing but another level takes that back.
+# Results are exact to the last bit: no fused multiply-add, no reordering, no extra precision. Linking with fast math
+# makes a program flush subnormals to zero, so the linker gets these options too. Only another optimization level
+# cancels -Ofast.
 set(plain_arithmetic -ffp-contract=off -fno-fast-math -fno-unsafe-math-optimizations)
 target_compile_options(dunmoor_flags INTERFACE ${plain_arithmetic})
 target_link_options(dunmoor_flags INTERFACE ${plain_arithmetic})

@@ -1,5 +1,5 @@
-# dunmoor_floor(NAME [BELOW targets...]) makes the static library of one floor from the sources of
-# its folder. Headers are included as "floor/Header.h".
+# dunmoor_floor(NAME [BELOW targets...]) builds the static library of one floor from the sources in its folder. Include
+# headers as "floor/Header.h".
 function(dunmoor_floor name)
   cmake_parse_arguments(floor "" "" "BELOW" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)

@@ -1,12 +1,11 @@
-// help-finish HELP-FILE STRINGS PREFIX: finishes a help file that chmcmd has compiled.
+// help-finish HELP-FILE STRINGS PREFIX: finishes a help file compiled by chmcmd.
 //
-// - chmcmd writes the names of the numbered topics with the path of the project's folder, PREFIX. A reader
-// that
-//   takes them literally finds no page. STRINGS is the table that holds them, extracted from the file. There
-//   it is compressed together with everything else, so the corrected table is appended behind the compressed
-//   part, and its directory entry changed to point there.
-// - It writes two time stamps, which would make every build differ. They become 0.
-// - It writes the first of the header's two identifiers twice.
+// - chmcmd puts the path of the project's folder, PREFIX, before the names of the numbered topics. A viewer
+//   that uses these names literally finds no page. STRINGS is the table of names, extracted from the file. It
+//   is part of the compressed section, so the corrected table is appended after that section and its
+//   directory entry changed.
+// - chmcmd writes two time stamps, which would make every build differ. They are set to 0.
+// - chmcmd writes the first of the header's two identifiers twice. The second is corrected.
 
 #include <QByteArray>
 #include <QFile>
@@ -18,7 +17,7 @@
 
 namespace {
 
-constexpr qsizetype timeAt = 0x10; // in the header, as are the others
+constexpr qsizetype timeAt = 0x10; // in the header, like the others
 constexpr qsizetype secondIdentifierAt = 0x28;
 constexpr qsizetype directoryAt = 0x48;
 constexpr qsizetype contentAt = 0x58;
@@ -33,7 +32,7 @@ QByteArray read(const char* path)
     return file.readAll();
 }
 
-/// The number at a place of the header.
+/// The number at an offset of the header.
 qsizetype number(const QByteArray& file, qsizetype at)
 {
     return static_cast<qsizetype>(qFromLittleEndian<quint64>(file.constData() + at));
@@ -47,7 +46,7 @@ qsizetype find(const QByteArray& file, const QByteArray& wanted, qsizetype from)
     return at;
 }
 
-/// Takes the prefix off every name. Each string keeps its place.
+/// Removes the prefix from every name. Each string keeps its offset.
 QByteArray withoutPrefix(QByteArray strings, const QByteArray& prefix)
 {
     if (!strings.contains(prefix))
@@ -59,7 +58,7 @@ QByteArray withoutPrefix(QByteArray strings, const QByteArray& prefix)
     return strings;
 }
 
-/// Writes an offset over another one: seven bits a byte, the highest first, all but the last byte marked.
+/// Overwrites a stored offset: seven bits per byte, the highest first, every byte but the last marked.
 void overwriteOffset(QByteArray& file, qsizetype at, qsizetype offset)
 {
     qsizetype last = at;
@@ -75,7 +74,7 @@ void appendStrings(QByteArray& file, const QByteArray& strings)
 {
     const QByteArray entry = "\x09/#STRINGS";
     const qsizetype section = find(file, entry, number(file, directoryAt)) + entry.size();
-    file[section] = 0; // not compressed
+    file[section] = 0; // the uncompressed section
     overwriteOffset(file, section + 1, file.size() - number(file, contentAt));
     file += strings;
     qToLittleEndian(static_cast<quint64>(file.size()), file.data() + fileSizeAt);
@@ -86,10 +85,10 @@ void finish(const char* helpFile, const char* stringsFile, const char* prefix)
     QByteArray file = read(helpFile);
     if (file.size() < headerSize)
         throw std::runtime_error("the help file is too short");
-    const QByteArray timeRecord("\x03\0\0\0\x0A\0\4\0", 8); // the table about the file begins with it
+    const QByteArray timeRecord("\x03\0\0\0\x0A\0\4\0", 8); // first record of the table "#SYSTEM"
     file.replace(find(file, timeRecord, number(file, contentAt)) + timeRecord.size(), 4, QByteArray(4, '\0'));
     file.replace(timeAt, 4, QByteArray(4, '\0'));
-    file[secondIdentifierAt] = 0x11; // the one byte in which they differ
+    file[secondIdentifierAt] = 0x11; // the only byte in which they differ
     appendStrings(file, withoutPrefix(read(stringsFile), prefix));
     QFile out(helpFile);
     if (!out.open(QIODevice::WriteOnly) || out.write(file) != file.size() || !out.flush())

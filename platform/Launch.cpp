@@ -8,7 +8,7 @@ using namespace forms;
 
 namespace {
 
-// The codes that callers know from desktops of this kind.
+// The codes that callers expect from a desktop of this kind.
 constexpr int refused = 5;
 constexpr int noProgram = 31;
 constexpr int taken = 42;

@@ -23,8 +23,8 @@ std::string upperCase(const std::string& name)
     return QString::fromStdString(name).toUpper().toStdString();
 }
 
-/// Options of the print system that have no setting of their own (several pages a sheet, a cover sheet, what
-/// one model alone can do). The toolkit keeps them in its print engine under this key.
+/// Print system options that have no setting of their own: pages per sheet, cover sheets, options of one
+/// printer model. The toolkit's print engine keeps them under this key.
 constexpr auto printSystemOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
 
 void copyPrintSystemOptions(QPrinter& from, QPrinter& to)
@@ -34,10 +34,10 @@ void copyPrintSystemOptions(QPrinter& from, QPrinter& to)
         to.printEngine()->setProperty(printSystemOptions, options);
 }
 
-// The toolkit has no public way to what the next two functions and PropertiesWatch do. They find its widgets
-// by name, and are no-ops in a version that has other names: then its dialog appears as it is.
+// The next two functions and PropertiesWatch have no public API in the toolkit. They find its widgets by
+// name. In a version with other names they are no-ops, and its dialog appears unchanged.
 
-/// Removes the page range. The toolkit shows it whatever its options say, but not below a hidden widget.
+/// Hides the page range below a hidden widget, because the toolkit shows it whatever its options say.
 void leaveOutPageRange(QPrintDialog& dialog)
 {
     auto* const shelf = new QWidget(&dialog);
@@ -46,7 +46,7 @@ void leaveOutPageRange(QPrintDialog& dialog)
         range->setParent(shelf);
 }
 
-/// Where the toolkit proposes a folder alone for the file printer, proposes a file.
+/// Proposes a file if the toolkit proposes only a folder for the file printer.
 void proposeFile(QPrintDialog& dialog)
 {
     auto* const file = dialog.findChild<QLineEdit*>("filename");
@@ -57,7 +57,7 @@ void proposeFile(QPrintDialog& dialog)
     file->setText(folder.filePath("Dunmoor.pdf"));
 }
 
-/// Brings the settings of the current printer to the device of the dialog.
+/// Copies the settings of the current printer to the dialog's device.
 void copySettings(Printer& current, QPrinter& device)
 {
     QPrinter& source = current.device();
@@ -72,7 +72,7 @@ void copySettings(Printer& current, QPrinter& device)
     copyPrintSystemOptions(source, device);
 }
 
-/// A device of its own for the dialog, which may change it while it is open.
+/// A separate device for the dialog, which may change it while it is open.
 std::unique_ptr<QPrinter> deviceForDialog(Printer& current)
 {
     std::unique_ptr<QPrinter> device = OpenDevice(current.deviceName());
@@ -82,8 +82,8 @@ std::unique_ptr<QPrinter> deviceForDialog(Printer& current)
     return device;
 }
 
-/// Watches for the page of properties that the dialog opens on the user's demand. The toolkit starts it on
-/// the paper that the printer offers; it is put on the paper in force.
+/// Waits for the properties page that the dialog opens on request. The toolkit fills it with the printer's
+/// default paper; this sets the current paper instead.
 class PropertiesWatch : public QObject
 {
 public:
@@ -115,8 +115,8 @@ private:
     bool confirmed = false;
 };
 
-/// On confirmation the toolkit puts all properties back to what the printer offers, when the user has not
-/// confirmed any there. They stay as they were.
+/// Keeps the current properties. On OK the toolkit resets them to the printer's defaults unless the user has
+/// confirmed the properties page.
 void keepProperties(Printer& current, QPrinter& chosen)
 {
     if (DeviceName(chosen) != current.deviceName())
@@ -124,7 +124,7 @@ void keepProperties(Printer& current, QPrinter& chosen)
     QPrinter& source = current.device();
     chosen.setPageLayout(source.pageLayout());
     chosen.setPaperSource(source.paperSource());
-    if (current.deviceName() != FilePrinter) // whose colours stand on the dialog itself
+    if (current.deviceName() != FilePrinter) // the file printer's color mode is on the dialog itself
         chosen.setColorMode(source.colorMode());
     copyPrintSystemOptions(source, chosen);
 }
@@ -149,7 +149,7 @@ void chooseSettings(Printer& current, const QPrinter& chosen)
     current.setPaperBin(chosen.paperSource());
 }
 
-/// What this dialog offers beyond the settings that every printer has.
+/// Enables the dialog's options that not every printer has.
 void chooseExtras(Printer& current, QPrinter& chosen)
 {
     if (current.isPrinting())
@@ -178,7 +178,7 @@ bool ShowPrintDialog(const Form& owner)
 {
     AskPrintServer();
     if (!owner.isVisible())
-        return false; // closed meanwhile
+        return false; // closed in the meantime
     Printer& current = CurrentPrinter();
     const std::unique_ptr<QPrinter> device = deviceForDialog(current);
     QPrintDialog dialog(device.get(), owner.window());

@@ -8,13 +8,13 @@ namespace forms {
 class Form;
 } // namespace forms
 
-/// Asks how to print: on which printer, how many copies, on what paper. All pages are printed, so neither a
-/// selection nor a page range is offered. The dialog opens on the settings of the current printer and brings
-/// the user's choice to it.
+/// Asks for the printer, the number of copies and the paper. All pages are printed: the dialog offers neither
+/// a selection nor a page range. It opens with the settings of the current printer and stores the user's
+/// choice there.
 /// @return false on Cancel, which changes nothing
 bool ShowPrintDialog(const forms::Form& owner);
 
-/// The printer to go over to for a chosen name, in upper case: of those that have this name when upper and
-/// lower case are one, the last.
+/// Returns the printer to switch to for the chosen name, which is in upper case. If several names differ only
+/// in case, the last one wins.
 std::optional<std::string> PrinterToGoOverTo(const std::vector<std::string>& printers,
                                              const std::string& upperCaseName);

@@ -13,8 +13,8 @@ namespace {
 
 constexpr std::chrono::seconds longestWait(5);
 
-/// Returns false if the server has not answered in time. The thread that asks can't be stopped: it stays, and
-/// no other is started beside it.
+/// Returns false on timeout. The asking thread can't be stopped: it keeps running, and no second one is
+/// started.
 bool answersInTime()
 {
     static QPointer<QThread> asking;
@@ -30,12 +30,12 @@ bool answersInTime()
     return asking == nullptr || asking->isFinished();
 }
 
-/// Sets the server that the toolkit asks from the main thread: CUPS keeps one for each thread. Null is the
-/// user's.
+/// Sets the server that the toolkit asks from the main thread, since CUPS keeps one per thread. Null is the
+/// user's server.
 void setServer(const char* server)
 {
     constexpr int version = 2;
-    QLibrary cups("cups", version); // the library that the toolkit uses
+    QLibrary cups("cups", version); // the same library as the toolkit's
     cups.setLoadHints(QLibrary::PreventUnloadHint);
     using CupsSetServer = void (*)(const char*);
     if (const auto cupsSetServer = reinterpret_cast<CupsSetServer>(cups.resolve("cupsSetServer")))
@@ -47,7 +47,7 @@ void setServer(const char* server)
 void AskPrintServer()
 {
     setServer("/dev/null/no-server");
-    QPrinterInfo::availablePrinterNames(); // loads the toolkit's plugin, which belongs in the main thread
+    QPrinterInfo::availablePrinterNames(); // loads the toolkit's plugin, which must happen in the main thread
     if (answersInTime())
         setServer(nullptr);
 }

@@ -12,13 +12,13 @@ namespace {
 
 constexpr double MarginInMillimetres = 15.0;
 
-/// The desktop's font, with its size in points.
+/// The desktop's font, sized in points.
 QFont desktopFont()
 {
     QFont font = QApplication::font();
     font.setPointSize(QFontInfo(font).pointSize());
-    // The least there is, too little to see. It keeps the toolkit from drawing "fi" as one glyph, which
-    // whoever looks for "Specific" in a PDF file would not find.
+    // The smallest spacing, too small to see. It stops the toolkit from drawing "fi" as a ligature, so that a
+    // search for "Specific" in a PDF file succeeds.
     font.setLetterSpacing(QFont::AbsoluteSpacing, 1.0 / 64);
     return font;
 }
@@ -29,7 +29,7 @@ QPageSize::PageSizeId usualPaper()
     return american ? QPageSize::Letter : QPageSize::A4;
 }
 
-/// Breaks a text into lines that fit a width, between words where that is possible.
+/// Breaks a text into lines of at most this width, between words if possible.
 void breakIntoLines(QTextLayout& layout, double width)
 {
     QTextOption wrapping;
@@ -43,7 +43,7 @@ void breakIntoLines(QTextLayout& layout, double width)
     layout.endLayout();
 }
 
-/// False for a folder, and for a pipe, which would be waited for.
+/// Returns false for a folder and for a pipe, which would block.
 bool isRegularOrNew(const std::string& path)
 {
     const QFileInfo file(QString::fromStdString(path));
@@ -91,7 +91,7 @@ Printer& CurrentPrinter()
         const std::string systemDefault = QPrinterInfo::defaultPrinterName().toStdString();
         currentPrinter =
             std::make_unique<Printer>(systemDefault.empty() ? PrinterNames().front() : systemDefault);
-        qAddPostRoutine([] { currentPrinter.reset(); }); // devices must be gone before the toolkit is
+        qAddPostRoutine([] { currentPrinter.reset(); }); // devices must go before the toolkit
     }
     return *currentPrinter;
 }
@@ -121,7 +121,7 @@ void Printer::setPort(const std::string& file)
 {
     if (!isPrinting() && deviceName() == FilePrinter) {
         device_->setOutputFileName(QString::fromStdString(file));
-        device_->setOutputFormat(QPrinter::PdfFormat); // whatever the name ends with
+        device_->setOutputFormat(QPrinter::PdfFormat); // whatever the extension
     }
 }
 
@@ -174,7 +174,7 @@ PrinterFont Printer::font() const
 
 void Printer::setFont(const PrinterFont& font)
 {
-    // Liberation Sans is as wide as Arial, letter by letter, and free.
+    // Liberation Sans is free and has the same metrics as Arial.
     QStringList families{QString::fromStdString(font.name)};
     if (font.name == "Arial")
         families << "Liberation Sans";
@@ -233,8 +233,8 @@ void Printer::dropDocument()
 {
     if (!isPrinting())
         return;
-    // Ending the painter or destroying the device would send the document off, and the toolkit's abort does
-    // so too. So they stay as they are until the process is gone.
+    // Ending the painter, destroying the device and the toolkit's own abort would all send the document. So
+    // both live until the process ends.
     static auto* const unfinished = new std::vector<std::pair<QPainter*, QPrinter*>>;
     unfinished->emplace_back(painter.release(), device_.release());
 }

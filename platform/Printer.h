@@ -9,7 +9,7 @@
 
 class QPainter;
 
-/// A font by its name, its size in points, and its weight.
+/// A font: name, size in points, and weight.
 struct PrinterFont
 {
     std::string name;
@@ -17,24 +17,24 @@ struct PrinterFont
     bool bold = false;
 };
 
-/// The printer object: a device, its settings, and the document that is being printed on it. Lines go down
-/// the page one after the other, and on to the next page where one is full.
+/// The printer object: a device, its settings, and the document being printed on it. Lines run down the page
+/// and continue on the next page.
 ///
-/// While a document is unfinished its device and settings stay as they are: setting them does nothing.
+/// While a document is unfinished, setting the device or its settings is a no-op.
 class Printer
 {
 public:
     explicit Printer(const std::string& device);
-    /// Drops a document that was not ended.
+    /// Discards an unfinished document.
     ~Printer();
 
-    /// Goes over to another device, with the settings that it offers; the font stays.
+    /// Switches to another device, with that device's settings. The font stays.
     void changeDevice(const std::string& device);
 
     std::string deviceName() const;
     std::string driverName() const;
-    std::string port() const; ///< where it stands; of the file printer, the file
-    int pageWidth() const;    ///< between the margins, in the device's own dots
+    std::string port() const; ///< the printer's location, or the file of the file printer
+    int pageWidth() const;    ///< width between the margins, in device dots
 
     QPageLayout::Orientation orientation() const { return device_->pageLayout().orientation(); }
     QPageSize paperSize() const { return device_->pageLayout().pageSize(); }
@@ -44,7 +44,7 @@ public:
     int printQuality() const { return device_->resolution(); } ///< dots per inch
     QPrinter::ColorMode colorMode() const { return device_->colorMode(); }
 
-    void setPort(const std::string& file); ///< of the file printer alone
+    void setPort(const std::string& file); ///< for the file printer only
     void setOrientation(QPageLayout::Orientation orientation);
     void setPaperSize(const QPageSize& size);
     void setPaperBin(QPrinter::PaperSource bin);
@@ -53,18 +53,18 @@ public:
     void setPrintQuality(int dotsPerInch);
     void setColorMode(QPrinter::ColorMode mode);
 
-    /// The font of the lines from here on.
+    /// The font for the lines that follow.
     PrinterFont font() const;
     void setFont(const PrinterFont& font);
 
-    /// Prints a line, on several lines of the page where it is wider than that. The first one begins the
-    /// document. False where the device takes none.
+    /// Prints a line and wraps it if it is too wide for the page. The first line starts the document. Returns
+    /// false if the device refuses.
     [[nodiscard]] bool printLine(const std::string& line);
 
-    /// Ends the document and sends it off. Without a document nothing happens.
+    /// Ends the document and sends it to the device. A no-op without a document.
     [[nodiscard]] bool endDocument();
 
-    /// The toolkit's device, for a dialog to read and for what only the device itself knows.
+    /// The toolkit's device, for dialogs and for settings that only the device has.
     QPrinter& device() { return *device_; }
     bool isPrinting() const { return painter != nullptr; }
 
@@ -76,19 +76,19 @@ private:
     std::unique_ptr<QPrinter> device_;
     std::unique_ptr<QPainter> painter;
     QFont font_;
-    double usedHeight = 0; // of the page, in dots
+    double usedHeight = 0; // on the page, in dots
 };
 
-/// The name of the printer that writes PDF files. It is there on every system.
+/// The name of the printer that writes PDF files. Every system has it.
 inline const std::string FilePrinter = "Print to File (PDF)";
 
-/// The device of a name, with the settings that it offers.
+/// Opens a device by name, with that device's settings.
 std::unique_ptr<QPrinter> OpenDevice(const std::string& name);
 std::string DeviceName(const QPrinter& device);
 
-/// The names of all printers: those of the system, in its order, then the file printer.
+/// The names of all printers: the system's, in its order, then the file printer.
 std::vector<std::string> PrinterNames();
 
-/// The printer that the program prints on: at first the system's default, without one the first printer there
-/// is. What is set on it stays until the program ends.
+/// The program's printer: initially the system's default, or the first printer if there is no default. Its
+/// settings stay until the program ends.
 Printer& CurrentPrinter();

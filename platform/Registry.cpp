@@ -12,7 +12,7 @@ public:
     std::optional<Key> RegOpenKeyExA(std::uint32_t root, const std::string& name, std::uint32_t options,
                                      std::uint32_t rights) override
     {
-        // A predefined root is a 32-bit number with its sign, whatever the width of a handle.
+        // A predefined root is a sign-extended 32-bit number, whatever the width of a handle.
         const auto rootKey =
             reinterpret_cast<HKEY>(static_cast<std::intptr_t>(static_cast<std::int32_t>(root)));
         HKEY key = nullptr;

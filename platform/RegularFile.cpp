@@ -23,7 +23,7 @@ namespace {
 int flagsFor(QIODevice::OpenMode mode, Links links)
 {
     const int access = mode.testFlag(QIODevice::WriteOnly) ? O_WRONLY | O_CREAT : O_RDONLY;
-    // Without O_NONBLOCK, opening a pipe waits for somebody at its other end.
+    // Without O_NONBLOCK, opening a pipe blocks until the other end is open.
     return access | O_NONBLOCK | O_CLOEXEC | O_NOCTTY | (links == Links::Refuse ? O_NOFOLLOW : 0);
 }
 
@@ -37,12 +37,12 @@ bool isRegular(int descriptor)
 
 bool OpenRegularFile(QFile& file, QIODevice::OpenMode mode, Links links)
 {
-    constexpr mode_t everybody = 0666; // less the user's mask
+    constexpr mode_t everybody = 0666; // minus the user's umask
     const QByteArray path = QFile::encodeName(file.fileName());
     const int descriptor = ::open(path.constData(), flagsFor(mode, links), everybody);
     if (descriptor < 0)
         return false;
-    // Emptied only here: a check before opening could be about another file of that name.
+    // Truncate only here: a check before opening could see a different file of that name.
     const bool writes = mode.testFlag(QIODevice::WriteOnly);
     if (isRegular(descriptor) && (!writes || ftruncate(descriptor, 0) == 0) &&
         file.open(descriptor, mode, QFileDevice::AutoCloseHandle))

@@ -5,10 +5,9 @@
 enum class Links
 {
     Follow,
-    Refuse, ///< a path that ends in a link can't be opened
+    Refuse, ///< fails if the last part of the path is a link
 };
 
-/// Opens a regular file by its path: to read it, or to write it, which creates it or empties it. Pipes,
-/// devices and folders are refused, and never waited for. Returns false if the file can't be opened; it is
-/// unchanged then.
+/// Opens a regular file for reading or for writing. Writing creates the file or truncates it. Refuses pipes,
+/// devices and folders without blocking. On failure returns false and leaves the file unchanged.
 [[nodiscard]] bool OpenRegularFile(QFile& file, QIODevice::OpenMode mode, Links links);

@@ -8,7 +8,7 @@ using namespace forms;
 
 namespace {
 
-/// Cuts the text in front of the next NUL off and returns it.
+/// Removes the text before the next NUL and returns it.
 QString takeItem(std::string_view& filter)
 {
     const std::string_view item = filter.substr(0, filter.find('\0'));
@@ -16,7 +16,7 @@ QString takeItem(std::string_view& filter)
     return QString::fromUtf8(item.data(), static_cast<qsizetype>(item.size()));
 }
 
-/// The filters in the toolkit's spelling, "text (pattern)".
+/// The filters in the toolkit's form, "text (pattern)".
 QStringList nameFilters(std::string_view filter)
 {
     QStringList names;
@@ -45,7 +45,7 @@ std::string ShowSaveDialog(const Form& owner, std::string_view filter, const std
     dialog.setObjectName("SaveDialog");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setOption(QFileDialog::DontUseNativeDialog); // some desktops' own ask before they overwrite
+    dialog.setOption(QFileDialog::DontUseNativeDialog); // some native dialogs ask before overwriting
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(nameFilters(filter));

@@ -35,7 +35,7 @@ QString pathOf(const std::string& application)
            QString::fromStdString(application) + ".ini";
 }
 
-/// True for a text file of at most 1 MB, and if there is no file yet.
+/// True for a text file of at most 1 MB, or if no file exists yet.
 bool isStore(const QString& path)
 {
     constexpr qint64 largest = 1'000'000;
@@ -49,7 +49,7 @@ bool isStore(const QString& path)
     return bytes.size() <= largest && !bytes.contains('\0');
 }
 
-/// False if something else holds the lock of the file, for which the toolkit would wait without a limit.
+/// Returns false if the store's lock stays taken, because the toolkit would wait for it forever.
 bool canBeLocked(const QString& path)
 {
     const QString name = path + ".lock";
@@ -64,7 +64,7 @@ bool canBeLocked(const QString& path)
 
 #endif
 
-/// Whether the store can be used. One that could not be read once is left alone until the program ends.
+/// Returns false until the program ends if the store could not be read once.
 bool isUsable(const QString& path)
 {
     static QStringList leftAlone;
@@ -73,7 +73,7 @@ bool isUsable(const QString& path)
     return !leftAlone.contains(path);
 }
 
-/// The key as it is spelled in the store, or as it was asked for where the store hasn't got it.
+/// The key as spelled in the store, or as requested if the store doesn't have it.
 QString storedSpelling(const QSettings& store, const QString& key)
 {
     for (const QString& stored : store.childKeys()) {
@@ -102,7 +102,7 @@ std::string GetSetting(const std::string& application, const std::string& sectio
     const QString spelling = storedSpelling(store, QString::fromStdString(key));
     if (!store.contains(spelling))
         return defaultText;
-    // A comma that someone wrote into the file without quotes makes the toolkit see a list.
+    // The toolkit reads an unquoted comma, typed into the file by hand, as a list separator.
     return store.value(spelling).toStringList().join(',').toStdString();
 }
 

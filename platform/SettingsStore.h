@@ -2,20 +2,20 @@
 
 #include <string>
 
-/// The user's store of strings by application, section and key. Key names are the same key in upper and
-/// lower case. On systems without a registry the store of an application is the file "<application>.ini" in
-/// the user's configuration folder, with a group for each section and one key a line.
+/// Strings of the user, stored by application, section and key. Key names ignore case. On systems without a
+/// registry the store of an application is the file "<application>.ini" in the user's configuration folder,
+/// with a group per section and a line per key.
 ///
-/// Anything but a text file of at most 1 MB in its place is no store: it is neither read nor changed until
-/// the program ends, even if it becomes readable.
+/// If that path holds anything but a text file of at most 1 MB, the store is unreadable: it is neither read
+/// nor changed until the program ends, even if it becomes readable.
 
-/// The path of what is in the store's place and is no store; otherwise empty.
+/// Returns the path of an unreadable store, or an empty text if the store is readable.
 std::string UnreadableStore(const std::string& application);
 
-/// The text stored under a key, or the default where there is none.
+/// Returns the text stored under a key, or the default.
 std::string GetSetting(const std::string& application, const std::string& section, const std::string& key,
                        const std::string& defaultText);
 
-/// Stores a text at once; other keys stay as they are. A no-op if the store can't be written.
+/// Stores a text immediately and leaves other keys unchanged. A no-op if the store can't be written.
 void SaveSetting(const std::string& application, const std::string& section, const std::string& key,
                  const std::string& text);

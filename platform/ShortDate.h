@@ -2,5 +2,5 @@
 
 #include <string>
 
-/// Today in the short form of the user's locale, without the time.
+/// Today's date in the short form of the user's locale, without the time.
 std::string ShortDate();

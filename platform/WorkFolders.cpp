@@ -22,8 +22,8 @@ bool isPrivate(const QFileInfo& path)
 #endif
 }
 
-/// Whether the folder can be used, or made if it is missing. Where others may write, they could plant a link
-/// or a pipe under the name of a report.
+/// Whether the folder can be used, or created if missing. If others may write to it, they could plant a link
+/// or a pipe under a report's name.
 bool isUsable(const QFileInfo& folder, const QFileInfo& above)
 {
     const bool isThere = folder.exists() || folder.isSymLink();

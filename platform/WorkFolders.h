@@ -2,13 +2,13 @@
 
 #include <string>
 
-/// Returns the path of a folder that the program writes to, and makes nothing. It lies below the
-/// application's folder if both belong to the user and only the user may write there; otherwise below the
-/// user's own data folder of the application.
+/// Returns the path of a folder that the program writes to. Creates nothing. The folder is below the
+/// application's folder if both belong to the user and only the user may write there; otherwise it is below
+/// the application's folder in the user's data folder.
 std::string WorkFolder(const std::string& applicationFolder, const std::string& name);
 
-/// Whether a folder of that path exists. A file of that name is none.
+/// Returns false if a file, not a folder, has that path.
 bool FolderExists(const std::string& path);
 
-/// Makes a folder that others can't write to, and the missing ones above it. Returns false if that fails.
+/// Creates a folder that others can't write to, and its missing parents. Returns false on failure.
 [[nodiscard]] bool MakeFolder(const std::string& path);

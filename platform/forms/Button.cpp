@@ -9,7 +9,7 @@ namespace forms {
 
 namespace {
 
-/// A push button whose access key presses it at once, where the toolkit's would animate first.
+/// A push button whose access key presses it at once. The toolkit's button animates first.
 class PushButton : public QPushButton
 {
 public:
@@ -35,7 +35,7 @@ Button::Button(Form& owner, const std::string& name, const std::string& caption)
     : Control(owner, new PushButton(owner.area()), name)
 {
     setCaption(caption);
-    asButton(this)->setAutoDefault(true); // Enter on the focused button presses it
+    asButton(this)->setAutoDefault(true); // Enter presses the focused button
     QObject::connect(asButton(this), &QPushButton::clicked, asButton(this), [this] { raise(click); });
 }
 

@@ -4,8 +4,7 @@
 
 namespace forms {
 
-/// A push button. An ampersand in its caption marks the access key, which moves the focus to it and
-/// presses it.
+/// A push button. An ampersand in its caption marks the access key, which focuses and presses the button.
 class Button : public Control
 {
 public:
@@ -15,7 +14,7 @@ public:
 
     void setCaption(const std::string& caption);
     std::string caption() const;
-    /// Presses the button as the user does.
+    /// Presses the button, as a user's click does.
     void press();
     void showAsDefault();
 

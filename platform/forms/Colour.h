@@ -4,7 +4,7 @@
 
 namespace forms {
 
-/// A colour of a control, by its parts from 0 to 255.
+/// A color of a control: red, green and blue, from 0 to 255.
 struct Colour
 {
     std::uint8_t red = 0;

@@ -13,8 +13,8 @@ namespace forms {
 
 class Form;
 
-/// What all controls of a form share. A control is a handle: the widget behind it belongs to the form's
-/// window and carries the control's name as its object name.
+/// The base of all controls. A control is a handle: its widget belongs to the form's window, and the widget's
+/// object name is the control's name.
 class Control
 {
 public:
@@ -32,26 +32,26 @@ public:
     void hide() { setVisible(false); }
     void setVisible(bool visible);
 
-    /// Moves the focus here.
+    /// Moves the focus to this control.
     void takeFocus();
 
-    /// Puts the control on a fixed place of its form, where no layout does.
+    /// Places the control at a fixed position on its form, for forms without a layout.
     void place(Twips left, Twips top, Twips width, Twips height);
 
-    /// The text becomes black or white, whichever is readable on the colour, until it is given its own.
+    /// Also makes the text black or white, whichever is readable, until setForeColour is called.
     void setBackColour(Colour colour);
     void setForeColour(Colour colour);
     Colour backColour() const;
     Colour foreColour() const;
 
     void setToolTip(const std::string& tip);
-    /// What assistive technology calls the control: what it is, with its unit.
+    /// The name that assistive technology reads: the quantity and its unit.
     void setAccessibleName(const std::string& name);
 
     QWidget* widget() const { return theWidget; }
 
 protected:
-    /// Runs a handler of this control in the dispatcher, if there is one.
+    /// Runs a handler of this control in the dispatcher. A no-op if the handler is empty.
     void raise(const Handler& handler);
     Form& owner() const { return form; }
 

@@ -14,7 +14,7 @@ namespace {
 [[noreturn]] void reportAndEnd(const std::exception& failure)
 {
     MsgBox(DescribeFailure(failure));
-    std::_Exit(EXIT_FAILURE); // at once: nothing may be written to the settings on this way out
+    std::_Exit(EXIT_FAILURE); // immediately: this path must not write any settings
 }
 
 } // namespace
@@ -32,7 +32,7 @@ void runHandler(Form& form, const Handler& handler) noexcept
 void endProcess()
 {
     QCoreApplication::exit(
-        EXIT_SUCCESS); // quit() would close the forms that are still shown, and could be refused
+        EXIT_SUCCESS); // quit() would close the forms still shown, and one of them could refuse
 }
 
 } // namespace forms

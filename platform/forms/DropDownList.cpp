@@ -19,8 +19,8 @@ DropDownList::DropDownList(Form& owner, const std::string& name)
         raisedByChange = true;
         raise(click);
     });
-    // A choice by the user arrives as a change of the index and then as an activation, or, where the entry
-    // was chosen already, as an activation alone.
+    // When the user picks an entry, the toolkit signals a change of index, then an activation. If the entry
+    // was already chosen, only the activation.
     QObject::connect(combo, &QComboBox::activated, combo, [this] {
         if (!raisedByChange)
             raise(click);
@@ -30,7 +30,7 @@ DropDownList::DropDownList(Form& owner, const std::string& name)
 
 void DropDownList::addItem(const std::string& entry)
 {
-    const QSignalBlocker noClick(asCombo(this)); // the toolkit selects the first entry by itself
+    const QSignalBlocker noClick(asCombo(this)); // the toolkit selects the first entry itself
     const int chosen = asCombo(this)->currentIndex();
     asCombo(this)->addItem(QString::fromStdString(entry));
     asCombo(this)->setCurrentIndex(chosen);

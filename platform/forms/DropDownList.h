@@ -4,8 +4,8 @@
 
 namespace forms {
 
-/// A list of fixed entries of which one is chosen. Choosing raises Click, by the user (also where the entry
-/// was chosen already) and by the program.
+/// A list of fixed entries, one of which is chosen. Choosing raises Click, whether the user or the program
+/// chooses. The user's choice raises it even if the entry was already chosen.
 class DropDownList : public Control
 {
 public:
@@ -15,7 +15,7 @@ public:
 
     void addItem(const std::string& entry);
     void select(int index);
-    /// The chosen entry; empty before the first choice.
+    /// The chosen entry, or empty before the first choice.
     std::string text() const;
 
 private:

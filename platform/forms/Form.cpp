@@ -17,7 +17,7 @@ namespace forms {
 
 namespace {
 
-/// Closes the open menus and lists. The toolkit would leave them, over nothing, until a click.
+/// Closes open menus and lists. The toolkit would leave them on the screen until the next click.
 void closePopups()
 {
     while (QWidget* const popup = QApplication::activePopupWidget()) {
@@ -67,13 +67,13 @@ void Form::ShowModal()
         return;
     QWindow* const caller = QGuiApplication::focusWindow();
     frame->setWindowModality(Qt::ApplicationModal);
-    frame->winId(); // makes the native window, which the caller's is to stay behind
+    frame->winId(); // creates the native window, which must stay in front of the caller's
     frame->windowHandle()->setTransientParent(caller);
 
     QEventLoop loop;
     wait = &loop;
     showWindow();
-    if (wait == &loop) // the handler of the showing may have hidden it again
+    if (wait == &loop) // a handler that ran on showing may have hidden it again
         loop.exec();
 }
 
@@ -95,7 +95,7 @@ void Form::endWait()
 void Form::Unload(CloseReason reason)
 {
     if (unloading) {
-        Hide(); // asked for by its own unload handlers, who may show another form next
+        Hide(); // called by its own unload handler, which may show another form next
         return;
     }
     unloading = true;

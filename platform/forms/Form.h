@@ -31,26 +31,26 @@ class TextField;
 
 enum class CloseReason
 {
-    ControlMenu = 0, ///< the user closed the window by its box or control menu
+    ControlMenu = 0, ///< the user closed the window
     Code = 1,        ///< the program unloaded the form
 };
 
-/// What the window of a form is for.
+/// The kind of a form's window.
 enum class FormKind
 {
-    Screen, ///< stands alone; the user may enlarge it
-    Dialog, ///< stands over another form
+    Screen, ///< independent; the user may enlarge it
+    Dialog, ///< in front of another form
 };
 
-/// A form: a window with named controls and event handlers, of which there is one instance in the process
-/// (see form<F>() in Forms.h). Its class overrides the handlers of its life that it needs.
+/// A form: a window with named controls and event handlers. Each form class has one instance in the process
+/// (see form<F>() in Forms.h). The class overrides the life-cycle handlers that it needs.
 ///
-/// Its controls are members, made with the form as their owner; its constructor lays them out and gives
-/// them their handlers; Form_Load then runs once.
+/// Controls are members, constructed with the form as their owner. The constructor lays them out and connects
+/// their handlers; Form_Load then runs once.
 class Form
 {
 protected:
-    // The classes of its parts, which a form can use by their short names.
+    // Short names for use inside a form.
     using Button = forms::Button;
     using CloseReason = forms::CloseReason;
     using Control = forms::Control;
@@ -70,48 +70,48 @@ public:
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
 
-    /// Shows the form without waiting, or brings it to the front where it is shown already.
+    /// Shows the form without waiting, or brings it to the front if it is already shown.
     void Show();
-    /// Shows the form, lets no other window take input, and returns when the form is hidden or unloaded.
-    /// The form may be gone by then.
+    /// Shows the form, blocks input to all other windows, and returns when the form is hidden or unloaded.
+    /// The form may no longer exist then.
     void ShowModal();
-    /// Takes the form off the screen and keeps it with all its fields.
+    /// Hides the form and keeps it with all its fields.
     void Hide();
-    /// Runs Form_QueryUnload and Form_Unload and destroys the form once none of its handlers runs any more.
-    /// A second call is harmless; from one of these handlers it takes the window off the screen at once.
+    /// Runs Form_QueryUnload and Form_Unload. Destroys the form when none of its handlers is running. A
+    /// second call is harmless; a call from one of these handlers hides the window immediately.
     void Unload(CloseReason reason = CloseReason::Code);
 
     void setBackColour(Colour colour);
     void setCaption(const std::string& caption);
     std::string caption() const;
 
-    /// Gives the window its size, which it never falls below; it becomes larger where its controls need more.
+    /// Sets the window's size, which is also its minimum. The window grows if its controls need more.
     void setSize(Twips width, Twips height);
-    /// Makes the window as large as its controls ask for.
+    /// Makes the window as large as its controls need.
     void fitToControls();
     void moveTo(Twips left, Twips top);
-    /// Centres the window across the screen, with one part of so many of the free height above it.
+    /// Centers the window horizontally and puts 1/topPart of the free height above it.
     void placeInTheMiddle(int topPart);
     Twips width() const;
     Twips height() const;
     bool isVisible() const;
 
-    /// The button that Enter presses while it is enabled, wherever the focus is but on another button.
+    /// Enter presses this button while it is enabled, unless another button has the focus.
     void setDefaultButton(Button& button);
-    /// Presses the default button; false where there is none or it is disabled.
+    /// Presses the default button. Returns false if there is none or it is disabled.
     bool pressDefaultButton();
 
     void addToMenuBar(Menu& menu);
     void addToMenuBar(MenuCommand& command);
 
-    /// The widget of the control of that name, which the form must have.
+    /// The widget of the named control, which must exist.
     QWidget* control(std::string_view name) const;
 
-    /// The window, for parenting, and the area of it that the controls are laid out in.
+    /// The window, as a parent for dialogs, and its area for the controls.
     QWidget* window() const;
     QWidget* area() const;
 
-    /// Counts a running handler; the form outlives it.
+    /// Counts a running handler, so that the form outlives it.
     class RunningHandler
     {
     public:
@@ -139,22 +139,22 @@ private:
 
     FormWindow* frame;
     Button* defaultButton = nullptr;
-    QPointer<QEventLoop> wait; // the end of the process may end the loop, too
+    QPointer<QEventLoop> wait; // ending the process may end the loop as well
     int runningHandlers = 0;
     bool unloading = false;
     bool retired = false;
 };
 
-/// Keeps the one instance of each form class.
+/// Owns the one instance of each form class.
 class FormRegistry
 {
 public:
     static Form* find(std::type_index type);
     static Form& adopt(std::type_index type, std::unique_ptr<Form> newForm);
-    /// Takes an unloaded form out, so that the next use starts afresh, and destroys it when it is idle.
+    /// Removes an unloaded form, so that the next use creates a new one. Destroys it when it is idle.
     static void retire(Form& unloaded);
     static void destroyIfIdle(Form& unloaded);
-    /// Destroys all forms without running their unload handlers, at the end of the process.
+    /// Destroys all forms at the end of the process without running their unload handlers.
     static void clear();
 };
 

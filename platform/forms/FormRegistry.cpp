@@ -10,8 +10,8 @@ namespace forms {
 
 namespace {
 
-// Never destroyed: where exit() ends the process, as when the display goes away, they would destroy the
-// windows after the toolkit. clear() destroys the forms at a normal end.
+// Intentionally never destroyed: if exit() ends the process, for example when the display goes away, the
+// destructor would destroy the windows after the toolkit. clear() destroys the forms at a normal end.
 auto& loadedForms = *new std::map<std::type_index, std::unique_ptr<Form>>;
 auto& retiredForms = *new std::vector<std::unique_ptr<Form>>;
 
@@ -26,7 +26,7 @@ Form* FormRegistry::find(std::type_index type)
 Form& FormRegistry::adopt(std::type_index type, std::unique_ptr<Form> newForm)
 {
     Form& adopted = *newForm;
-    loadedForms[type] = std::move(newForm); // before the load handler, which may name the form
+    loadedForms[type] = std::move(newForm); // before the load handler, which may refer to the form
     adopted.load();
     return adopted;
 }
@@ -47,7 +47,7 @@ void FormRegistry::destroyIfIdle(Form& unloaded)
 {
     if (!unloaded.retired || unloaded.runningHandlers > 0)
         return;
-    // Later, because the toolkit may still be delivering the event that unloaded the form.
+    // Deferred, because the toolkit may still be delivering the event that unloaded the form.
     QTimer::singleShot(0, qApp, [idle = &unloaded] {
         std::erase_if(retiredForms,
                       [idle](const auto& form) { return form.get() == idle && form->runningHandlers == 0; });

@@ -31,7 +31,7 @@ bool FormWindow::event(QEvent* event)
 {
     const bool isDone = QMainWindow::event(event);
     if (event->type() == QEvent::LayoutRequest)
-        keepRoom(); // a control has come to need more room, or less
+        keepRoom(); // a control now needs more or less space
     return isDone;
 }
 

@@ -6,13 +6,14 @@ namespace forms {
 
 class Form;
 
-/// The window of a form: hands the close box and the Enter key to the form, and keeps room for the controls.
+/// The window of a form. Passes the close box and the Enter key to the form, and stays large enough for the
+/// controls.
 class FormWindow : public QMainWindow
 {
 public:
     FormWindow(Form& owner, bool isDialog);
 
-    /// Makes the window this large, or larger where the controls need more, now and later.
+    /// Sets the window to this size, or larger if the controls need it, now and later.
     void setLeastSize(QSize size);
 
 protected:

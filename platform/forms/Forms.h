@@ -4,8 +4,8 @@
 
 namespace forms {
 
-/// The process-wide instance of a form class. The first use creates it, hidden, and runs its load handler;
-/// so does the first use after it was unloaded.
+/// The process-wide instance of a form class. The first use creates it hidden and runs its load handler; so
+/// does the first use after it was unloaded.
 template <class F>
 F& form()
 {
@@ -14,7 +14,7 @@ F& form()
     return static_cast<F&>(FormRegistry::adopt(typeid(F), std::make_unique<F>()));
 }
 
-/// Whether the form exists, shown or hidden. Asking doesn't create it.
+/// Whether the form exists, shown or hidden. Does not create it.
 template <class F>
 bool isLoaded()
 {

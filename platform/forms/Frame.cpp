@@ -26,7 +26,7 @@ void Frame::setBold() { asGroup(this)->setStyleSheet("QGroupBox { font-weight: b
 
 void Frame::showCaptionAlone()
 {
-    // The caption begins where those of other frames do.
+    // Aligns the caption with those of other frames.
     widget()->setStyleSheet(widget()->styleSheet() +
                             "QGroupBox { border: none; }"
                             "QGroupBox::title { subcontrol-origin: margin; left: 0px; }");

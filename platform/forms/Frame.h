@@ -4,7 +4,7 @@
 
 namespace forms {
 
-/// A frame with a caption around a group of controls; its layout is set on its widget.
+/// A frame with a caption around a group of controls. Set its layout on its widget.
 class Frame : public Control
 {
 public:
@@ -12,9 +12,9 @@ public:
 
     void setCaption(const std::string& caption);
     std::string caption() const;
-    /// Sets the caption in bold; the controls inside keep their own weight.
+    /// Sets only the caption in bold.
     void setBold();
-    /// Shows the caption as a line of its own: the frame holds nothing, and no border is drawn.
+    /// Shows only the caption, without a border, for an empty frame.
     void showCaptionAlone();
 };
 

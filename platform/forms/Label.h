@@ -13,13 +13,13 @@ public:
     void setCaption(const std::string& caption);
     std::string caption() const;
 
-    /// Names the control that this label describes.
+    /// Makes this the label of a control.
     void describe(Control& control);
-    /// Draws the label as a box that a value stands in.
+    /// Draws the label as a box for a value.
     void setBoxed();
     void alignRight();
     void setWrapped();
-    /// Sets the label in Arial, or in its metric twin, at a size that its fixed place is made for.
+    /// Uses Arial, or its metric-compatible substitute, in the size for which its fixed place was designed.
     void setArial();
     void setPointSize(int points);
     void setFontSize(int percentOfNormal, bool bold);

@@ -11,7 +11,8 @@
 
 namespace forms {
 
-/// A layout of the toolkit that takes controls. Without a form or a frame it goes into another layout.
+/// One of the toolkit's layouts, which accepts controls. Without a form or a frame it is nested in another
+/// layout.
 template <class ToolkitLayout>
 class ControlLayout : public ToolkitLayout
 {
@@ -20,7 +21,7 @@ public:
     explicit ControlLayout(const Form& form) : ToolkitLayout(form.area()) {}
     explicit ControlLayout(const Frame& frame) : ToolkitLayout(frame.widget()) {}
 
-    /// @param place  as the toolkit's addWidget: row and column with their spans, or a stretch factor
+    /// @param place  as for the toolkit's addWidget: row, column and spans, or a stretch factor
     template <class... Place>
     void add(const Control& control, Place... place)
     {
@@ -32,7 +33,7 @@ using Grid = ControlLayout<QGridLayout>;
 using Column = ControlLayout<QVBoxLayout>;
 using Line = ControlLayout<QHBoxLayout>;
 
-// Sizes by the control's own font, in pixels.
+// Sizes in pixels, based on the control's font.
 int widthOfCharacters(const Control& control, int count);
 int heightOfLines(const Control& control, double count);
 int naturalWidth(const Control& control);
@@ -41,7 +42,7 @@ void setFixedHeight(const Control& control, int height);
 void setLeastHeight(const Control& control, int height);
 void setLeastWidth(const Control& control, int width);
 
-/// Tab visits the controls in this order.
+/// Sets the tab order.
 void setTabOrder(std::initializer_list<const Control*> controls);
 
 } // namespace forms

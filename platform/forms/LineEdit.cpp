@@ -42,7 +42,7 @@ bool movesSelectsOrCopies(const QKeyEvent& event)
                        [&event](auto key) { return event.matches(key); });
 }
 
-/// The commands that edit, and the character that stands for each.
+/// The character for each editing command, or 0.
 int characterOfCommand(const QKeyEvent& event)
 {
     constexpr std::pair<QKeySequence::StandardKey, int> commands[] = {
@@ -71,7 +71,7 @@ bool canType(const QKeyEvent& event)
     return commanding == Qt::NoModifier || (isAltGr && event.text().front().isPrint());
 }
 
-/// The character of a key, or 0 for a key that edits nothing. Tab comes before, in event().
+/// The character of a key, or 0 for a key that doesn't edit. Tab is handled earlier, in event().
 int characterOf(const QKeyEvent& event)
 {
     if (event.key() == Qt::Key_Tab)
@@ -92,7 +92,7 @@ bool LineEdit::event(QEvent* event)
     // The toolkit moves the focus on Tab before the key reaches keyPressEvent.
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Tab) {
         const QWidget* const focusBefore = window()->focusWidget();
-        field.swallows(Key::Tab); // a field that swallows every key is no trap: Tab moves, it edits nothing
+        field.swallows(Key::Tab); // ignored: Tab always moves on, even if the field swallows it
         if (window()->focusWidget() != focusBefore)
             return true;
     }
@@ -103,7 +103,7 @@ void LineEdit::keyPressEvent(QKeyEvent* event)
 {
     if (isEnter(*event)) {
         if (!field.owner().pressDefaultButton())
-            field.swallows(Key::Enter); // it edits nothing either way
+            field.swallows(Key::Enter); // result ignored: Enter doesn't edit
         return;
     }
     if (movesSelectsOrCopies(*event)) {
@@ -112,7 +112,7 @@ void LineEdit::keyPressEvent(QKeyEvent* event)
     }
     const int character = characterOf(*event);
     if (character == 0)
-        event->ignore(); // for the window. The toolkit would type some of these, or edit by them.
+        event->ignore(); // leaves it to the window; the toolkit would type or edit with some of these
     else if (!field.swallows(character))
         QLineEdit::keyPressEvent(event);
 }
@@ -146,15 +146,15 @@ void LineEdit::mouseReleaseEvent(QMouseEvent* event)
 
 void LineEdit::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    pressed = false; // the first of the two presses has raised the Click
+    pressed = false; // the first press has already raised Click
     QLineEdit::mouseDoubleClickEvent(event);
 }
 
 void LineEdit::contextMenuEvent(QContextMenuEvent* event)
 {
-    // A field that swallows its keys offers what a read-only one does.
+    // A field that swallows keys offers a read-only menu.
     setReadOnly(field.swallows(Key::Paste));
-    QLineEdit::contextMenuEvent(event); // shows the menu without waiting: the form may close under it
+    QLineEdit::contextMenuEvent(event); // doesn't block: the form may close under the menu
     setReadOnly(false);
 }
 

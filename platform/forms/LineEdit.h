@@ -6,7 +6,7 @@ namespace forms {
 
 class TextField;
 
-/// The widget of a text field: turns the toolkit's events into the field's.
+/// The widget of a text field. Turns the toolkit's events into the field's.
 class LineEdit : public QLineEdit
 {
 public:

@@ -42,7 +42,7 @@ Menu::Menu(Form& owner, const std::string& name, const std::string& caption)
 
 void Menu::add(MenuCommand& entry) { theMenu->addAction(entry.action()); }
 void Menu::add(MenuSeparator& separator) { theMenu->addAction(separator.action()); }
-// The menu passes it on to its entry on the bar.
+// The toolkit's menu also enables its entry on the menu bar.
 void Menu::enable() { theMenu->setEnabled(true); }
 void Menu::disable() { theMenu->setEnabled(false); }
 void Menu::show() { theMenu->menuAction()->setVisible(true); }

@@ -11,7 +11,7 @@ namespace forms {
 
 class Form;
 
-/// An entry of a menu, or a command that stands on the menu bar by itself.
+/// An entry of a menu, or a command directly on the menu bar.
 class MenuCommand
 {
 public:
@@ -33,7 +33,7 @@ private:
     Handler click;
 };
 
-/// A line between entries.
+/// A separator line between entries.
 class MenuSeparator
 {
 public:
@@ -44,7 +44,7 @@ private:
     QAction* theAction;
 };
 
-/// A menu that drops down from the menu bar.
+/// A drop-down menu of the menu bar.
 class Menu
 {
 public:

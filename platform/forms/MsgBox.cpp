@@ -7,8 +7,8 @@ namespace forms {
 
 namespace {
 
-/// The window that a message belongs to. It must outlast the box, which would go down with it: neither a form
-/// that a handler has just unloaded, which may still count as the active window, nor a tip or a menu.
+/// The parent for a message box. It must outlive the box, so it can't be a form that a handler has just
+/// unloaded (which may still be the active window), nor a tip or a menu.
 QWidget* shownWindow()
 {
     QWidget* const active = QApplication::activeWindow();

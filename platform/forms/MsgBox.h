@@ -4,8 +4,8 @@
 
 namespace forms {
 
-/// Shows a message box with an OK button alone and no icon, and waits until it is closed. Without a title
-/// it carries the application's.
+/// Shows a message box with only an OK button and no icon, and waits until it is closed. The default title is
+/// the application's.
 void MsgBox(const std::string& text, const std::string& title = {});
 
 } // namespace forms

@@ -24,7 +24,7 @@ namespace forms {
 
 namespace {
 
-/// All that the kept picture depends on.
+/// Everything that the cached picture depends on.
 struct Key
 {
     QSize size;
@@ -119,7 +119,7 @@ private:
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
     }
 
-    /// The ground comes below what is shown: newer toolkits draw letters on an opaque ground in another way.
+    /// Paints the background first: newer versions of the toolkit draw letters differently on an opaque one.
     void copy()
     {
         QImage picture = rendered();
@@ -137,7 +137,7 @@ private:
     Key keptFor;
 };
 
-/// Assistive technology takes a canvas for an empty container, where nobody says that it is a picture.
+/// Without this, assistive technology treats the canvas as an empty container.
 QAccessibleInterface* asGraphic(const QString& /*className*/, QObject* object)
 {
     auto* const canvas = dynamic_cast<Canvas*>(object);

@@ -12,7 +12,7 @@ class QWidget;
 
 namespace forms {
 
-/// What a picture shows.
+/// The contents of a picture.
 class PictureContents
 {
 public:
@@ -21,23 +21,23 @@ public:
     PictureContents(const PictureContents&) = delete;
     PictureContents& operator=(const PictureContents&) = delete;
 
-    /// Another text whenever the picture would come out differently at the same size, font and colours.
+    /// Changes whenever the picture would look different at the same size, font and colors.
     virtual std::string version() const = 0;
-    /// Paints the picture in the font and colours of the widget that it stands on.
+    /// Paints the picture in the font and colors of its widget.
     virtual void paint(QPainter& painter, const QSize& size, const QWidget& on) = 0;
-    /// What is to be said about a place on the picture as painted last; nothing, where empty.
+    /// The tip for a place on the last painted picture, or empty.
     virtual std::string tipAt(const QPoint& place) const = 0;
 };
 
-/// A picture. It costs the first picture of its window nothing: its own comes right after that, and is kept
-/// until its contents, size, font, colours or the screen's scaling change. It tells about the place under the
-/// pointer, and copies itself to the clipboard by its context menu or Ctrl+C.
+/// A picture. Painted after the window's first frame, so it does not delay startup. Cached until its
+/// contents, size, font, colors or the pixel ratio change. Shows a tip for the place under the pointer. The
+/// context menu or Ctrl+C copies it to the clipboard.
 class Picture : public Control
 {
 public:
     Picture(Form& owner, const std::string& name, std::unique_ptr<PictureContents> contents);
 
-    /// Looks whether what the picture shows has changed.
+    /// Repaints the picture if its contents have changed.
     void repaint();
 };
 

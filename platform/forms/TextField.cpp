@@ -15,7 +15,7 @@ TextField::TextField(Form& owner, const std::string& name)
     QObject::connect(asEdit(this), &QLineEdit::textChanged, asEdit(this), [this] { noteText(); });
 }
 
-/// The toolkit also tells of a key that puts the same text in place of the selected one.
+/// The toolkit also signals an edit when a key replaces the selected text with the same text.
 void TextField::noteText()
 {
     if (knownText == text())

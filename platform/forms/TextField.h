@@ -6,7 +6,7 @@
 
 namespace forms {
 
-/// The keys that a KeyPress handler asks about, by their character.
+/// The characters of the keys that a KeyPress handler receives.
 namespace Key {
 constexpr int Swallowed = 0;
 constexpr int Backspace = 8;
@@ -19,13 +19,13 @@ constexpr int Undo = 26;
 constexpr int Delete = 127;
 } // namespace Key
 
-/// A field of one line of text.
-///  - Change is raised at once, inside the writer's call, when the user edits the text and when the program
-///    writes a text that differs.
-///  - MouseDown, then Click are raised by the mouse alone, never by moving the focus here.
-///  - KeyPress is raised before the user's key, paste, cut or drop edits the text; a handler that sets the
-///    key to Key::Swallowed keeps the text as it is. Moving, selecting and copying raise nothing, nor does a
-///    key that edits nothing, such as a letter with Ctrl, Alt or Meta.
+/// A single-line text field.
+/// - Change is raised immediately, inside the caller's write, when the user edits the text or the program
+///   writes a different text.
+/// - MouseDown, then Click are raised only by the mouse, not when the focus moves here.
+/// - KeyPress is raised before the user's key, paste, cut or drop edits the text. A handler that sets the key
+///   to Key::Swallowed prevents the edit. Moving, selecting and copying raise nothing; nor does a key that
+///   doesn't edit, such as a letter with Ctrl, Alt or Meta.
 class TextField : public Control
 {
 public:
@@ -44,7 +44,7 @@ public:
     bool isEmpty() const { return text().empty(); }
 
     void alignRight();
-    /// Takes the field out of the tab order; it can still be clicked.
+    /// Removes the field from the tab order. It can still be clicked.
     void leaveTabOrder();
 
 private:

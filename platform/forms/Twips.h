@@ -2,7 +2,7 @@
 
 namespace forms {
 
-/// Forms and their places are measured in twips; ten of them are one device-independent pixel.
+/// Sizes and positions of forms are in twips: 10 per device-independent pixel.
 using Twips = int;
 
 constexpr int TwipsPerPixel = 10;
@@ -10,7 +10,7 @@ constexpr int TwipsPerPixel = 10;
 constexpr int toPixels(Twips twips) { return twips / TwipsPerPixel; }
 constexpr Twips toTwips(int pixels) { return pixels * TwipsPerPixel; }
 
-/// The primary screen, on which forms place themselves.
+/// The primary screen, on which forms are placed.
 struct Screen
 {
     static Twips width();

@@ -14,7 +14,7 @@ namespace help {
 
 namespace {
 
-/// The members that can be unpacked within the limits, in the order in which that is fastest.
+/// The members within the limits, in the order that unpacks fastest.
 std::vector<mschmd_file*> membersOf(const mschmd_header& header)
 {
     std::vector<mschmd_file*> members;
@@ -27,7 +27,7 @@ std::vector<mschmd_file*> membersOf(const mschmd_header& header)
         }
     }
     std::ranges::sort(members, {}, [](const mschmd_file* member) {
-        return std::tuple(member->offset, QByteArrayView(member->filename)); // empty ones share an offset
+        return std::tuple(member->offset, QByteArrayView(member->filename)); // empty members share an offset
     });
     return members;
 }

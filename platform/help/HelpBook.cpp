@@ -18,11 +18,11 @@ constexpr int homePageCode = 2;
 /// The text up to the first NUL.
 QString textIn(const QByteArray& bytes) { return QString::fromUtf8(bytes.constData()); }
 
-/// Reads the member "#SYSTEM": records of a code, a length and a text. Ignores a damaged rest.
+/// Reads the member "#SYSTEM": records of code, length and text. Ignores everything after a damaged record.
 QHash<int, QString> readSystem(const QByteArray& member)
 {
     QHash<int, QString> texts;
-    QDataStream stream(member.mid(4)); // after the version
+    QDataStream stream(member.mid(4)); // skips the version
     stream.setByteOrder(QDataStream::LittleEndian);
     quint16 code = 0;
     quint16 length = 0;
@@ -35,12 +35,12 @@ QHash<int, QString> readSystem(const QByteArray& member)
     return texts;
 }
 
-/// Reads the member "#IVB": pairs of a topic number and the place of a page's name in the member "#STRINGS".
+/// Reads the member "#IVB": pairs of a topic number and the offset of a page's name in the member "#STRINGS".
 QHash<int, QString> readTopics(const QByteArray& numbers, const QByteArray& strings)
 {
     constexpr qsizetype longestName = 1024;
     QHash<int, QString> pages;
-    QDataStream stream(numbers.mid(4)); // after the length
+    QDataStream stream(numbers.mid(4)); // skips the length
     stream.setByteOrder(QDataStream::LittleEndian);
     qint32 topic = 0;
     quint32 place = 0;
@@ -121,7 +121,7 @@ QString HelpBook::page(const QString& name) const
         return notice("No such page", "This help has no page \"" + name + "\".");
     if (member->bytes.isNull())
         return notice("Page not readable", "The page \"" + name + "\" of the help file is damaged.");
-    return WithinLimits(text(name)) + ' '; // an empty page is a page, too
+    return WithinLimits(text(name)) + ' '; // never empty: an empty page is not a missing one
 }
 
 } // namespace help

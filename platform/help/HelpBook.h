@@ -11,12 +11,12 @@
 
 namespace help {
 
-/// A help file as its reader sees it: pages, a contents tree, an index, numbered topics. A page is named as
-/// in the file, in upper or lower case; a reference may carry an anchor, as "air.html#range".
+/// A help file as its reader sees it: pages, a contents tree, an index, numbered topics. Page names ignore
+/// case. A reference may have an anchor: "air.html#range".
 class HelpBook
 {
 public:
-    /// @return null if the bytes are no help file, or one without a page
+    /// @return null if the bytes are not a help file or contain no page
     static std::shared_ptr<const HelpBook> open(const QByteArray& bytes);
     explicit HelpBook(QList<ChmMember> unpacked);
 
@@ -27,8 +27,8 @@ public:
     QList<SitemapEntry> index() const { return ReadSitemap(text(system.value(1))); }
 
     QStringList pages() const;
-    /// The HTML to show for a page: the page itself, or a notice if it is missing or damaged. A page that the
-    /// toolkit could not lay out in reasonable time comes as its text alone.
+    /// The HTML to show for a page: the page itself, or a notice if it is missing or damaged. Returns only
+    /// the text of a page that is too large to lay out (see PageLimits.h).
     QString page(const QString& name) const;
     QByteArray file(const QString& name) const; ///< empty if missing or damaged
 
@@ -37,7 +37,7 @@ private:
     QString text(const QString& name) const;
 
     QList<ChmMember> members;
-    QHash<int, QString> system; ///< what the file says about itself, by code
+    QHash<int, QString> system; ///< the file's own description, by code
     QHash<int, QString> topics;
 };
 

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double readable = 4.5;
 
-/// The share of a colour's light that one channel gives. [WCAG 2.1]
+/// The linear light of one sRGB channel. [WCAG 2.1]
 double linear(float channel)
 {
     const double value = channel;
@@ -22,7 +22,7 @@ double luminance(const QColor& colour)
            0.0722 * linear(colour.blueF());
 }
 
-/// A colour on the way from one to another; none of the way is 0, all of it 1.
+/// Interpolates between two colors: 0 is the first, 1 the second.
 QColor between(const QColor& from, const QColor& to, float way)
 {
     return QColor::fromRgbF(std::lerp(from.redF(), to.redF(), way),

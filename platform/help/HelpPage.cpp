@@ -20,7 +20,7 @@ namespace help {
 
 namespace {
 
-constexpr int widestPicture = 700; // in pixels of the desktop
+constexpr int widestPicture = 700; // in device-independent pixels
 constexpr int highestPicture = 2000;
 constexpr qint64 mostPixels = 16'000'000;
 constexpr qsizetype largestStyleSheet = 64 << 10;
@@ -77,8 +77,8 @@ QVariant HelpPage::loadResource(int type, const QUrl& name)
     return isOfHelp ? QString::fromUtf8(book->file(nameIn(address)).left(largestStyleSheet)) : QString();
 }
 
-/// A picture as the page asks for it, scaled smoothly to the pixels of the screen. If it is missing or too
-/// large, the toolkit's sign for a file.
+/// A picture at the width that the page specifies, scaled smoothly to the screen's pixels. Returns the
+/// toolkit's file icon if it is missing or too large.
 QImage HelpPage::picture(const QUrl& address) const
 {
     QByteArray bytes = book->file(nameIn(address));
@@ -98,7 +98,7 @@ QImage HelpPage::picture(const QUrl& address) const
     return scaled;
 }
 
-/// The width in pixels that the page gives a picture; 0 if it gives none.
+/// The width in pixels that the page specifies for a picture, or 0.
 int HelpPage::widthAskedFor(const QUrl& address) const
 {
     for (const QTextFormat& format : document()->allFormats()) {
@@ -173,14 +173,14 @@ void HelpPage::setTextSize(int newStep)
 
 void HelpPage::print(QPrinter& printer)
 {
-    QTextDocument paper(this); // loads from this page
+    QTextDocument paper(this); // its resources come from this page
     paper.setDefaultFont(parentWidget()->font());
     paper.setDefaultStyleSheet(HelpColours(QPalette(Qt::white)).styleSheet());
     paper.setHtml(book->page(pageName()));
     paper.print(&printer);
 }
 
-/// Copies as plain and as formatted text. The toolkit's office document would hold pictures that it looks for
+/// Copies plain and formatted text only. The toolkit's office document would embed pictures and look for them
 /// among the files of the machine.
 QMimeData* HelpPage::createMimeDataFromSelection() const
 {

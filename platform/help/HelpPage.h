@@ -12,28 +12,28 @@ class QPrinter;
 
 namespace help {
 
-/// Shows the pages of a help file in the colours of the desktop. It loads nothing from anywhere else.
+/// Shows the pages of a help file in the desktop's colors. Loads nothing from outside the help file.
 class HelpPage : public QTextBrowser
 {
 public:
     HelpPage(std::shared_ptr<const HelpBook> shown, QWidget* parent);
 
-    /// Shows a page, at its anchor if the reference has one, and marks the words on it.
+    /// Shows a page, scrolls to the reference's anchor, if any, and marks the words.
     void open(const QString& reference, const QStringList& wordsToMark = {});
-    QString pageName() const; ///< of the page shown
+    QString pageName() const; ///< the current page
 
-    /// Goes to the next mark, from the last one to the first. False if nothing is marked.
+    /// Goes to the next mark, and from the last to the first. Returns false if nothing is marked.
     bool goToNextMark();
     int marks() const { return static_cast<int>(extraSelections().size()); }
 
-    /// The size of the text: 0 is the desktop's own, each step up or down a tenth of it.
+    /// Sets the text size: 0 is the desktop's own; each step changes it by 10 %.
     void setTextSize(int newStep);
     int textSize() const { return step; }
 
-    /// Prints the page shown, dark on light.
+    /// Prints the current page, dark on light.
     void print(QPrinter& printer);
 
-    /// Never returns null: the toolkit would look for the resource among the files of the machine.
+    /// Never returns null: the toolkit would then look for the resource among the files of the machine.
     QVariant loadResource(int type, const QUrl& name) override;
 
 protected:
@@ -47,10 +47,10 @@ private:
     void markWords(const QStringList& wordsToMark);
 
     std::shared_ptr<const HelpBook> book;
-    QUrl current;      // the page shown; known before the toolkit loads what it refers to
-    QStringList words; // marked on the page shown
+    QUrl current;      // the current page; set before the toolkit loads the page's resources
+    QStringList words; // marked on the current page
     qsizetype nextMark = 0;
-    int step = 0; // of the text's size
+    int step = 0; // text size
 };
 
 } // namespace help

@@ -42,7 +42,7 @@ Widget* makeNamed(const QString& name, const QString& accessibleName)
     return widget;
 }
 
-/// A list whose lines open a page, by a click or by Enter.
+/// A list whose lines open a page on a click or Enter.
 QListWidget* makeList(const QString& name, const QString& accessibleName,
                       const std::function<void(const QString&)>& openPage)
 {
@@ -62,7 +62,7 @@ QLineEdit* makeField(const QString& name, const QString& accessibleName)
     return field;
 }
 
-/// Room for a line of a list or a tree, with some space above and below the text.
+/// Line size for a list or tree, with some space above and below the text.
 QSize lineSize(const QWidget& list) { return {0, list.fontMetrics().height() + 9}; }
 
 void addLine(QListWidget& list, const QString& text, const QString& page)
@@ -73,7 +73,7 @@ void addLine(QListWidget& list, const QString& text, const QString& page)
     item->setSizeHint(lineSize(list));
 }
 
-/// Hides the lines that don't contain the text, and makes the first of the others the current one.
+/// Hides the lines that don't contain the text, and selects the first visible one.
 void filter(QListWidget& list, const QString& text)
 {
     QListWidgetItem* first = nullptr;
@@ -101,7 +101,7 @@ ContentsPane::ContentsPane(const HelpBook& book, const OpenHelpPage& openPage)
     connect(tree, &QTreeWidget::itemClicked, this, open);
     connect(tree, &QTreeWidget::itemActivated, this, open);
 
-    QList<QTreeWidgetItem*> parents{tree->invisibleRootItem()}; // and then the last line of each level
+    QList<QTreeWidgetItem*> parents{tree->invisibleRootItem()}; // the root, then the last line of each level
     for (const SitemapEntry& entry : book.contents()) {
         parents.resize(std::min<qsizetype>(parents.size(), entry.level + 1));
         auto* const item = new QTreeWidgetItem(parents.last(), {entry.title});

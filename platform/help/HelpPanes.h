@@ -16,7 +16,7 @@ class QTreeWidget;
 
 namespace help {
 
-/// Opens a page of the help, with words to mark on it. Does nothing if the reference is empty.
+/// Opens a help page and marks words on it. A no-op if the reference is empty.
 using OpenHelpPage = std::function<void(const QString& reference, const QStringList& words)>;
 
 /// The contents tree.
@@ -25,17 +25,17 @@ class ContentsPane : public QWidget
 public:
     ContentsPane(const HelpBook& book, const OpenHelpPage& openPage);
 
-    /// Selects the line of a page, if there is one.
+    /// Selects the line of a page, if it has one.
     void showPage(const QString& page);
 
 private:
     QTreeWidget* tree;
 };
 
-/// The index, with a field that leaves in the list what contains the text typed.
+/// The index, with a field that filters it by the typed text.
 QWidget* makeIndexPane(const HelpBook& book, const OpenHelpPage& openPage);
 
-/// The search through the text of all pages.
+/// The full-text search.
 class SearchPane : public QWidget
 {
 public:
@@ -47,7 +47,7 @@ private:
     void search();
 
     HelpSearch pages;
-    QStringList words; // of the results shown
+    QStringList words; // of the current results
     QLineEdit* field;
     QLabel* summary;
     QListWidget* results;

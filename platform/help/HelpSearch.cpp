@@ -9,14 +9,14 @@ namespace help {
 
 namespace {
 
-/// Reads a page without loading anything that it refers to.
+/// Reads a page without loading its resources.
 class WordsAlone : public QTextDocument
 {
 public:
     QVariant loadResource(int /*type*/, const QUrl& /*name*/) override { return QString(); }
 };
 
-/// The words of a text in lower case, a space before each.
+/// The words of a text in lower case, each preceded by a space.
 QString spacedWords(const QString& text)
 {
     QString words;

@@ -11,10 +11,10 @@
 
 namespace help {
 
-/// The words of what a user types to search, in lower case, each once.
+/// The distinct words of a search text, in lower case.
 QStringList SearchWords(const QString& typed);
 
-/// Finds pages by their words. The pages are read at the first search.
+/// Finds pages by their words. Reads the pages on the first search.
 class HelpSearch
 {
 public:
@@ -25,15 +25,15 @@ public:
         QString page;
         QString title;
     };
-    /// The pages that hold every word, or a longer one that begins with it: those with a word in their title
-    /// first, then those with most hits.
+    /// The pages that contain every word, or a longer word that starts with it. Pages with a word in the
+    /// title come first, then those with the most hits.
     QList<Result> find(const QStringList& words);
 
 private:
     struct Page
     {
         Result shown;
-        QString wordsOfTitle; ///< in lower case, a space before each
+        QString wordsOfTitle; ///< in lower case, each preceded by a space
         QString words;
     };
     void readPages();

@@ -34,12 +34,12 @@ bool isDialogOf(const QWidget* dialog, const QWidget* window)
 
 } // namespace
 
-/// What the reader can do by a key, and by a button of the tool bar if it has a label.
+/// A command of the reader, with a key, and with a tool bar button if it has a label.
 struct HelpWindow::Command
 {
     const char* name;
     const char* text;
-    const char* label; ///< words alone, which any desktop has
+    const char* label; ///< text, not an icon: every desktop can show it
     QKeySequence key;
     std::function<void()> handler;
 };
@@ -197,7 +197,7 @@ void HelpWindow::print()
 void HelpWindow::showFor(QWidget& asking)
 {
     const bool isFresh = !isVisible();
-    winId(); // makes the native window, which is to stand before the other
+    winId(); // creates the native window, which must stay in front of the other
     attachTo(asking.window()->windowHandle());
     if (isFresh)
         placeBeside(asking);
@@ -208,13 +208,14 @@ void HelpWindow::showFor(QWidget& asking)
     page->setFocus(Qt::OtherFocusReason);
 }
 
-/// Makes this the front window of another, which doesn't block it then when it is modal.
+/// Makes this window transient for another and thus in front of it. If the other is modal, it then doesn't
+/// block this one.
 void HelpWindow::attachTo(QWindow* before)
 {
     QWindow* const own = windowHandle();
     for (QWindow* window = before; window != nullptr; window = window->transientParent()) {
         if (window->transientParent() == own)
-            window->setTransientParent(nullptr); // neither is to stand before the other at once
+            window->setTransientParent(nullptr); // avoids a cycle of transient parents
     }
     own->setTransientParent(before);
 }

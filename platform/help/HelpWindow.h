@@ -17,8 +17,8 @@ namespace help {
 
 class HelpPage;
 
-/// The window that shows a help file. It blocks no form, and no form blocks it: it is in front of the window
-/// that asked for it, and moves on to a modal window that would block it. Closing it deletes it.
+/// The window that shows a help file. It blocks no form, and no form blocks it: it stays in front of the
+/// window that opened it, and of any modal window that would block it. Closing it deletes it.
 class HelpWindow : public QWidget
 {
 public:
@@ -26,7 +26,7 @@ public:
 
     /// Shows the page of a topic, or the first page and a notice if the file has no such topic.
     void goToTopic(int topic);
-    /// Comes to the front, before the window that asks.
+    /// Brings the help window to the front of the window that asked for it.
     void showFor(QWidget& asking);
 
 protected:

@@ -19,14 +19,14 @@ using namespace help;
 
 namespace {
 
-/// The open help window, and what it shows.
+/// The open help window and its file.
 QPointer<HelpWindow> helpWindow;
 QString shownFile;
 QDateTime shownState;
 
 void closeHelp() { delete helpWindow; }
 
-/// Opens the window anew. The end of the program takes it down before the toolkit.
+/// Opens a new window. It closes at the end of the program, before the toolkit shuts down.
 void openWindow(std::shared_ptr<const HelpBook> book)
 {
     closeHelp();
@@ -35,14 +35,14 @@ void openWindow(std::shared_ptr<const HelpBook> book)
     Q_UNUSED(isRegisteredOnce);
 }
 
-/// Where a file is looked for, for a message.
+/// The folder in which a file is searched, for a message.
 QString folderOf(const QFileInfo& file)
 {
     return file.isRelative() && QDir::currentPath().isEmpty() ? "the working folder, which no longer exists"
                                                               : QDir::toNativeSeparators(file.absolutePath());
 }
 
-/// The help file, or null and a message that says why.
+/// Returns the help file, or null after showing a message with the reason.
 std::shared_ptr<const HelpBook> openBook(const std::string& file, const QFileInfo& wanted)
 {
     QFile opened(wanted.filePath());

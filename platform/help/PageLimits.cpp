@@ -8,20 +8,20 @@ namespace help {
 
 namespace {
 
-constexpr qsizetype largestPage = 256 << 10; // characters
+constexpr qsizetype largestPage = 256 << 10; // in characters
 constexpr qsizetype mostTags = 4'000;
 constexpr qsizetype mostPictures = 300;
 constexpr int longestWord = 20'000;
 constexpr double mostCells = 10'000;
 constexpr int deepestTables = 6;
 
-/// Whether the tables of a page stay within the limits. It may count more cells than there are.
+/// Whether the page's tables stay within the limits. May overestimate the number of cells.
 bool hasSmallTables(const QString& page)
 {
     static const QRegularExpression part(
         R"(<(tr)\b|<t[dh]\b|(<table)\b|(</table)\b|\b(col|row)span\s*=\s*["']?\s*(\d*))",
         QRegularExpression::CaseInsensitiveOption);
-    double rows = 1; // cells may come without a row
+    double rows = 1; // cells may appear without a row
     double cellsInRow = 0;
     double widest = 0;
     int depth = 0;
@@ -48,7 +48,7 @@ bool hasSmallTables(const QString& page)
     return true;
 }
 
-/// Whether no word is so long that the toolkit takes long to wrap it.
+/// Whether the page has no word so long that wrapping it would be slow.
 bool hasShortWords(const QString& page)
 {
     int length = 0;
@@ -58,7 +58,7 @@ bool hasShortWords(const QString& page)
     });
 }
 
-/// The words of a page. Very long ones are divided.
+/// The words of a page, with very long ones split.
 QString textOf(const QString& page)
 {
     static const QRegularExpression tags("<[^>]*>");

@@ -5,12 +5,12 @@
 
 namespace help {
 
-/// A line of a contents tree or of an index.
+/// A line of the contents tree or of the index.
 struct SitemapEntry
 {
     int level = 0; ///< of nesting, from 0
     QString title;
-    QString page; ///< as written: a name, perhaps with an anchor; empty if the line is a heading only
+    QString page; ///< as written: a name, perhaps with an anchor; empty if the line is only a heading
 };
 
 /// Reads a contents or index page of a help file. Ignores lines without a title; reads at most 10,000 lines

@@ -1,4 +1,4 @@
-"""Every field in sight on every form names itself and its unit to assistive technology, in both unit systems."""
+"""Every visible field of every form gives assistive technology its name and unit, in both unit systems."""
 
 import os
 import sys
@@ -90,7 +90,7 @@ class Walk:
 
     def expect_fields(self, title, expected):
         found = sorted(self.names(title, "text"))
-        if not any(entry for entry in self.units["grains"]):  # in Metric the field of the grains has no use
+        if not any(entry for entry in self.units["grains"]):  # the grains field has no use in Metric
             found = [name for name in found if not name.startswith("Humidity ratio in grains")]
         assert found == sorted(expected), f"{title}:\n  found    {found}\n  expected {sorted(expected)}"
         for button in self.names(title, "button"):

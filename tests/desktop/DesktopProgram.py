@@ -1,5 +1,5 @@
-"""Drives a program from outside its process, as assistive technology sees it: windows and controls by role and name
-over the accessibility bus, mouse and keys by real events."""
+"""Drives a program from outside its process, as assistive technology sees it: finds windows and controls by role and
+name over the accessibility bus, and sends real mouse and key events."""
 
 import subprocess
 import time
@@ -9,16 +9,16 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
 
-LIMIT = 15  # seconds to wait for anything
+LIMIT = 15  # seconds, for any wait
 
 
 def wait_for(what, look):
-    """What look() finds, as soon as it finds anything."""
+    """Waits until look() finds something and returns it."""
     end = time.monotonic() + LIMIT
     while time.monotonic() < end:
         try:
             found = look()
-        except gi.repository.GLib.GError:  # a window that is just going away
+        except gi.repository.GLib.GError:  # the window is just closing
             found = None
         if found:
             return found
@@ -35,7 +35,7 @@ def descendants(accessible):
 
 
 def role(accessible):
-    """By its newer name, where the bus still gives the older one."""
+    """The role's newer name, even if the bus gives the older one."""
     name = accessible.get_role_name()
     return "button" if name == "push button" else name
 
@@ -58,13 +58,13 @@ class DesktopProgram:
         return None
 
     def windows(self):
-        """The windows in sight."""
+        """The visible windows."""
         count = self.application.get_child_count()
         all_windows = [self.application.get_child_at_index(index) for index in range(count)]
         return [window for window in all_windows if window is not None and is_showing(window)]
 
     def window(self, title):
-        """The window with that text in its title, once it is in sight."""
+        """Waits for a visible window with that text in its title."""
         return wait_for(
             f"a window '{title}' among {[w.get_name() for w in self.windows()]}",
             lambda: next((w for w in self.windows() if title in w.get_name()), None),
@@ -74,7 +74,7 @@ class DesktopProgram:
         wait_for(f"the end of '{title}'", lambda: not any(title in w.get_name() for w in self.windows()))
 
     def find(self, title, name, wanted_role=None):
-        """The control of that name, or whose name begins with it and a comma, in the window of that title."""
+        """The control with that name, or with a name that begins with it and a comma, in the window with that title."""
 
         def look():
             for control in descendants(self.window(title)):
@@ -103,7 +103,7 @@ class DesktopProgram:
         self.click(title, entry, "menu item")
 
     def type(self, title, field, text):
-        """Clicks a field and types over what stands there."""
+        """Clicks a field and replaces its text."""
         self.click(title, field, "text")
         self.keys("ctrl+a")
         subprocess.run(["xdotool", "type", "--delay", "15", text], check=True)
@@ -125,7 +125,7 @@ class DesktopProgram:
         return self.process.wait(timeout=LIMIT)
 
     def end(self):
-        """Ends a program that is still there."""
+        """Ends the program if it is still running."""
         if self.process.poll() is None:
             self.process.kill()
             self.process.wait()

@@ -1,5 +1,5 @@
-"""The display server goes away, as at the end of a session: the program ends, whatever is open, and doesn't crash. Nor
-does it where it is asked to terminate."""
+"""When the display server goes away, as at the end of a session, the program ends without a crash, whatever is open.
+The same holds for a request to terminate."""
 
 import contextlib
 import os

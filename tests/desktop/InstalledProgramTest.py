@@ -1,5 +1,5 @@
-"""Drives an installed copy as its user does: help from the first screen on, a calculation, a saved report, a report
-printed to a PDF file, and the end. The folder that it is installed in can't be written by this user."""
+"""Drives an installed copy as its user does: help on the first screen, a calculation, a saved report, a report printed
+to a PDF file, and the end. This user can't write to the installation folder."""
 
 import os
 import pathlib

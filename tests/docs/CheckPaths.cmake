@@ -1,6 +1,5 @@
-# Fails if a document names a path of the project that does not exist. A path is what stands between backticks and begins
-# with one of the project's folders; it may hold wildcards,
-# and leave out the ending of a file. Called with -DSOURCE=folder -DDOCUMENTS=list.
+# Fails if a document names a path of the project that does not exist. A path is in backticks and begins with one of the
+# project's folders. It may contain wildcards and omit the file's extension. Call with -DSOURCE=folder -DDOCUMENTS=list.
 file(GLOB folders LIST_DIRECTORIES true RELATIVE ${SOURCE} ${SOURCE}/*)
 list(FILTER folders EXCLUDE REGEX "^(build|\\..*)$")
 list(JOIN folders "|" anyFolder)

@@ -1,6 +1,6 @@
 # cmake -DROOT=tree -P CheckFloors.cmake
-# Fails when an include in one of the floors names what that floor must not know. Within the tree
-# every include is written from its root, so the first folder of the name tells the floor.
+# Fails if a floor includes something that it must not know. Includes within the tree are written from its root, so the
+# first folder of the name is the floor.
 cmake_minimum_required(VERSION 3.25)
 get_filename_component(ROOT ${ROOT} ABSOLUTE)
 
@@ -13,10 +13,10 @@ set(reports_knows reports core platform)
 set(screens_knows screens chart reports core platform)
 set(shell_knows shell screens chart reports core platform)
 
-# All that the chart knows of the platform.
+# The only header of platform/ that the chart may include.
 set(chart_knows_of_platform platform/forms/Picture.h)
 
-# The core knows no library but this one. The other floors' libraries are the linker's business.
+# The core may include only the standard library. For the other floors, the linker checks the libraries.
 set(standard_library
     algorithm any array atomic barrier bit bitset charconv chrono codecvt compare complex concepts
     condition_variable coroutine deque exception execution filesystem format forward_list fstream functional
@@ -28,8 +28,8 @@ set(standard_library
     cassert cctype cerrno cfenv cfloat cinttypes climits clocale cmath csetjmp csignal cstdarg cstddef cstdint
     cstdio cstdlib cstring ctime cuchar cwchar cwctype)
 
-# includes_of(FILE VAR): what FILE includes, as <name>, "name", or the line's rest where it is neither.
-# Brackets and semicolons would upset a CMake list, and no include needs them.
+# includes_of(FILE VAR): what FILE includes, as <name>, "name", or otherwise the rest of the line. Brackets and
+# semicolons would break a CMake list, and no include needs them.
 function(includes_of file result)
   file(READ ${file} text)
   string(REGEX REPLACE "[][;\\]" "?" text "\n${text}")
@@ -46,7 +46,7 @@ function(includes_of file result)
   set(${result} "${includes}" PARENT_SCOPE)
 endfunction()
 
-# fault_of(FLOOR INCLUDE VAR): what is wrong with it, or an empty text.
+# fault_of(FLOOR INCLUDE VAR): the violation, or an empty text.
 function(fault_of floor include result)
   set(fault "")
   if(include MATCHES "^[<\"]([a-z]+)/" AND CMAKE_MATCH_1 IN_LIST floors)

@@ -1,5 +1,5 @@
-# Runs the check on a tree with a wrong include of every kind among right ones: it must fail, and name
-# exactly the wrong ones.
+# Runs the check on a tree with every kind of wrong include among correct ones. It must fail and name exactly the wrong
+# ones.
 cmake_minimum_required(VERSION 3.25)
 set(here ${CMAKE_CURRENT_LIST_DIR})
 execute_process(COMMAND ${CMAKE_COMMAND} -DROOT=${here}/upward -P ${here}/CheckFloors.cmake

@@ -1,6 +1,6 @@
-// The help's table of deviations from published figures, worked out again with the program's own relations.
-// The figures of the program stand there with five digits (or whole), its deviations in percent with two
-// decimals; where a figure's bound is an absolute one, both with two decimals more than the published figure.
+// Recalculates the help's table of deviations from published figures with the program's own relations. The
+// page shows the program's figures with five digits (or whole), and deviations in percent with two decimals.
+// If a figure's bound is absolute, both have two decimals more than the published figure.
 
 #include "core/MainMod.h"
 #include "tests/help/HelpPage.h"
@@ -21,7 +21,7 @@ struct Published
     bool isAbsolute() const { return cells[5].endsWith("absolute"); }
     int decimals() const { return figure().contains('.') ? int(figure().section('.', 1).size()) : 0; }
 
-    /// The number behind "name=" in the input.
+    /// The value after "name=" in the input.
     Single input(const QString& name) const
     {
         for (const QString& part : cells[2].split(' ')) {
@@ -87,7 +87,7 @@ double workOutFromWetBulb(const Published& published)
     throw std::runtime_error("no quantity " + quantity.toStdString());
 }
 
-/// The row that the page has to hold.
+/// The row that the page must contain.
 QStringList tableRow(const Published& published)
 {
     UnitSystem = published.cells[0] == "Metric" ? True16 : False16;

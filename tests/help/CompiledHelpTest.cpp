@@ -1,4 +1,4 @@
-// The compiled help file, looked into with chmls, a reader that is none of ours (Debian's fp-utils).
+// Inspects the compiled help file with chmls, an independent reader (Debian's fp-utils).
 
 #include "tests/help/HelpPage.h"
 #include "tests/support/Bytes.h"
@@ -12,8 +12,8 @@
 
 #include <gtest/gtest.h>
 
-/// A copy of the compiled file to look into. chmls locks what it reads, so tests that run at the same time
-/// each need their own.
+/// A private copy of the compiled file. chmls locks the file that it reads, so tests that run at the same
+/// time need separate copies.
 class CompiledHelp : public testing::Test
 {
 protected:
@@ -28,7 +28,7 @@ protected:
         return QString::fromLatin1(chmls.readAllStandardOutput());
     }
 
-    /// A file out of the compiled one.
+    /// A member of the compiled file.
     QByteArray member(const QString& name) const
     {
         const QString extracted = folder.filePath("member");
@@ -43,7 +43,7 @@ protected:
 
 namespace {
 
-/// Four bytes, the lowest first.
+/// Four bytes, little-endian.
 quint32 number(const QByteArray& bytes, qsizetype at)
 {
     return qFromLittleEndian<quint32>(bytes.mid(at, 4).leftJustified(4, '\0').constData());
@@ -94,7 +94,7 @@ TEST_F(CompiledHelp, HoldsPicturesContentsIndexAndSearch)
         EXPECT_TRUE(names.contains(name)) << name;
 }
 
-// The path of the builder's machine is of no use to anybody, and in the map of topics it would lead nowhere.
+// The builder's path is useless to others, and in the topic map it would break the topics.
 TEST_F(CompiledHelp, NamesNoFolderOfTheBuild)
 {
     const QString members = folder.filePath("members");

@@ -1,5 +1,5 @@
-// The real help file, damaged: whatever happens to it, reading it ends, and harms nothing. It is twenty times
-// as large as the sample on which every kind of damage is tried, so a few tries must do.
+// The real help file, damaged: reading it must end and do no harm. It is twenty times as large as the sample,
+// on which every kind of damage is tried, so a few tries must do.
 
 #include "tests/platform/help/DamagedHelp.h"
 

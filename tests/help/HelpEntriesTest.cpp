@@ -7,7 +7,7 @@
 
 namespace {
 
-/// A help entry, and what a user does from the main menu to see its form.
+/// A help entry, and the user's way from the main menu to its form.
 struct Row
 {
     const char* form;
@@ -48,7 +48,7 @@ protected:
                    : "(no help)";
     }
 
-    /// The page that an entry of the form in use opens.
+    /// The page that an entry of the current form opens.
     std::string pageOf(const char* entry)
     {
         user.choose(entry);
@@ -56,7 +56,7 @@ protected:
         return page();
     }
 
-    /// Opens a form, with the modal ones' `look` running while they are up.
+    /// Opens a form. Runs `look` while a modal form is open.
     void see(const std::string& form, const std::function<void()>& look)
     {
         static const std::map<std::string, const char*> buttons{

@@ -1,4 +1,4 @@
-// The help's sources hang together: links, pictures, contents, index and project.
+// The help's sources are consistent: links, pictures, contents, index and project.
 
 #include "tests/help/HelpPage.h"
 
@@ -20,7 +20,7 @@ QStringList anchorsOf(const HelpElement& page)
     return anchors;
 }
 
-/// Whether "page.html", "page.html#anchor" or, from a page, "#anchor" leads somewhere.
+/// Whether "page.html", "page.html#anchor" or, within a page, "#anchor" has a target.
 bool leadsSomewhere(const QString& target, const QString& fromPage = {})
 {
     const QString page = target.startsWith('#') ? fromPage : target.section('#', 0, 0);
@@ -29,7 +29,7 @@ bool leadsSomewhere(const QString& target, const QString& fromPage = {})
     return !target.contains('#') || anchorsOf(readHelpPage(page)).contains(target.section('#', 1));
 }
 
-/// The entries of the contents or the index, name and target.
+/// The entries of the contents or the index: name and target.
 std::vector<std::pair<QString, QString>> entries(const QString& file)
 {
     static const QRegularExpression entry(
@@ -87,7 +87,7 @@ TEST(HelpLinks, ContentsLeadToEveryPageAndNowhereElse)
     QSet<QString> reached;
     for (const auto& [title, target] : entries("dunmoor.hhc")) {
         if (target.isEmpty())
-            continue; // a heading of others
+            continue; // a heading only
         EXPECT_TRUE(leadsSomewhere(target)) << title.toStdString() << ": " << target.toStdString();
         reached.insert(target.section('#', 0, 0));
     }
@@ -113,7 +113,7 @@ TEST(HelpLinks, ProjectHoldsEveryFile)
     for (const QString& page : helpPages())
         EXPECT_TRUE(files.contains(page)) << page.toStdString();
     for (const QString& file : files) {
-        const bool isPicture = file.startsWith("pictures/"); // of the documents: see above
+        const bool isPicture = file.startsWith("pictures/"); // shared with the documents, see above
         EXPECT_TRUE(isPicture || QFile::exists(helpFolder() + '/' + file)) << file.toStdString();
     }
 }

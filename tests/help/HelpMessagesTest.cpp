@@ -1,5 +1,5 @@
-// Every text with which the program stops or warns its user stands in the help. The texts are taken from the
-// program's sources, so that a new one is missed here until somebody explains it.
+// The help quotes every message that stops or warns the user. The messages are read from the program's
+// sources, so a new one fails here until the help explains it.
 
 #include "tests/help/HelpPage.h"
 
@@ -26,7 +26,7 @@ QString programSources()
     return all;
 }
 
-/// The words of the string literals in a piece of code, as the user reads them.
+/// The string literals in a piece of code, as the user reads them.
 QStringList literals(const QString& code)
 {
     static const QRegularExpression literal("\"((?:[^\"\\\\]|\\\\.)*)\"");
@@ -41,14 +41,14 @@ QStringList literals(const QString& code)
     return texts;
 }
 
-/// A text of the program, or, where it is put together as it runs, a piece of one.
+/// A message of the program, or a fixed part of one that is assembled at run time.
 struct ProgramText
 {
     QString words;
     bool isPiece;
 };
 
-/// The texts at every place that a pattern finds.
+/// The messages at every match of a pattern.
 std::vector<ProgramText> textsAt(const QString& sources, const char* pattern)
 {
     std::vector<ProgramText> texts;
@@ -61,7 +61,7 @@ std::vector<ProgramText> textsAt(const QString& sources, const char* pattern)
     return texts;
 }
 
-/// What the page quotes of the program.
+/// The page's quotations from the program.
 QStringList quotations()
 {
     const HelpElement page = readHelpPage("messages.html");
@@ -80,7 +80,7 @@ struct Kind
 {
     const char* what;
     const char* pattern;
-    std::size_t fewest; ///< as many are known to be there
+    std::size_t fewest; ///< the number of known messages
 };
 
 constexpr Kind kinds[] = {

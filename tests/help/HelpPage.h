@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-/// An element of a help page, or, where it has no name, a piece of text.
+/// An element of a help page. A piece of text has no name.
 struct HelpElement
 {
     QString name;
@@ -19,26 +19,26 @@ struct HelpElement
 
     bool is(const QString& elementName, const QString& ofClass = {}) const;
     QStringList classes() const { return attributes.value("class").split(' ', Qt::SkipEmptyParts); }
-    /// All text in it, blanks run together.
+    /// All text in it, with white space collapsed.
     QString words() const { return allText().simplified(); }
-    /// All text in it as it stands.
+    /// All text in it, unchanged.
     QString allText() const;
-    /// Calls the visitor with each element in it, itself first, in the order of the page.
+    /// Calls the visitor with this element and all elements in it, in document order.
     void visit(const std::function<void(const HelpElement&)>& visitor) const;
     std::vector<const HelpElement*> all(const QString& elementName, const QString& ofClass = {}) const&;
     std::vector<const HelpElement*> all(const QString& elementName,
                                         const QString& ofClass = {}) const&& = delete;
 };
 
-/// The folder of the help's sources, and the names of the pages in it.
+/// The folder of the help's sources, and the names of its pages.
 QString helpFolder();
 QStringList helpPages();
 
-/// A source of the help as it stands.
-/// @throws std::runtime_error where it can't be read
+/// A source file of the help, unchanged.
+/// @throws std::runtime_error if it can't be read
 QString helpSource(const QString& name);
 
-/// @throws std::runtime_error with the place, where the page is not well-formed
+/// @throws std::runtime_error with the position, if the page is not well-formed
 HelpElement readHelpPage(const QString& page);
 
 [[noreturn]] void failAt(const QString& page, qint64 line, const QString& what);

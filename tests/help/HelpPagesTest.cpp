@@ -1,4 +1,4 @@
-// What every page of the help is made of, and what it announces.
+// The form of every help page, and the examples that it announces.
 
 #include "tests/help/WorkedExample.h"
 #include "tests/support/ProgramTest.h"
@@ -16,13 +16,13 @@ TEST(HelpPages, HaveTheirTitleAsHeadingAndNothingButPlainCharacters)
         ASSERT_EQ(page.all("h1").size(), 1U) << name.toStdString();
         EXPECT_EQ(page.all("title").front()->words(), page.all("h1").front()->words());
         for (const QChar letter : helpSource(name))
-            ASSERT_LT(letter.unicode(), 128) << name.toStdString(); // any reader, any code page
+            ASSERT_LT(letter.unicode(), 128) << name.toStdString(); // readable in any viewer and code page
         for (const char* forbidden : {"script", "font", "style", "frame", "iframe", "object"})
             EXPECT_TRUE(page.all(forbidden).empty()) << name.toStdString() << ": " << forbidden;
     }
 }
 
-// The desktop's colours and the reader's size of text apply to every page.
+// The desktop's colors and the reader's text size apply to every page.
 TEST(HelpPages, NameNoColoursAndNoFixedSizesOfText)
 {
     for (const QString& name : helpPages()) {
@@ -37,7 +37,7 @@ TEST(HelpPages, NameNoColoursAndNoFixedSizesOfText)
     EXPECT_FALSE(sheet.contains(fixed));
 }
 
-// What a page announces as an example has steps to follow and figures to compare.
+// Every announced example has steps to follow and figures to compare.
 TEST(HelpPages, GiveTheExamplesThatTheyAnnounce)
 {
     for (const QString& name : helpPages()) {

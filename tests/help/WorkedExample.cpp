@@ -4,7 +4,7 @@
 
 namespace {
 
-/// The words between two operands, without what only joins them.
+/// The words between two operands, without conjunctions.
 QString joinless(const QString& text)
 {
     static const QRegularExpression before("^([\\s.,;:]|(and|then)\\b)+");
@@ -12,7 +12,7 @@ QString joinless(const QString& text)
     return text.simplified().toLower().remove(before).remove(after);
 }
 
-/// The name among the classes of an element that is no class of the pages' own.
+/// The class of an element that names a control, not a style.
 QString controlOf(const HelpElement& element)
 {
     for (const QString& name : element.classes()) {
@@ -22,7 +22,7 @@ QString controlOf(const HelpElement& element)
     return {};
 }
 
-/// Reads the sentence of a step, operand by operand.
+/// Reads the sentence of a step, one operand at a time.
 class StepReader
 {
 public:

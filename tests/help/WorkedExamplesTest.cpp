@@ -1,4 +1,4 @@
-// The worked examples of the help, done on the real forms as the pages tell, and every figure compared.
+// Follows the worked examples of the help on the real forms and compares every figure.
 
 #include "platform/ShortDate.h"
 #include "reports/ReportFolders.h"
@@ -27,7 +27,7 @@ std::ostream& operator<<(std::ostream& out, const ExamplePlace& place)
     return out << place.page << " " << place.id;
 }
 
-/// Every example of the pages. A page that can't be read stands for itself, so that its test fails.
+/// Every example of the pages. An unreadable page is included as one example, whose test fails.
 std::vector<ExamplePlace> examplePlaces()
 {
     std::vector<ExamplePlace> places;
@@ -62,7 +62,7 @@ WorkedExample find(const ExamplePlace& place)
 
 std::string str(const QString& text) { return text.toStdString(); }
 
-/// A caption without what marks its access key.
+/// A caption without access key markers.
 QString bare(QString caption) { return caption.remove('&').trimmed(); }
 
 } // namespace
@@ -81,7 +81,7 @@ protected:
         return bare(QString::fromStdString(user.text(control.toStdString())));
     }
 
-    /// What the window calls a field, by the label that describes it.
+    /// A field's caption: the text of its label.
     QString captionOf(const QString& control) const
     {
         QWidget* const widget = user.widget(control.toStdString());
@@ -138,10 +138,10 @@ protected:
         }
     }
 
-    /// Runs while the dialog waits, so nothing may be thrown out of it.
+    /// Runs inside the dialog's event loop, so it must not throw.
     void doInDialog(const HelpStep& step)
     {
-        QApplication::processEvents(); // the dialog becomes the active window
+        QApplication::processEvents(); // lets the dialog become the active window
         const std::string dialog = user.window();
         dialogsLeft.removeOne(step.dialog);
         EXPECT_EQ(str(step.dialogTitle), str(bare(QString::fromStdString(user.title())))) << where();
@@ -190,7 +190,7 @@ protected:
         }
     }
 
-    /// The page writes "today" where the date stands, and no blanks at the ends of lines.
+    /// The page has "today" in place of the date, and no trailing blanks.
     void expectReport(const QString& told) const
     {
         QFile file(folder.filePath("data/" + lastTyped));

@@ -4,7 +4,7 @@
 
 using namespace forms;
 
-/// A form without anything on it, to own a dialog.
+/// An empty form, as the owner of a dialog.
 class AnyForm : public Form
 {
 public:

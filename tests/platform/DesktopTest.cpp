@@ -1,4 +1,4 @@
-// What the desktop tells the program: its own folder, and how the user writes numbers.
+// What the program learns from the desktop: its own folder, and the user's number format.
 
 #include "platform/Desktop.h"
 
@@ -16,7 +16,7 @@
 
 namespace {
 
-/// What the test named says in a process of its own: the line after "said: ".
+/// Runs a test in a separate process and returns its line after "said: ".
 std::string said(const QString& executable, const QString& test, const QProcessEnvironment& environment)
 {
     QProcess child;
@@ -42,7 +42,7 @@ std::string numberCharactersUnder(const QString& locale)
 
 } // namespace
 
-// The other tests run these two in processes of their own.
+// The other tests run these two in separate processes.
 TEST(Child, SaysItsNumberCharacters)
 {
     const NumberCharacters characters = UserNumberCharacters();
@@ -67,7 +67,7 @@ TEST(Desktop, WritesNumbersAsTheUsersLocaleDoes)
     EXPECT_EQ(numberCharactersUnder("en_US.UTF-8"), "[.][,]");
     EXPECT_EQ(numberCharactersUnder("de_DE.UTF-8"), "[,][.]");
     EXPECT_EQ(numberCharactersUnder("fr_FR.UTF-8"), "[,][\u202F]");
-    // One apostrophe or another, by the version of the toolkit.
+    // The kind of apostrophe depends on the version of the toolkit.
     EXPECT_EQ(numberCharactersUnder("de_CH.UTF-8"),
               "[.][" + QLocale("de_CH").groupSeparator().toStdString() + "]");
 }

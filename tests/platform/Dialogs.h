@@ -12,9 +12,8 @@
 #include <stdexcept>
 #include <vector>
 
-/// Answers the toolkit's dialogs that the code under test opens: each answer is given to the next dialog of
-/// its name. A dialog that nobody waits for is closed as on Cancel, and so is one that stays open for seconds
-/// after its answer. They are kept in `unexpected`.
+/// Answers the toolkit's dialogs: each answer goes to the next dialog with its name. Cancels an unexpected
+/// dialog, and one that stays open for seconds after its answer, and keeps both in `unexpected`.
 class Dialogs
 {
 public:
@@ -44,7 +43,7 @@ private:
         if (dialog == nullptr || !dialog->isVisible())
             return;
         if (dialog->property("answered").toBool())
-            return; // its answer is still being given, or opened what is now closed again
+            return; // its answer is still running, or it has opened a dialog that is now closed
         dialog->setProperty("answered", true);
         shown.push_back(dialog->objectName());
         if (plans.empty() || plans.front().name != dialog->objectName()) {
@@ -58,7 +57,7 @@ private:
             unexpected.push_back(dialog->objectName() + " stays open");
             dialog->reject();
         });
-        // In an event of its own, so that looking goes on while the answer waits in a dialog of the dialog's.
+        // In a separate event, so that the watch continues while the answer waits in a nested dialog.
         QTimer::singleShot(0, dialog, [answer, dialog] { answer(*dialog); });
     }
 
@@ -66,7 +65,7 @@ private:
     std::vector<Plan> plans;
 };
 
-/// A child that a test needs. @throws std::runtime_error where there is none
+/// A child that a test needs. @throws std::runtime_error if there is none
 template <class Widget>
 Widget& child(QWidget& dialog, const char* name)
 {
@@ -76,7 +75,7 @@ Widget& child(QWidget& dialog, const char* name)
     return *found;
 }
 
-/// Presses the button of a dialog that confirms it, and the one that cancels it.
+/// Presses the dialog's button of that role: OK or Cancel.
 inline void pressIn(QDialog& dialog, QDialogButtonBox::ButtonRole role)
 {
     auto* const box = dialog.findChild<QDialogButtonBox*>();
@@ -91,7 +90,7 @@ inline void pressIn(QDialog& dialog, QDialogButtonBox::ButtonRole role)
 inline void confirm(QDialog& dialog) { pressIn(dialog, QDialogButtonBox::AcceptRole); }
 inline void cancel(QDialog& dialog) { pressIn(dialog, QDialogButtonBox::RejectRole); }
 
-/// The answer that saves under a name, typed as it is.
+/// The answer that saves under a name, as typed.
 inline Dialogs::Answer saveAs(const QString& name)
 {
     return [name](QDialog& dialog) {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-/// What a program says about a PDF file. @throws std::runtime_error where it is missing or fails
+/// The output of a program about a PDF file. @throws std::runtime_error if the program is missing or fails
 inline QString sayOf(const QString& program, const QStringList& arguments)
 {
     QProcess process;
@@ -24,8 +24,8 @@ inline int pagesOf(const QString& file)
     return pages.match(sayOf("pdfinfo", {file})).captured(1).toInt();
 }
 
-/// The text of a page in the order of reading, a line of the page a line of text, blanks between words as
-/// one.
+/// The text of a page in reading order, one line of text per line of the page, with blanks between words
+/// collapsed.
 inline std::string textOf(const QString& file, int page = 1)
 {
     const QString number = QString::number(page);
@@ -36,7 +36,7 @@ inline std::string textOf(const QString& file, int page = 1)
         .toStdString();
 }
 
-/// A word of a page with its box, in points from the upper left corner of the paper.
+/// A word of a page and its box, in points from the upper left corner of the paper.
 struct Word
 {
     QString text;

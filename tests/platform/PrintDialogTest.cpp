@@ -30,7 +30,7 @@ TEST(PrinterToGoOverTo, TakesTheLastOneWhereSeveralMatch)
 TEST(PrinterToGoOverTo, TakesNoneWhereNoneMatches)
 {
     EXPECT_EQ(PrinterToGoOverTo({"Office", "Lab"}, "HALL"), std::nullopt);
-    EXPECT_EQ(PrinterToGoOverTo({"lab"}, "lab"), std::nullopt); // a name in lower case is none
+    EXPECT_EQ(PrinterToGoOverTo({"lab"}, "lab"), std::nullopt); // names in lower case never match
 }
 
 /// On a machine without printers: the file printer is the current one.
@@ -54,7 +54,7 @@ protected:
         return ShowPrintDialog(form<AnyForm>());
     }
 
-    /// The answer to the dialog that its button "Properties" opens.
+    /// Answers the dialog behind the button "Properties".
     void inProperties(QDialog& dialog, Dialogs::Answer answer)
     {
         dialogs.answer("", std::move(answer));
@@ -90,7 +90,7 @@ TEST_F(PrintDialogTest, OffersNeitherASelectionNorAPageRange)
     ask([](QDialog& dialog) {
         for (QAbstractButton* button : dialog.findChildren<QAbstractButton*>()) {
             if (button->text().contains("Options"))
-                button->click(); // shows the lower half
+                button->click(); // opens the lower half
         }
         EXPECT_TRUE(child<QSpinBox>(dialog, "copies").isVisible());
         for (const char* range :
@@ -100,7 +100,7 @@ TEST_F(PrintDialogTest, OffersNeitherASelectionNorAPageRange)
     });
 }
 
-/// Renames what the toolkit names from now on, as another version of it could.
+/// Renames the toolkit's widgets as they are created, as another version of it could.
 class OtherNames : public QObject
 {
 public:

@@ -22,7 +22,7 @@ using namespace forms;
 
 namespace {
 
-/// Listens at a path of the file system. The system accepts for it; nobody reads or writes.
+/// Listens on a socket path. The system accepts connections; nobody reads or writes.
 class SilentServer
 {
 public:
@@ -41,7 +41,7 @@ private:
     int socket;
 };
 
-/// Counts how often a widget is painted.
+/// Counts the paint events of a widget.
 class Paintings : public QObject
 {
 public:
@@ -81,7 +81,7 @@ protected:
     QString path() const { return folder.filePath("cups.sock"); }
     QString pdf() const { return folder.filePath("out.pdf"); }
 
-    /// Opens the dialog, which offers the PDF file alone, and prints there.
+    /// Opens the dialog, which offers only the PDF file, and prints there.
     void printToFile()
     {
         dialogs.answer("PrintDialog", [this](QDialog& dialog) {
@@ -103,7 +103,7 @@ TEST_F(PrintServerTest, ThatNeverAnswersLeavesPrintingToAFile)
 {
     const SilentServer server(path());
     printToFile();
-    printToFile(); // and is not waited for again
+    printToFile(); // does not wait again
 }
 
 TEST_F(PrintServerTest, ThatNeverAnswersLeavesTheWindowPainted)

@@ -19,7 +19,7 @@ protected:
     QTemporaryDir folder;
 };
 
-/// The file printer, on a file of its own.
+/// The file printer with its own file.
 class FilePrinterTest : public NoPrinters
 {
 protected:
@@ -236,7 +236,7 @@ TEST_F(FilePrinterTest, OffersThePropertiesOfAPrinter)
     EXPECT_EQ(printer.deviceName(), "Print to File (PDF)");
     EXPECT_EQ(printer.port(), pdf().toStdString());
     EXPECT_EQ(printer.printQuality(), 600);
-    // 210 mm of paper less two margins of 15 mm, in six hundredths of an inch
+    // 210 mm of paper minus two margins of 15 mm, at 600 dots per inch
     EXPECT_NEAR(printer.pageWidth(), 180.0 / 25.4 * 600.0, 10.0);
     EXPECT_EQ(printer.copies(), 1);
     EXPECT_EQ(printer.duplex(), QPrinter::DuplexNone);

@@ -1,4 +1,4 @@
-// The user's store of strings, as the program and as a person with an editor see it.
+// The user's settings store, as seen by the program and by a person with an editor.
 
 #include "tests/platform/StoreFixture.h"
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The short date of a process under another locale.
+/// The short date in a process with another locale.
 std::string shortDateUnder(const QString& locale)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

@@ -9,7 +9,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-/// A settings store in a folder of the test's own.
+/// A settings store in the test's own folder.
 class Store : public testing::Test
 {
 protected:

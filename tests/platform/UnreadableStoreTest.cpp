@@ -1,4 +1,4 @@
-// What may be in the place of the settings file and of its lock, and what the program makes of it.
+// Unusual things in the place of the settings file and of its lock, and how the program handles them.
 
 #include "tests/platform/StoreFixture.h"
 #include "tests/support/FullDisk.h"
@@ -18,7 +18,7 @@ namespace {
 class PlaceOfTheStore : public Store
 {
 protected:
-    /// What the program makes of something in the place of its store: it uses defaults and changes nothing.
+    /// Expects the program to use defaults and change nothing.
     void expectLeftAlone(const char* what)
     {
         EXPECT_EQ(UnreadableStore("Dunmoor"), file().toStdString()) << what;
@@ -73,7 +73,7 @@ TEST_F(PlaceOfTheStore, IsNoFileThatTheUserMayNotRead)
 {
     write(file(), storeOf(100));
     ASSERT_EQ(chmod(file().toLocal8Bit(), 0), 0);
-    if (geteuid() == 0) { // who may read everything, so go on as somebody else
+    if (geteuid() == 0) { // root can read everything, so continue as another user
         chmod(place.path().toLocal8Bit(), 0777);
         chmod(folder().toLocal8Bit(), 0777);
         ASSERT_EQ(setresuid(65534, 65534, 65534), 0);

@@ -38,7 +38,7 @@ protected:
 
     static constexpr uid_t somebody = 65534;
 
-    /// To root, a folder of somebody's; to anybody else, root's own.
+    /// A folder of another user: for root somebody's, for anybody else root's.
     QString folderOfAnother() const
     {
         if (geteuid() != 0)
@@ -48,7 +48,7 @@ protected:
         return folder.filePath("theirs");
     }
 
-    /// Root may write everywhere: goes on as somebody else, for the rest of the test's process.
+    /// Root may write everywhere, so the rest of the test's process runs as another user.
     static void giveToSomebodyElseAndBecomeThem(const std::vector<std::string>& theirs)
     {
         if (geteuid() != 0)
@@ -64,7 +64,7 @@ protected:
 TEST_F(WorkFoldersTest, LieBelowTheApplication)
 {
     EXPECT_EQ(WorkFolder(application(), "data"), path("data"));
-    EXPECT_FALSE(FolderExists(path("data"))); // asking makes nothing
+    EXPECT_FALSE(FolderExists(path("data"))); // the query creates nothing
 }
 
 TEST_F(WorkFoldersTest, LieBelowTheUsersFolderWhereTheApplicationsIsReadOnly)

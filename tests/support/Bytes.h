@@ -6,7 +6,7 @@
 
 #include <stdexcept>
 
-/// The bytes of a file. @throws std::runtime_error if it can't be read
+/// The contents of a file. @throws std::runtime_error if it can't be read
 inline QByteArray bytesOf(const QString& path)
 {
     QFile file(path);

@@ -3,13 +3,13 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/// While it lives no file of this process can grow, as on a full disk.
+/// During its lifetime no file of this process can grow, as on a full disk.
 class FullDisk
 {
 public:
     FullDisk()
     {
-        std::signal(SIGXFSZ, SIG_IGN); // a write fails instead of ending the process
+        std::signal(SIGXFSZ, SIG_IGN); // makes a write fail instead of ending the process
         getrlimit(RLIMIT_FSIZE, &before);
         const rlimit none{.rlim_cur = 0, .rlim_max = before.rlim_max};
         setrlimit(RLIMIT_FSIZE, &none);

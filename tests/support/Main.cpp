@@ -1,5 +1,5 @@
-// The main of the tests that need windows: an application on the offscreen platform, with settings of its
-// own, so that no test sees the user's.
+// The main function of tests that need windows: an application on the offscreen platform with its own
+// settings, so that no test sees the user's.
 
 #include <gtest/gtest.h>
 
@@ -11,11 +11,11 @@
 
 int main(int argc, char** argv)
 {
-    // Tests of a fatal end start anew in a process of their own: the toolkit paints with threads, which a
-    // plain fork would lose. That process shares the settings, so that a test sees what it wrote.
+    // Death tests run in a fresh process: the toolkit paints with threads, which a plain fork would lose.
+    // That process shares the settings, so that a test sees what it wrote.
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     testing::InitGoogleTest(&argc, argv);
-    umask(022); // the program leaves folders alone in which others may write
+    umask(022); // the program ignores folders that others may write to
     const QTemporaryDir ownHome;
     const QDir home(qEnvironmentVariable("DUNMOOR_TEST_HOME", ownHome.path()));
     qputenv("DUNMOOR_TEST_HOME", home.path().toUtf8());

@@ -10,8 +10,8 @@
 
 using namespace forms;
 
-/// A test that starts the program as its user does: the main menu is up. What the settings hold before is
-/// stored with the functions here, first thing in a test.
+/// Starts the program as the user does: the main menu is shown. To change the settings that the program
+/// starts with, call the functions here first in a test.
 class ProgramTest : public testing::Test
 {
 protected:
@@ -35,7 +35,7 @@ protected:
         return GetSetting("Dunmoor", "Settings", key, "(nothing)");
     }
 
-    /// What the calculator screens warn of: the message of the failure branch and of the temperature range.
+    /// The calculators' warnings: of the failure branch and of the temperature range.
     static inline const Message outOfRange{"Input Out of Range, Try Again!", " ERROR"};
     static inline const Message temperatureOutOfRange{"Temperature Input Out of Range, Try Again!", " ERROR"};
 

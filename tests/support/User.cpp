@@ -24,7 +24,7 @@ namespace {
 
 QString q(const std::string& text) { return QString::fromStdString(text); }
 
-/// The window that takes input: the modal one, else the one that is shown.
+/// The window that accepts input: the modal one, else the one shown.
 QWidget* windowInUse()
 {
     if (QWidget* modal = QApplication::activeModalWidget())
@@ -38,8 +38,8 @@ QWidget* windowInUse()
 
 QPoint centre(const QWidget& widget) { return widget.rect().center(); }
 
-/// Moves the mouse as a hand does, by more than one motion: a menu takes no click of a mouse that has hardly
-/// moved since it opened.
+/// Moves the mouse in several motions, as a hand does: a menu ignores a click if the mouse has hardly moved
+/// since it opened.
 void moveMouse(const QWidget& widget, QPoint place)
 {
     const QPoint there = widget.mapTo(widget.window(), place);
@@ -60,7 +60,7 @@ User::~User() = default;
 
 void User::lookAgain()
 {
-    // A fresh timer each time, so that looking goes on inside the event loops of dialogs.
+    // A new timer each time, so that it also fires inside the dialogs' event loops.
     QTimer::singleShot(1, looking.get(), [this] {
         lookAgain();
         lookAtScreen();
@@ -118,7 +118,7 @@ void User::click(const std::string& control)
 
 void User::doubleClick(const std::string& control)
 {
-    // Through the window, which makes of it the presses, releases and double click that a real one does.
+    // Sent through the window, which turns them into presses, releases and double clicks as for a real mouse.
     QWidget* const target = widget(control);
     QWidget* const window = target->window();
     QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
@@ -151,7 +151,7 @@ void User::type(const std::string& field, const std::string& text)
 
 void User::key(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    QApplication::processEvents(); // access keys work in the active window alone
+    QApplication::processEvents(); // access keys work only in the active window
     QWidget* const window = windowInUse();
     QWidget* const target = window->focusWidget() != nullptr ? window->focusWidget() : window;
     QTest::keyClick(target, key, modifiers);
@@ -170,7 +170,7 @@ void User::choose(const std::string& menuEntryName)
         QMenu* const menu = onBar->menu();
         const QPoint place = bar->actionGeometry(onBar).center();
         moveMouse(*bar, place);
-        if (menu == nullptr || !menu->isVisible()) // the way there opens it where another one is open
+        if (menu == nullptr || !menu->isVisible()) // moving there opens it if another menu is open
             clickAt(*bar, place);
         if (menu != nullptr && menu->isVisible())
             chooseFromMenu(*menu, entry);
@@ -180,7 +180,7 @@ void User::choose(const std::string& menuEntryName)
 
 void User::chooseFromMenu(QMenu& menu, QAction* entry)
 {
-    const QPointer<QMenu> open = &menu; // what is chosen may be the end of its window
+    const QPointer<QMenu> open = &menu; // the chosen entry may close the window
     const QPoint place = menu.actionGeometry(entry).center();
     moveMouse(menu, place);
     clickAt(menu, place);

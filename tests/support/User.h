@@ -22,11 +22,11 @@ struct Message
     friend bool operator==(const Message&, const Message&) = default;
 };
 
-/// A user at the program: clicks, types key by key, chooses from menus, closes windows, and reads what the
-/// screen shows. Controls are found by name in the window that takes input.
+/// Simulates a user: clicks, types key by key, chooses from menus, closes windows, and reads the screen.
+/// Finds controls by name in the window that accepts input.
 ///
-/// Message boxes are closed as they come and kept in `messages`. What to do in a dialog that a click will
-/// open is said before the click (see inDialog).
+/// Closes message boxes as they appear and keeps them in `messages`. Before a click that opens a dialog, call
+/// inDialog with what to do there.
 class User
 {
 public:
@@ -41,25 +41,25 @@ public:
     void releaseMouse(const std::string& control);
     void middleClick(const std::string& control);
 
-    /// Goes to a field by the keyboard and types over what stands there.
+    /// Moves to a field by the keyboard and replaces its text.
     void type(const std::string& field, const std::string& text);
-    /// Presses keys where the focus is.
+    /// Presses keys in the focused control.
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void keys(const std::string& text);
 
     void choose(const std::string& menuEntryName);
-    static void chooseFromMenu(QMenu& menu, QAction* entry); ///< of a menu that is open
+    static void chooseFromMenu(QMenu& menu, QAction* entry); ///< an open menu
     void chooseFromList(const std::string& list, const std::string& entry);
     void closeWindow();
 
-    /// Does something in the next dialog of that name. Dialogs are answered in the order said.
+    /// Runs actions in the next dialog of that name. Several calls apply to dialogs in that order.
     void inDialog(const std::string& dialog, std::function<void()> actions);
-    /// Runs while the next message box stands open, before it is closed.
+    /// Runs while the next message box is open, before it is closed.
     void atMessage(std::function<void()> actions) { messageActions = std::move(actions); }
 
     std::vector<Message> messages;
 
-    std::string window() const; ///< the name of the window that takes input
+    std::string window() const; ///< the name of the window that accepts input
     std::string title() const;
     std::string text(const std::string& control) const; ///< of a field, label, frame, button or list
     std::string focus() const;
@@ -80,5 +80,5 @@ private:
     };
     std::deque<DialogPlan> plans;
     std::function<void()> messageActions;
-    std::unique_ptr<QObject> looking; // the looking ends with the user
+    std::unique_ptr<QObject> looking; // stops watching when the user is destroyed
 };

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Works out cooling loads apart from the program and writes them as cases: tests/data/cooling.csv.
+"""Calculates cooling loads independently of the program and writes them as cases: tests/data/cooling.csv.
 
     python3 tests/tools/CoolingCases.py tests/data/cooling.csv
 """
@@ -8,12 +8,12 @@ import sys
 
 from Singles import Draw, Failure, next_single, number, single, divided, write_cases
 
-RANDOM_CASES = 600  # of each unit mode
+RANDOM_CASES = 600  # per unit system
 WILD_SHARE = 0.1
 
 INPUTS = ["V1", "v1", "h1", "W1", "td1", "Tdb1", "v2", "h2", "W2", "Twb2", "Tdb2"]
 RESULTS = ["CondensateEnthalpy", "Sensible", "Latent", "Total"]
-UNTOUCHED = 7.25  # what the three loads hold before
+UNTOUCHED = 7.25  # initial value of the three loads
 
 ENGLISH_BANDS = [
     (32, 33, 31.98), (33, 34, 31.97), (34, 35, 31.96), (35, 37, 31.95), (37, 39, 31.94), (39, 40, 31.93),
@@ -40,7 +40,7 @@ def truth(condition):
 
 
 def condensate_enthalpy(metric, wet_bulb):
-    """Takes the first band whose test is FALSE: each is compared with a value that is still 0."""
+    """Intentionally takes the first band whose test is FALSE: each is compared with a value that is still 0."""
     chosen = 0
     if metric:
         for low, high, value in METRIC_BANDS:
@@ -65,7 +65,7 @@ def wet_total(metric, air, mass_flow, result):
 
 
 def sensible(metric, air):
-    """In double throughout."""
+    """In double precision throughout."""
     volumes = air["v2"] + air["v1"]
     fall = air["Tdb1"] - air["Tdb2"]
     if metric:
@@ -74,7 +74,7 @@ def sensible(metric, air):
 
 
 def loads(metric, wet_bulb_given, air):
-    """The three loads as far as they are reached, and the number of the failure that ends them, or 0."""
+    """The loads calculated before any failure, and the failure's number or 0."""
     result = {"CondensateEnthalpy": None, "Sensible": UNTOUCHED, "Latent": UNTOUCHED, "Total": UNTOUCHED}
     try:
         dry = air["Tdb2"] >= air["td1"] and not wet_bulb_given
@@ -94,7 +94,7 @@ def loads(metric, wet_bulb_given, air):
 
 
 def usual(draw, metric):
-    """Air into and out of a coil, the wet bulb mostly near the bands that count."""
+    """Air into and out of a coil, with the wet bulb mostly near the bands that are used."""
     near_ice = draw.chance(0.4)
     if metric:
         return {
@@ -112,13 +112,13 @@ def usual(draw, metric):
 
 
 def wild(draw, metric):
-    """A usual case with some of its numbers of any size."""
+    """A usual case with some numbers of arbitrary size."""
     air = usual(draw, metric)
     return {name: draw.of_any_size() if draw.chance(0.3) else value for name, value in air.items()}
 
 
 def edges(draw, metric):
-    """Pairs of whether a wet bulb was given, and air."""
+    """Pairs: whether a wet bulb was given, and the air."""
     limits = [low for low, *_ in (METRIC_BANDS if metric else ENGLISH_BANDS)]
     for limit in limits:
         for wet_bulb in (limit, next_single(limit) if limit else 1e-30, limit + 0.5):

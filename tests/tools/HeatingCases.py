@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Works out heating loads apart from the program and writes them as cases: tests/data/heating.csv.
+"""Calculates heating loads independently of the program and writes them as cases: tests/data/heating.csv.
 
     python3 tests/tools/HeatingCases.py tests/data/heating.csv
 """
@@ -9,14 +9,14 @@ import sys
 from MoistAir import enthalpy
 from Singles import Draw, Failure, divided, number, single, write_cases
 
-RANDOM_CASES = 600  # of each unit mode
+RANDOM_CASES = 600  # per unit system
 WILD_SHARE = 0.1
 
 INPUTS = ["AirVolume", "SpVol", "h", "W", "LeavingTdb"]
 
 
 def load(metric, air):
-    """Mass flow and load as far as they are reached, with their kinds; the number of the failure, or 0."""
+    """Mass flow and load, as far as calculated before any failure, with their kinds; the failure's number or 0."""
     result = {"massFlow": None, "massFlow.kind": "", "load": 0.0, "load.kind": "int16", "error": 0}
     kind = "single" if metric else "double"
     try:
@@ -47,7 +47,7 @@ def usual(draw, metric):
 
 
 def wild(draw, metric):
-    """A usual case with some of its numbers of any size."""
+    """A usual case with some numbers of arbitrary size."""
     air = usual(draw, metric)
     return {name: draw.of_any_size() if draw.chance(0.3) else value for name, value in air.items()}
 

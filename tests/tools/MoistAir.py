@@ -1,7 +1,7 @@
-"""The relations of moist air, worked out apart from the program for the generators beside this file.
+"""The relations of moist air, independent of the program, for the generators in this folder.
 
-Arguments and results are singles; an expression is worked out in double and rounded once, at its end, except
-where single() stands inside. Powers come from the general power function.
+Arguments and results are singles. An expression is evaluated in double precision and rounded once, at its end;
+single() marks any other rounding. Powers use the general power function.
 """
 
 import math
@@ -11,7 +11,7 @@ from Singles import divided, logarithm, single
 GAS_CONSTANT_METRIC = single(8314.41)
 GAS_CONSTANT_ENGLISH = single(1545.32)
 
-# c1 to c5, c6 over ice, and the factor of the logarithm.
+# c1 to c5, c6 over ice, and the coefficient of the logarithm.
 METRIC_ICE = (-5674.5359, 6.3925247, -0.009677843, 6.22115701e-7, 2.0747825e-9, -9.484024e-13, 4.1635019)
 METRIC_WATER = (-5800.2206, 1.3914993, -0.048640239, 4.1764768e-5, -1.4452093e-8, None, 6.5459673)
 ENGLISH_ICE = (-10214.165, -4.8932428, -0.0053765794, 1.9202377e-7, 3.5575832e-10, -9.0344688e-14, 4.1635019)
@@ -63,7 +63,7 @@ def ratio_from_wet_bulb(metric, twb, tdb, ws_wet):
 
 
 def dew_point(metric, pw):
-    """From a vapour pressure in kPa (Metric) or psi (English)."""
+    """From a vapor pressure in kPa (Metric) or psi (English)."""
     if not metric:
         pw = single(pw * 6.8947333)
     a = single(logarithm(pw))
@@ -82,7 +82,7 @@ def residual(metric, candidate, tdb, p, w):
 
 
 def wet_bulb(metric, tdb, w, p):
-    """Bisection, with both residuals worked out on every pass."""
+    """Bisection that evaluates both residuals on every pass."""
     upper = single(tdb - 0.005)
     lower = single(tdb - (50.0 if metric else 70.0))
     mid = single((lower + upper) / 2)

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Works out moisture requirements apart from the program and writes them as cases: tests/data/moisture.csv.
+"""Calculates moisture requirements independently of the program and writes them as cases: tests/data/moisture.csv.
 
     python3 tests/tools/MoistureCases.py tests/data/moisture.csv
 """
@@ -10,7 +10,7 @@ from MoistAir import (absolute, dew_point, enthalpy, ratio_from_vapor_pressure, 
                       specific_volume, wet_bulb)
 from Singles import Draw, Failure, divided, number, single, write_cases
 
-RANDOM_CASES = 600  # of each unit mode
+RANDOM_CASES = 600  # per unit system
 WILD_SHARE = 0.15
 
 INPUTS = ["Tdb", "percent", "P", "outsideW", "quantity"]
@@ -64,7 +64,7 @@ def usual(draw, metric):
 
 
 def wild(draw, metric):
-    """No limit and no clipping keeps such entries out."""
+    """The program neither limits nor clips such entries."""
     pressures = (500, 300000) if metric else (0.1, 40)
     return {
         "Tdb": draw.between(-250, 500), "percent": draw.between(-20, 250), "P": draw.between(*pressures),

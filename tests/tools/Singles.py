@@ -1,6 +1,6 @@
-"""Single precision, the run-time failures and the case files, for the generators beside this file.
+"""Single precision, run-time failures and case files, for the generators in this folder.
 
-Python's float is the double of the rules. What is stored in single precision goes through single().
+A Python float is a double. Values that are stored in single precision go through single().
 """
 
 import math
@@ -13,7 +13,7 @@ DIVISION_BY_ZERO = 11
 
 
 class Failure(Exception):
-    """A failure that ends a calculation, under its number."""
+    """A failure that ends a calculation, with its number."""
 
     def __init__(self, number):
         super().__init__(number)
@@ -41,7 +41,7 @@ def logarithm(value):
 
 
 def next_single(value):
-    """The single next above a positive one."""
+    """The next larger single of a positive one."""
     bits = struct.unpack("<I", struct.pack("<f", value))[0]
     return struct.unpack("<f", struct.pack("<I", bits + 1))[0]
 
@@ -59,7 +59,7 @@ class Draw:
         return single(round(self.between(low, high) * 10) / 10)
 
     def of_any_size(self):
-        """Of either sign, and far outside of what a screen would be given."""
+        """Of either sign, and far outside the range of usual input."""
         size = 10.0 ** (-38.0 + 76.0 * self._random())
         return single(size if self._random() < 0.5 else -size)
 
@@ -68,12 +68,12 @@ class Draw:
 
 
 def number(value):
-    """A number in a case file; nothing for what was not reached."""
+    """A number in a case file; empty if it was not calculated."""
     return "" if value is None else float(value).hex()
 
 
 def write_cases(path, comments, columns, rows):
-    """Writes a file of cases: comments, the names of the columns, a line a case."""
+    """Writes a file of cases: comments, the column names, a line per case."""
     with open(path, "w", encoding="ascii", newline="\n") as file:
         for comment in comments:
             file.write("# " + comment + "\n")

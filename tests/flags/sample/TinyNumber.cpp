@@ -1,4 +1,4 @@
-// Ends with 0 where a number below the smallest normal one is kept.
+// Exits with 0 if a subnormal number is kept.
 
 #include <limits>
 

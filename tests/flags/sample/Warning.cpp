@@ -1,4 +1,4 @@
-// Warned of on purpose.
+// Intentionally causes a compiler warning.
 
 int main(int count, char**)
 {

@@ -1,4 +1,4 @@
-// Sizes, places, colours and names of forms and controls.
+// Sizes, positions, colors and names of forms and controls.
 
 #include "tests/platform/forms/TestForms.h"
 
@@ -129,7 +129,7 @@ TEST_F(FormPlace, StaysOverHidingAndShowing)
 class Colouring : public FormsTest
 {
 protected:
-    /// The colour at the right end of a control, beside its text.
+    /// The color at the right end of a control, beside its text.
     static QColor drawnBack(const Control& control)
     {
         comeToRest();

@@ -1,4 +1,4 @@
-// Buttons by mouse, keyboard, access key and as the default of their form.
+// Buttons: mouse, keyboard, access key, default button.
 
 #include "tests/platform/forms/TestForms.h"
 

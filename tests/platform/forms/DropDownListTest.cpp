@@ -11,7 +11,7 @@ using namespace forms;
 class Lists : public FormsTest
 {
 protected:
-    /// A screen with the two entries, which records what is chosen.
+    /// A screen with a list of two entries, which records the choices.
     static FirstScreen& show()
     {
         FirstScreen& screen = showFirstScreen();
@@ -21,7 +21,7 @@ protected:
         return screen;
     }
 
-    /// How often the list was drawn.
+    /// Counts how often the list is drawn.
     class Drawings : public QObject
     {
     public:
@@ -120,7 +120,7 @@ TEST_F(Lists, RaiseOneClickForAChoiceByTheMouse)
     ASSERT_NE(open, nullptr);
     auto* const entries = open->findChild<QAbstractItemView*>();
     ASSERT_NE(entries, nullptr);
-    QTest::qWait(QApplication::doubleClickInterval() + 50); // a quicker release belongs to the opening click
+    QTest::qWait(QApplication::doubleClickInterval() + 50); // an earlier release belongs to the opening click
     const QPoint place = entries->visualRect(entries->model()->index(1, 0)).center();
     QTest::mouseMove(entries->viewport(), place);
     QTest::mouseClick(entries->viewport(), Qt::LeftButton, Qt::NoModifier, place);

@@ -177,11 +177,11 @@ using EndOfTheProcess = FormsTest;
 
 namespace {
 
-/// Runs the event loop, in which the user does something.
+/// Runs the event loop and the user's action in it.
 int runWith(const Handler& action)
 {
     QTimer::singleShot(0, qApp, action);
-    QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(-1); }); // a test that would hang fails
+    QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(-1); }); // a hanging test fails
     return QApplication::exec();
 }
 
@@ -244,7 +244,7 @@ TEST_F(EndOfTheProcess, ComesWithoutACrashWhereTheToolkitEndsIt)
     showFirstScreen();
     form<FirstDialog>().Show();
     form<SecondScreen>().Show();
-    qputenv("ASAN_OPTIONS", "detect_leaks=0"); // for the process that exits: it leaves the toolkit's memory
+    qputenv("ASAN_OPTIONS", "detect_leaks=0"); // the process that exits doesn't free the toolkit's memory
     EXPECT_EXIT(exitWith(3), testing::ExitedWithCode(3), "");
 }
 

@@ -1,4 +1,4 @@
-// Loading, showing, hiding and unloading, as the author of a form sees it.
+// Loading, showing, hiding and unloading, as a form's author sees them.
 
 #include "tests/platform/forms/TestForms.h"
 

@@ -24,7 +24,7 @@ protected:
         return caller;
     }
 
-    /// A mouse click as the windowing system delivers it, so that a blocked window doesn't get it.
+    /// A mouse click as the windowing system delivers it: a blocked window doesn't receive it.
     static void clickThroughTheSystem(Control& control)
     {
         QWidget* const target = control.widget();
@@ -211,7 +211,7 @@ TEST_F(ModalForm, LetsItsCallerGoOnAlthoughTheCallersFormIsUnloadedMeanwhile)
         form<FirstDialog>().Hide();
     });
     calls.clear();
-    user.click("btnFirst"); // writes into a field of the caller when the dialog is gone
+    user.click("btnFirst"); // writes into a field of the caller after the dialog is closed
     EXPECT_EQ(calls.back(), "after");
     EXPECT_FALSE(isLoaded<FirstScreen>());
     comeToRest();

@@ -1,5 +1,5 @@
-// A form outlives its running handlers, whichever of them unloads it. Most of these tests prove it by going
-// on to use the form after a message box, whose event loop would destroy the form if it were idle.
+// A form outlives its running handlers, whichever of them unloads it. Most of these tests use the form after
+// a message box, whose event loop would destroy the form if it were idle.
 
 #include "tests/platform/forms/TestForms.h"
 
@@ -10,7 +10,7 @@ using namespace forms;
 class UnloadInAHandler : public FormsTest
 {
 protected:
-    /// Unloads the first screen, waits for a message box, and uses the unloaded form.
+    /// Unloads the first screen, waits for a message box, then uses the unloaded form.
     static Handler unloadAndGoOn(FirstScreen& unloaded)
     {
         return [&unloaded] {

@@ -1,4 +1,4 @@
-// Menus, their entries, and commands that stand on the menu bar by themselves.
+// Menus, their entries, and commands directly on the menu bar.
 
 #include "tests/platform/forms/TestForms.h"
 
@@ -10,7 +10,7 @@
 
 using namespace forms;
 
-/// A screen with the kinds of menus that there are.
+/// A screen with every kind of menu.
 class MenuScreen : public Form
 {
 public:
@@ -58,7 +58,7 @@ protected:
 
     static QMenuBar* bar() { return static_cast<QMainWindow*>(form<MenuScreen>().window())->menuBar(); }
 
-    /// Opens a menu by its access key and presses another key in it.
+    /// Opens a menu by its access key and presses another key.
     void pressInMenu(Qt::Key accessKey, Qt::Key key)
     {
         user.key(accessKey, Qt::AltModifier);
@@ -230,7 +230,7 @@ TEST_F(Menus, TakeTurnsWithAButtonOfTheSameAccessKey)
         if (QWidget* const open = QApplication::activePopupWidget()) {
             reached.push_back("menu");
             open->close();
-            screen.Show(); // the offscreen platform leaves the window inactive behind a closed menu
+            screen.Show(); // the offscreen platform leaves the window inactive after a menu closes
             screen.txtFirst.takeFocus();
         } else
             reached.push_back(user.focus());

@@ -16,7 +16,7 @@ class MessageBoxes : public testing::Test
 protected:
     MessageBoxes() { QCoreApplication::setApplicationName("Dunmoor"); }
 
-    /// Shows a message box, looks at it, and closes it as told.
+    /// Shows a message box, inspects it, and closes it in the given way.
     static void show(const std::string& text, const std::string& title,
                      std::function<void(QMessageBox&)> look)
     {
@@ -24,7 +24,7 @@ protected:
         QTimer::singleShot(0, qApp, [&seen, look] {
             auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr);
-            QApplication::processEvents(); // the focus comes with the activation
+            QApplication::processEvents(); // activation moves the focus
             seen = true;
             look(*box);
         });

@@ -1,4 +1,4 @@
-// A form that goes away under a menu, a list or a tip that is open over it.
+// A form closes under an open menu, list or tip.
 
 #include "platform/forms/Picture.h"
 #include "tests/platform/forms/TestForms.h"
@@ -50,7 +50,7 @@ void openContextMenu(Control& control)
     QApplication::sendEvent(control.widget(), &event);
 }
 
-/// Something that opens over a form, and how.
+/// A popup over a form, and how to open it.
 struct Popup
 {
     const char* name;
@@ -80,7 +80,7 @@ class OpenPopup : public FormsTest, public testing::WithParamInterface<Popup>
 protected:
     OpenPopup() { PopupForm::life = {}; }
 
-    /// Does something while the popup is open, also where it waits in a loop of its own.
+    /// Runs an action while the popup is open, even if the popup has its own event loop.
     void under(const Handler& action)
     {
         bool isDone = false;

@@ -1,4 +1,4 @@
-// A picture: when it is painted, and what it keeps.
+// When a picture is painted, and what it caches.
 
 #include "platform/forms/Picture.h"
 #include "tests/platform/forms/TestForms.h"
@@ -47,7 +47,7 @@ protected:
         QWidget* const canvas = form<PictureScreen>().Image1.widget();
         return canvas->grab().toImage().pixelColor(canvas->rect().center());
     }
-    /// Looks at the picture, and waits for it where its window has only just come up.
+    /// Looks at the picture, after its window's first frame if the window has only just appeared.
     static void look()
     {
         EXPECT_TRUE(QTest::qWaitFor([] { return shownColour() == QColor(Qt::red); }));

@@ -31,7 +31,7 @@ inline Handler recorder(const std::string& what)
     return [what] { calls.push_back(what); };
 }
 
-/// Those of the calls that a test asks about.
+/// The recorded calls that a test asks about.
 inline Calls only(std::initializer_list<std::string> asked)
 {
     Calls found;
@@ -40,7 +40,7 @@ inline Calls only(std::initializer_list<std::string> asked)
     return found;
 }
 
-/// What a test adds to the handlers of a form's life.
+/// A test's additions to the life-cycle handlers of a form.
 struct Life
 {
     Handler load;
@@ -49,7 +49,7 @@ struct Life
     Handler unload;
 };
 
-/// A small form that records its life, with a few controls below each other.
+/// A small form with a column of controls that records its life cycle.
 class TestForm : public Form
 {
 public:
@@ -132,7 +132,7 @@ protected:
     }
     ~FormsTest() override { FormRegistry::clear(); }
 
-    /// Shows the first screen and forgets what its life recorded so far.
+    /// Shows the first screen and clears the calls recorded so far.
     static FirstScreen& showFirstScreen()
     {
         form<FirstScreen>().Show();
@@ -141,10 +141,10 @@ protected:
         return form<FirstScreen>();
     }
 
-    /// Lets the toolkit finish: unloaded forms that are idle are destroyed now.
+    /// Lets the toolkit finish: destroys idle unloaded forms.
     static void comeToRest()
     {
-        for (int round = 0; round < 3; ++round) // a layout is handed up in rounds of its own
+        for (int round = 0; round < 3; ++round) // a layout request takes several rounds to reach the window
             QApplication::processEvents();
     }
 

@@ -1,4 +1,4 @@
-// Change is raised at once, inside the writer's call, whenever the text really changes.
+// Change is raised immediately, inside the caller's write, when the text really changes.
 
 #include "tests/platform/forms/TestForms.h"
 
@@ -9,7 +9,7 @@ using namespace forms;
 class FieldChange : public FormsTest
 {
 protected:
-    /// Records the text that a field has when its Change runs.
+    /// Records the field's text when Change runs.
     static void recordChanges(TextField& field)
     {
         field.onChange(

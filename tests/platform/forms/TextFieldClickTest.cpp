@@ -1,4 +1,4 @@
-// Click and MouseDown of a text field come from the mouse alone.
+// Only the mouse raises Click and MouseDown of a text field.
 
 #include "tests/platform/forms/TestForms.h"
 
@@ -53,7 +53,7 @@ TEST_F(FieldClick, DoesNotComeWithTheTabKey)
 {
     FirstScreen& screen = showRecordingScreen();
     screen.Combo1.takeFocus();
-    user.key(Qt::Key_Tab); // from the last control around to the first
+    user.key(Qt::Key_Tab); // wraps from the last control to the first
     EXPECT_EQ(user.focus(), "txtFirst");
     EXPECT_TRUE(calls.empty());
 }

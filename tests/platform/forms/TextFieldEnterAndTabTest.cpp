@@ -7,7 +7,7 @@ using namespace forms;
 class FieldEnterAndTab : public FormsTest
 {
 protected:
-    /// A screen with "70" in its first field, which lets every key pass and records it.
+    /// A screen with "70" in its first field, which accepts and records every key.
     FirstScreen& showPassing()
     {
         FirstScreen& screen = showFirstScreen();

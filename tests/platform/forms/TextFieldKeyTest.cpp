@@ -1,4 +1,4 @@
-// KeyPress runs before a key edits the text, and may keep it from doing so.
+// KeyPress runs before a key edits the text, and may prevent the edit.
 
 #include "platform/forms/LineEdit.h"
 #include "tests/platform/forms/TestForms.h"
@@ -17,7 +17,7 @@ using namespace forms;
 class FieldKeys : public FormsTest
 {
 protected:
-    /// A screen with "70" in its first field, which records the keys that it is asked about.
+    /// A screen with "70" in its first field, which records the keys of its KeyPress handler.
     FirstScreen& show(bool swallowing)
     {
         FirstScreen& screen = showFirstScreen();
@@ -53,21 +53,21 @@ protected:
         QApplication::sendEvent(&edit(), &event);
     }
 
-    /// A key that stands on some keyboards for an action and is no character.
+    /// A key that some keyboards have for an action and that is not a character.
     void pressActionKey(Qt::Key key)
     {
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
         QApplication::sendEvent(&edit(), &event);
     }
 
-    /// A key as a keyboard gives it: what it types beside its name, which need not be the same letter.
+    /// A key as a keyboard sends it: its text may differ from its name.
     void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text)
     {
         QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
         QApplication::sendEvent(&edit(), &event);
     }
 
-    /// Opens the context menu and chooses an entry of it, if it is there to be chosen.
+    /// Opens the context menu and chooses an entry if it is enabled.
     void chooseFromContextMenu(const QString& caption)
     {
         QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, edit().mapToGlobal(QPoint(5, 5)));
@@ -283,7 +283,7 @@ TEST_F(FieldKeys, DoNothingWithCtrlAltOrMetaAndALetterThatIsNoCommand)
           Qt::MetaModifier | Qt::ControlModifier | Qt::AltModifier}) {
         pressKey(Qt::Key_J, held, "j");
         pressKey(Qt::Key_5, held, "5");
-        pressKey(Qt::Key_M, held, "\r"); // what some systems give for Ctrl+M: no Enter
+        pressKey(Qt::Key_M, held, "\r"); // some systems send this for Ctrl+M; it is not Enter
     }
     EXPECT_EQ(user.text("txtFirst"), "70");
     EXPECT_TRUE(keys.empty());
@@ -297,7 +297,7 @@ TEST_F(FieldKeys, TypeWithAltGrHoweverTheSystemReportsIt)
     pressKey(Qt::Key_5, Qt::NoModifier, "\u00BD");
     pressKey(Qt::Key_5, Qt::GroupSwitchModifier, "\u00BC");
     pressKey(Qt::Key_5, Qt::ControlModifier | Qt::AltModifier, "\u00BE");
-    pressKey(Qt::Key_J, Qt::ControlModifier | Qt::AltModifier, "\n"); // Ctrl+Alt that is no AltGr
+    pressKey(Qt::Key_J, Qt::ControlModifier | Qt::AltModifier, "\n"); // Ctrl+Alt that is not AltGr
     EXPECT_EQ(user.text("txtFirst"), "\u00BD\u00BC\u00BE");
     EXPECT_EQ(keys, (std::vector{0xBD, 0xBC, 0xBE}));
 }

@@ -17,26 +17,25 @@
 
 using namespace help;
 
-/// Reads help files that are damaged, as a reader would: the first page, every page and picture that is not
-/// as it was, the contents, the index, a search, all in a help window that is on the screen. Nothing of that
-/// may crash or hang. The file that the damage is done to may be any.
+/// Reads damaged help files in a visible help window, as a reader would: the first page, every changed page
+/// and picture, the contents, the index, a search. None of that may crash or hang. Works with any help file.
 class DamagedHelp
 {
 public:
     explicit DamagedHelp(const QString& path);
 
-    /// Reads the file so many times with one byte changed, each time another.
+    /// Reads the file the given number of times, each time with a different byte changed.
     void readWithBytesChanged(unsigned seed, int times);
-    /// Reads each beginning of the file that is a multiple of the step long, of those between two lengths.
+    /// Reads truncations of the file: lengths between the two limits, in the given step.
     void readBeginnings(qsizetype from, qsizetype to, qsizetype step);
     void read(const QByteArray& bytes);
 
     qsizetype size() const { return whole.size(); }
-    int readable = 0;     ///< of the damaged files, those that could be opened
-    int unreadable = 0;   ///< and the others
-    int damagedPages = 0; ///< of those that could be opened
+    int readable = 0;     ///< damaged files that could be opened
+    int unreadable = 0;   ///< damaged files that could not
+    int damagedPages = 0; ///< in the files that could be opened
 
-    /// The most memory that this process has used so far, in MiB.
+    /// The peak memory of this process, in MiB.
     static long mostMemory();
 
 private:
@@ -107,5 +106,5 @@ inline void DamagedHelp::readInWindow(const std::shared_ptr<const HelpBook>& boo
     search->setText("air");
     QTest::keyClick(search, Qt::Key_Return);
     QTest::keyClick(window.findChild<QWidget*>("helpSearchResults"), Qt::Key_Return);
-    QApplication::processEvents(); // it is painted, too
+    QApplication::processEvents(); // also paints it
 }

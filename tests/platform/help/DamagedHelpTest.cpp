@@ -1,4 +1,4 @@
-// No damage to a help file brings the program down.
+// No damage to a help file crashes the program.
 
 #include "tests/platform/help/DamagedHelp.h"
 
@@ -8,9 +8,9 @@ using namespace help;
 
 namespace {
 
-/// Far more than a help file of some 20 KB needs, and far less than a size out of it could ask for.
+/// Far more than a help file of 20 KB needs, far less than a damaged size field could request.
 #ifdef __SANITIZE_ADDRESS__
-constexpr long enoughMemory = 1000; // MiB; what is freed stays in quarantine for a while
+constexpr long enoughMemory = 1000; // MiB; freed memory stays in quarantine for a while
 #else
 constexpr long enoughMemory = 100; // MiB
 #endif

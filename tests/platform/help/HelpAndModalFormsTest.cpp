@@ -1,4 +1,5 @@
-// The help window among the forms: it can be read while one waits, and outlives the one that asked.
+// The help window and the forms: it can be read while a modal form waits, and outlives the form that opened
+// it.
 
 #include "tests/platform/forms/TestForms.h"
 #include "tests/platform/help/HelpTest.h"
@@ -29,7 +30,7 @@ protected:
         comeToRest();
     }
 
-    /// A click as the window system brings it: a window that is blocked doesn't get it.
+    /// A click as the windowing system delivers it: a blocked window doesn't receive it.
     static void clickTheWindow(QWidget& widget)
     {
         QTest::mouseClick(help().windowHandle(), Qt::LeftButton, Qt::NoModifier,
@@ -44,7 +45,7 @@ protected:
         EXPECT_EQ(page().textSize(), 0);
     }
 
-    /// Shows the modal form and does something while it waits.
+    /// Shows the modal form and runs actions while it waits.
     void whileTheDialogWaits(const std::function<void()>& actions)
     {
         bool isDone = false;

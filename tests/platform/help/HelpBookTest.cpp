@@ -1,4 +1,4 @@
-// A help file as a book: title, topics, contents, index, pages.
+// The parts of a help file: title, topics, contents, index, pages.
 
 #include "platform/help/HelpBook.h"
 #include "platform/help/HelpSearch.h"

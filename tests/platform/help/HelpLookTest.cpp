@@ -1,4 +1,4 @@
-// How the help looks: on a light and on a dark desktop everything can be read.
+// The look of the help: everything is readable on a light and on a dark desktop.
 
 #include "platform/help/HelpColours.h"
 #include "tests/platform/help/HelpTest.h"
@@ -49,7 +49,7 @@ TEST(HelpColours, AreMeasuredAsTheirFormulaSays)
 class HelpLook : public HelpTest
 {
 protected:
-    /// The colour of a word of the page.
+    /// The color of a word of the page.
     static QColor colourOf(const QString& word)
     {
         const QTextCharFormat format = page().document()->find(word).charFormat();

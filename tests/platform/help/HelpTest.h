@@ -23,14 +23,14 @@
 
 using namespace help;
 
-/// Someone who reads the help that a form has asked for. The help file lies in the working directory.
+/// A reader of the help that a form has opened. The help file is in the working directory.
 class HelpTest : public testing::Test
 {
 protected:
     void SetUp() override
     {
         QGuiApplication::setQuitOnLastWindowClosed(false);
-        delete findHelp(); // of the test before, where both run in one process
+        delete findHelp(); // left by an earlier test if both run in one process
         ASSERT_TRUE(QFile::copy(DUNMOOR_SAMPLE_HELP, folder.filePath("sample.chm")));
         QDir::setCurrent(folder.path());
         form<AnyForm>().Show();
@@ -54,7 +54,7 @@ protected:
         comeToRest();
     }
 
-    /// Shows a page of a help file that holds nothing else, but for some members.
+    /// Shows a page of a help file that contains only this page and the given members.
     static void showPage(const QByteArray& html, const QList<ChmMember>& others = {})
     {
         const QList<ChmMember> members = QList<ChmMember>{{"index.html", html}} + others;
@@ -84,7 +84,7 @@ protected:
         return label.isVisible() ? label.text().toStdString() : "";
     }
 
-    /// Presses a key where the focus is in the help window.
+    /// Presses a key in the focused control of the help window.
     static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         help().activateWindow();
@@ -117,7 +117,7 @@ protected:
         click(*bar, bar->tabRect(which).center());
     }
 
-    /// The lines of a list or tree from top to bottom, as they are shown.
+    /// The visible lines of a list or tree, from top to bottom.
     static std::vector<std::string> lines(const char* view)
     {
         std::vector<std::string> shown;
@@ -141,7 +141,7 @@ protected:
         return part<QAbstractItemView>(view).currentIndex().data().toString().toStdString();
     }
 
-    /// Clicks a link of the page shown by its words.
+    /// Clicks the link with these words on the current page.
     static void clickLink(const QString& words)
     {
         const QTextCursor found = page().document()->find(words);

@@ -1,4 +1,4 @@
-// The help window as its reader uses it, by mouse and by keyboard.
+// The help window as its reader uses it: mouse and keyboard.
 
 #include "tests/platform/Pdf.h"
 #include "tests/platform/help/HelpTest.h"
@@ -211,7 +211,7 @@ TEST_F(HelpWindowTest, SaysThatALinkLeadsNowhere)
 
 TEST_F(HelpWindowTest, OpensMailLinksInTheUsersProgram)
 {
-    QTextBrowser program; // takes the place of the user's
+    QTextBrowser program; // replaces the user's mail program
     QDesktopServices::setUrlHandler("mailto", &program, "setSource");
     clickLink("the support");
     QDesktopServices::unsetUrlHandler("mailto");

@@ -1,4 +1,4 @@
-// The help call: what opens, and what is said when nothing can be opened.
+// The help call: what opens, and the messages when nothing can be opened.
 
 #include "tests/platform/help/HelpTest.h"
 

@@ -1,4 +1,4 @@
-// Pages that the toolkit could not lay out in reasonable time are shown as their text.
+// Pages that are too large to lay out are shown as text.
 
 #include "platform/help/PageLimits.h"
 #include "tests/platform/help/HelpTest.h"
@@ -76,8 +76,7 @@ TEST_F(LargePages, KeepTheirWords)
     EXPECT_EQ(text.count('<'), 6) << "the marks of two paragraphs, one of them in italics";
 }
 
-/// One of the sample's files with some bytes changed, read as a page, as a style sheet and as a contents
-/// page.
+/// A file of the sample with some bytes changed, read as a page, as a style sheet and as a contents page.
 class DamagedPage : public testing::TestWithParam<const char*>
 {};
 
@@ -90,7 +89,7 @@ void readAndLayOut(const QByteArray& bytes)
     document.setDefaultStyleSheet(bytes);
     document.setHtml(book.page("a.html"));
     document.setTextWidth(600);
-    document.size(); // lays it out
+    document.size(); // triggers the layout
 }
 
 TEST_P(DamagedPage, IsReadWithAnyBytesChanged)

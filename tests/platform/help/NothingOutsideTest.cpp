@@ -1,4 +1,4 @@
-// A page of the help reads nothing outside the help file: not to show it, to search, to print or to copy it.
+// A help page reads nothing outside the help file when shown, searched, printed or copied.
 
 #include "tests/platform/help/HelpTest.h"
 
@@ -15,8 +15,8 @@ using namespace help;
 
 namespace {
 
-/// A page that refers to files in the working folder in every way there is, and a watch that sees them
-/// opened.
+/// A page that refers to files in the working folder in every possible way, and a watch that reports when
+/// they are opened.
 class NothingOutside : public HelpTest
 {
 protected:
