@@ -1,7 +1,7 @@
 #include "core/AirSnapshot.h"
 
-// Braces take their initialisers in the order of the fields, so the air volume is converted, and may fail,
-// first.
+// Braced initializers are evaluated in the order of the fields, so the air volume is converted first and may
+// throw.
 AirSnapshot AirSnapshot::of(const MoistAirState& state, const TaggedNumber& airVolume)
 {
     return {.AirVolume = airVolume.asSingle(),

@@ -2,7 +2,7 @@
 
 #include "core/StatePoint.h"
 
-/// A frozen copy of a state. Units are those of the state; TAbs is not kept.
+/// A copy of a state, in the same units and without TAbs.
 struct AirSnapshot
 {
     Single AirVolume = 0;
@@ -24,12 +24,12 @@ struct AirSnapshot
     Single Tdb = 0;
     Single P = 0;
 
-    /// Copies every field, tagged numbers converted to single.
-    /// @throws RunTimeError type mismatch or overflow, also from an air volume that holds a text
+    /// Copies every field and converts tagged numbers to single.
+    /// @throws RunTimeError type mismatch or overflow, also if airVolume holds text that is not a number
     static AirSnapshot of(const MoistAirState& state, const TaggedNumber& airVolume);
 };
 
-// The states that the calculators keep, each until the next one of its name is saved.
+// The saved states of the calculators. Each lasts until the next save replaces it.
 inline AirSnapshot MixedOutsideAir;
 inline AirSnapshot MixedReturnAir;
 inline AirSnapshot MixedResultAir;

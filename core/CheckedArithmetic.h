@@ -2,8 +2,8 @@
 
 #include "core/Single.h"
 
-// The operations that can fail, each with the test that makes it fail at once. Tests of the operands, not of
-// the processor's flags: they can't be moved or dropped by a compiler, and they cost next to nothing.
+// The operations that can fail. Each checks its operands and throws at once. Unlike checks of the processor's
+// flags, these can't be moved or dropped by the compiler. They cost next to nothing.
 
 /// @throws RunTimeError division by zero for any zero divisor, 0 / 0 included
 inline double Quotient(double dividend, double divisor)
@@ -21,7 +21,7 @@ inline double NaturalLogarithm(double value)
     return std::log(value);
 }
 
-/// @throws RunTimeError overflow for an infinity, invalid argument for what is no number
+/// @throws RunTimeError overflow for an infinity, invalid argument for a NaN
 inline double RequireFinite(double value)
 {
     if (!std::isfinite(value)) [[unlikely]]
@@ -29,8 +29,8 @@ inline double RequireFinite(double value)
     return value;
 }
 
-/// The nearest 16-bit integer, halves to even.
-/// @throws RunTimeError overflow outside 16 bits, invalid argument for what is no number
+/// The nearest 16-bit integer; halves round to even.
+/// @throws RunTimeError overflow outside 16 bits, invalid argument for a NaN
 inline std::int16_t RoundToInt16(double value)
 {
     using Limits = std::numeric_limits<std::int16_t>;

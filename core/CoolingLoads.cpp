@@ -17,7 +17,7 @@ struct Band
     double origin;
 };
 
-/// The English bands, each the wet bulb less a number near the ice point.
+/// An English band: the wet bulb minus an offset close to the freezing point.
 constexpr Band less(Single low, Single high, double offset) { return {low, high, 0.0, 1.0, offset}; }
 
 constexpr Band english[] = {
@@ -45,7 +45,7 @@ const Band& firstBandWithout(Single wetBulb, std::span<const Band> bands, const 
     return otherwise;
 }
 
-/// In Btu/h, or in kJ/hr; each operation rounds to single.
+/// Btu/h or kJ/hr. Each operation rounds to single.
 TaggedNumber WetTotal(const TaggedNumber& MassFlow)
 {
     const AirSnapshot& in = CoolingEnteringAir;
@@ -56,7 +56,7 @@ TaggedNumber WetTotal(const TaggedNumber& MassFlow)
     return IsMetric() ? total : total * 60;
 }
 
-/// Held in double throughout. 0.488 is twice 0.244 Btu/(lb F), 2.0426 twice 1.0213 kJ/(kg K).
+/// In double throughout. 0.488 = 2 * 0.244 Btu/(lb F); 2.0426 = 2 * 1.0213 kJ/(kg K).
 TaggedNumber Sensible()
 {
     const AirSnapshot& in = CoolingEnteringAir;
@@ -88,5 +88,5 @@ void CalculateCoolingLoads()
         TotalLoad = SensibleLoad.asSingle();
     else if (IsMetric())
         TotalLoad = RoundToSingle(TotalLoad / 3600.0);
-    LatentLoad = TaggedNumber(static_cast<double>(TotalLoad)) - SensibleLoad; // of a dry coil rounding noise
+    LatentLoad = TaggedNumber(static_cast<double>(TotalLoad)) - SensibleLoad; // rounding noise if dry
 }

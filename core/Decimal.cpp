@@ -31,7 +31,7 @@ Decimal Decimal::shortestOf(Single value)
     return fromScientific({text.data(), end.ptr});
 }
 
-/// Takes apart "-d.ddde-xx".
+/// Parses "-d.ddde-xx".
 Decimal Decimal::fromScientific(std::string_view text)
 {
     Decimal result;
@@ -72,7 +72,7 @@ void Decimal::roundToDigits(int count)
     const bool up = digits[kept] >= '5';
     digits.resize(kept);
     if (up) {
-        digits.erase(digits.find_last_not_of('9') + 1); // nines carry
+        digits.erase(digits.find_last_not_of('9') + 1); // carry past nines
         if (digits.empty()) {
             digits.assign(1, '1');
             ++point;

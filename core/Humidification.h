@@ -2,13 +2,13 @@
 
 #include "core/TaggedNumber.h"
 
-/// Solves the desired air from Tdb, P and RH (a fraction) of StatePoint, on StatePoint itself, and keeps it
-/// in HumidDesiredAir, field by field, with no limits and no shortcut for saturated air. A failure keeps what
-/// was written so far.
-/// @throws RunTimeError of the relations
+/// Solves the desired air in StatePoint from its Tdb, P and RH (a fraction), and stores each result in
+/// HumidDesiredAir at once. There are no limits and no shortcut for saturated air. Results found before a
+/// failure remain.
+/// @throws RunTimeError as the relations
 void SolveDesiredAir();
 
-/// Water to add, lb and gal in English, kg and litres in Metric.
+/// Water to add: lb and gal in English, kg and liters in Metric.
 struct MoistureRequired
 {
     TaggedNumber massPerHour;
@@ -17,9 +17,10 @@ struct MoistureRequired
     TaggedNumber flowPerDay;
 };
 
-/// Moisture that takes an air quantity from HumidOutsideAir to HumidDesiredAir:
+/// Water that brings an air quantity from HumidOutsideAir to HumidDesiredAir (from the water balance in the
+/// ASHRAE Handbook of Fundamentals):
 ///     mass = quantity / v(desired) (W(desired) - W(outside)),  times 60 in English
-/// The 60 turns cubic feet per minute into an hourly quantity; it counts for infiltration as well, which is
-/// an hourly one already. A litre of water is a kilogram, a gallon 8.345 pounds.
+/// The factor of 60 converts cubic feet per minute to an hourly quantity. Intentional: it also applies to
+/// infiltration, which is hourly already. A liter of water has 1 kg, a gallon 8.345 lb.
 /// @throws RunTimeError division by zero, overflow
 MoistureRequired RequiredMoisture(const TaggedNumber& airQuantity);

@@ -17,7 +17,6 @@ enum class Calculator
     Humidification,
 };
 
-/// A state of a run.
 struct RunState
 {
     std::string name; ///< its role in the calculator, for example "entering"
@@ -47,5 +46,5 @@ struct NamedAir
     const AirSnapshot& air;
 };
 
-/// Replaces a calculator's record. Called at the step that completes a run; changes nothing else.
+/// Replaces a calculator's record and nothing else. Called by the step that completes a run.
 void KeepLastRun(Calculator calculator, std::initializer_list<NamedAir> states);

@@ -1,7 +1,7 @@
 #pragma once
 
-// The state of the calculator, the relations of moist air, the solvers, and numbers as text. Mixing, loads
-// and humidification have headers of their own.
+// Includes the calculator's state, the relations of moist air, the solvers, and numbers as text. Mixing,
+// loads and humidification have their own headers.
 
 #include "core/AirSnapshot.h"
 #include "core/CoreMessage.h"

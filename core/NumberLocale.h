@@ -2,13 +2,13 @@
 
 #include <string>
 
-/// How the user's locale writes numbers. Each is one character in UTF-8; an empty group separator means that
-/// the locale has none.
+/// How the user's locale writes numbers. Each member is one UTF-8 character; an empty group separator means
+/// that the locale has none.
 struct NumberLocale
 {
     std::string decimalPoint = ".";
     std::string groupSeparator = ",";
 };
 
-/// The locale in force, set once at start.
+/// The current locale, set once at start.
 inline NumberLocale numberLocale;

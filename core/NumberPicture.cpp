@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A picture taken apart.
+/// A parsed picture.
 struct Picture
 {
     std::size_t leastIntegerDigits = 0;
@@ -21,7 +21,7 @@ struct Picture
 
 bool IsDigitPlace(char c) { return c == '#' || c == '0'; }
 
-/// Reads the places in front of the point: from the first "0" on, every place shows a digit.
+/// Parses the places before the point. From the first "0" on, every place shows a digit.
 void ReadIntegerPlaces(std::string_view part, Picture& picture)
 {
     for (std::size_t i = 0; i < part.size(); ++i) {
@@ -38,7 +38,7 @@ void ReadIntegerPlaces(std::string_view part, Picture& picture)
     }
 }
 
-/// Reads the places behind the point: up to the last "0", every place shows a digit.
+/// Parses the places after the point. Up to the last "0", every place shows a digit.
 void ReadFractionPlaces(std::string_view part, Picture& picture)
 {
     for (const char c : part) {
@@ -100,7 +100,7 @@ std::string Written(Decimal value, const Picture& picture)
     return text;
 }
 
-/// The number that a value stands for; nothing for a text that reads as none.
+/// The number in a value; nullopt if it is text that is not a number.
 std::optional<double> NumberIn(const TaggedNumber& value)
 {
     if (value.kind() != NumberKind::Text)

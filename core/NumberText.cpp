@@ -26,7 +26,7 @@ std::string_view WithoutBlanksAround(std::string_view text)
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-/// Turns a number in the locale's spelling into the plain one, "-123.45e-6", piece by piece.
+/// Converts a number from the locale's spelling to the plain one, such as "-123.45e-6".
 class NumberReader
 {
 public:
@@ -47,7 +47,7 @@ public:
     }
 
 private:
-    /// Drops what the text goes on with; an empty token never matches.
+    /// Skips the token if the rest of the text starts with it. An empty token never matches.
     bool take(std::string_view token)
     {
         if (token.empty() || !rest_.starts_with(token))
@@ -73,7 +73,8 @@ private:
         return count > 0;
     }
 
-    /// Separators may stand anywhere after the first digit: nobody counts them off in threes while typing.
+    /// Accepts group separators anywhere after the first digit: users don't count off groups of three as they
+    /// type.
     bool takeIntegerPart()
     {
         if (!takeDigits())
@@ -105,7 +106,7 @@ private:
     std::string plain_;
 };
 
-/// Whether a number in the plain spelling, known to be too large or too small for a double, is too small.
+/// For a plain number outside the range of a double: true if it is too small, false if it is too large.
 bool IsTooSmall(std::string_view plain)
 {
     const std::size_t exponentAt = std::min(plain.find('e'), plain.size());
@@ -121,7 +122,7 @@ bool IsTooSmall(std::string_view plain)
         if (result.ec == std::errc::result_out_of_range)
             return text.front() == '-';
     }
-    return exponent < firstDigitAt - pointAt; // a sum with the exponent could overflow
+    return exponent < firstDigitAt - pointAt; // adding to the exponent could overflow
 }
 
 bool EqualsIgnoringCase(std::string_view text, std::string_view lowerCase)

@@ -30,7 +30,7 @@ Single SpecificVolumeOf(Single T, Single W, Single P)
 {
     constexpr Single gasConstantMetric = 8314.41F;  // J/(kmol K)
     constexpr Single gasConstantEnglish = 1545.32F; // ft lbf/(lbmol degrees Rankine)
-    constexpr double molarMass = 28.9645;           // of dry air
+    constexpr double molarMass = 28.9645;           // kg/kmol or lb/lbmol, dry air
     constexpr double squareInchesPerSquareFoot = 144.0;
 
     const double moisture = W * 1.6078 + 1.0;
@@ -66,7 +66,7 @@ Single VaporPressureFromHumidityRatio(Single P, Single W)
     return RoundToSingle(Quotient(static_cast<double>(P) * W, W + WaterToAirMassRatio));
 }
 
-// The square of a single is exact in double, so a product gives it without the general power function.
+// The square of a single is exact in double, so a product gives the same bits as std::pow.
 Single DewPointFromVaporPressure(Single pw)
 {
     if (!IsMetric())

@@ -2,7 +2,7 @@
 
 #include <exception>
 
-/// The failures that the calculator knows, under the numbers it reports them by.
+/// The calculator's errors, with the numbers that it reports.
 enum class ErrorNumber : int
 {
     InvalidArgument = 5,
@@ -15,7 +15,7 @@ enum class ErrorNumber : int
     PathNotFound = 76,
 };
 
-/// A failure that leaves a routine at once and travels up to the event handler.
+/// An error that propagates to the event handler.
 class RunTimeError : public std::exception
 {
 public:
@@ -24,12 +24,12 @@ public:
     ErrorNumber error() const noexcept { return error_; }
     int number() const noexcept { return static_cast<int>(error_); }
 
-    /// The text that stands beside the number in a report of the failure, e.g. "Division by zero".
+    /// The text beside the number in an error report, e.g. "Division by zero".
     const char* what() const noexcept override;
 
 private:
     ErrorNumber error_;
 };
 
-/// Throws. Kept out of line, so that the arithmetic that calls it stays small.
+/// Throws. Not inline, so that the arithmetic that calls it stays small.
 [[noreturn]] void Raise(ErrorNumber error);

@@ -3,11 +3,11 @@
 #include "core/Single.h"
 #include "core/StatePoint.h"
 
-/// The coefficients of one branch of the saturation pressure.
+/// The coefficients of one branch of the saturation pressure (see SaturationPressure in core/Relations.h).
 struct SaturationCurve
 {
     bool ice;
-    double c1, c2, c3, c4, c5, c6, c7; // c6 belongs to ice alone
+    double c1, c2, c3, c4, c5, c6, c7; // c6 is for ice only
 };
 
 // clang-format off
@@ -17,8 +17,8 @@ constexpr SaturationCurve IceMetric    {true,  -5674.5359, 6.3925247,  -0.009677
 constexpr SaturationCurve WaterMetric  {false, -5800.2206, 1.3914993,  -0.048640239,  4.1764768e-5,  -1.4452093e-8, 0.0,            6.5459673};
 // clang-format on
 
-/// The branch for an absolute temperature, or nullptr outside them all. The limits are singles: 0 deg C and
-/// 32 deg F, turned into absolute temperatures, are exactly the last ones over ice.
+/// The branch for an absolute temperature; nullptr outside both branches. The limits are singles, so 0 deg C
+/// and 32 deg F, converted to absolute temperatures, are exactly the last values over ice.
 inline const SaturationCurve* SaturationCurveAt(Single T)
 {
     if (IsMetric()) {
@@ -31,9 +31,9 @@ inline const SaturationCurve* SaturationCurveAt(Single T)
     return T <= 491.67F ? &IceEnglish : &WaterEnglish;
 }
 
-/// The natural logarithm of the saturation pressure. Powers are products: a single has 24 bits, so its square
-/// is exact in a double and the others come within a bit of what the general power function gives. No bit of
-/// the pressure, rounded to single, differs.
+/// The natural logarithm of the saturation pressure. Multiplies instead of calling std::pow: a single has 24
+/// bits, so its square is exact in double, and the higher powers are within one bit of std::pow. The
+/// pressure, rounded to single, is the same to the last bit.
 inline double LogSaturationPressure(const SaturationCurve& curve, Single T)
 {
     const double t = T;

@@ -7,7 +7,7 @@
 
 namespace {
 
-// The steps that the solvers share. Each reads the state and writes its result into it at once.
+// Steps that the solvers share. Each reads StatePoint and stores its result there at once.
 
 Single SaturationPressureAtDryBulb() { return SaturationPressure(ToAbsolute(StatePoint.Tdb)); }
 
@@ -45,14 +45,14 @@ void FindVaporPressure()
     StatePoint.Pw = VaporPressureFromHumidityRatio(StatePoint.P.asSingle(), StatePoint.W.asSingle());
 }
 
-/// The regression wants kPa where the state holds Pa.
+/// In Metric, converts the pressure from Pa to kPa for the regression.
 void FindDewPoint()
 {
     const Single pw = IsMetric() ? (StatePoint.Pw / 1000).asSingle() : StatePoint.Pw.asSingle();
     StatePoint.td = DewPointFromVaporPressure(pw);
 }
 
-/// Air as good as saturated needs no search: its wet bulb is the dry bulb, less a hair, kept in double.
+/// Nearly saturated air needs no search: its wet bulb is 0.005 degrees below the dry bulb, stored in double.
 void FindWetBulb()
 {
     if (StatePoint.RH >= 0.999)
@@ -61,8 +61,8 @@ void FindWetBulb()
         StatePoint.Twb = SolveWetBulb(StatePoint.Tdb, StatePoint.W.asSingle(), StatePoint.P.asSingle());
 }
 
-/// Vapour pressure, saturation and relative humidity from a humidity ratio and TAbs.
-/// @return whether the air is above saturation
+/// Vapor pressure, saturation and relative humidity from the humidity ratio and TAbs.
+/// @return true if the air is above saturation
 bool FindHumidityFromRatio()
 {
     FindVaporPressure();
@@ -88,7 +88,7 @@ void SolveFromGrains()
     StatePoint.TAbs = FahrenheitToRankine(StatePoint.Tdb);
     FindSpecificVolume(StatePoint.TAbs);
     FindEnthalpy();
-    StatePoint.td = DewPointFromVaporPressure(StatePoint.Pw.asSingle()); // no division: psi in either mode
+    StatePoint.td = DewPointFromVaporPressure(StatePoint.Pw.asSingle()); // intentional: not in kPa
     FindWetBulb();
 }
 

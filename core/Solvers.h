@@ -1,23 +1,23 @@
 #pragma once
 
-// One solver for each humidity item that a user can enter. The caller has set Tdb, P (psi or Pa) and the item
-// in StatePoint; the solver fills in the rest, each result at once, so that a failure leaves the fields
-// reached by then. All throw RunTimeError as the relations they call.
+// One solver for each humidity item that a user can enter. The caller sets Tdb, P (psi or Pa) and the item in
+// StatePoint; the solver fills in the rest. Each result is stored at once, so results found before a failure
+// remain. All throw RunTimeError as the relations that they call.
 
-/// From Grains. Above saturation it sets GrainsTooHigh, shows a message and returns with SpVol, h, td and Twb
-/// as they were. It works on the scale of English units, which alone offer the item.
+/// From Grains. Above saturation, sets GrainsTooHigh, shows a message and leaves SpVol, h, td and Twb
+/// unchanged. Uses the English temperature scale in both unit modes; only English offers this item.
 void SolveFromGrains();
 
-/// From W. Above saturation it sets HumidityRatioTooHigh, shows a message and returns with Grains, SpVol, h,
-/// td and Twb as they were.
+/// From W. Above saturation, sets HumidityRatioTooHigh, shows a message and leaves Grains, SpVol, h, td and
+/// Twb unchanged.
 void SolveFromW();
 
-/// From Twb. There is no test for saturation and no guard: a wet bulb too far below the dry bulb gives a
-/// negative vapour pressure, which the dew point refuses.
+/// From Twb. Does not check for saturation. A wet bulb too far below the dry bulb gives a negative vapor
+/// pressure, which the dew point relation refuses.
 void SolveFromWetBulb();
 
 /// From td.
 void SolveFromDewPoint();
 
-/// From RH as a percentage, which becomes a fraction between 0.001 and 1.
+/// From RH in percent. Converts it to a fraction and clamps it to between 0.001 and 1.
 void SolveFromRH();

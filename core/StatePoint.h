@@ -4,12 +4,13 @@
 
 #include <string>
 
-/// A moist-air state. No field says whether it is current: a solver overwrites the fields that it computes.
+/// A moist-air state. Nothing marks a field as outdated: a solver overwrites only the fields that it
+/// computes.
 struct MoistAirState
 {
     TaggedNumber Mu;           ///< degree of saturation, W / Ws
-    TaggedNumber Grains;       ///< humidity ratio in grains per lb dry air; kept up in English mode only
-    TaggedNumber RH;           ///< relative humidity, 0 to 1; a percentage until SolveFromRH has read it
+    TaggedNumber Grains;       ///< humidity ratio in grains per lb dry air; updated in English mode only
+    TaggedNumber RH;           ///< relative humidity, 0 to 1; in percent until SolveFromRH converts it
     TaggedNumber SpVol;        ///< specific volume, ft3/lb or m3/kg of dry air
     Single h = 0;              ///< enthalpy, Btu/lb or kJ/kg of dry air
     TaggedNumber PwsDew;       ///< saturation pressure at td, psi or Pa
@@ -22,43 +23,44 @@ struct MoistAirState
     Single TAbs = 0;           ///< Tdb on the absolute scale, degrees Rankine or kelvin
     TaggedNumber td;           ///< dew point, deg F or deg C
     TaggedNumber P;            ///< barometric pressure, psi or Pa
-    TaggedNumber Pw;           ///< partial pressure of the water vapour, psi or Pa
+    TaggedNumber Pw;           ///< partial pressure of the water vapor, psi or Pa
     TaggedNumber Twb;          ///< thermodynamic wet bulb, deg F or deg C
     Single Tdb = 0;            ///< dry bulb, deg F or deg C
 };
 
-/// The state that the whole calculator works on. It outlasts the screens.
+/// The working state of all calculators. It outlives the screens.
 inline MoistAirState StatePoint;
 
-/// The unit mode: 0 English (I-P), -1 Metric (SI). Every relation asks it for itself.
+/// The unit mode: 0 English (I-P), -1 Metric (SI). Every relation reads it.
 inline Boolean16 UnitSystem = False16;
 inline bool IsMetric() { return UnitSystem != False16; }
 
 /// The default barometric pressure, in psi or kPa (not Pa).
 inline Single BaroPressure = 0;
 
-/// The air volume last entered, cfm or m3/hr. It may hold the text as typed: its readers convert it.
+/// The last air volume entered, cfm or m3/hr. It can hold the text as typed; its readers convert it.
 inline TaggedNumber AirVolume;
-/// What the air volume dialog offers, when above 0.
+/// The volume that the air volume dialog offers, if above 0.
 inline TaggedNumber AirVolumePreset;
 
-/// The humidity item in force on the current screen: "Wetbulb", "Dew Point", "Rel", "W" or "Grains".
+/// The selected humidity item on the current screen: "Wetbulb", "Dew Point", "Rel", "W" or "Grains".
 inline std::string HumiditySelector;
 
-/// Set to -1 by SolveFromW and SolveFromGrains where the air would be above saturation.
+/// SolveFromW and SolveFromGrains set these to -1 if the air would be above saturation.
 inline Boolean16 HumidityRatioTooHigh = False16;
 inline Boolean16 GrainsTooHigh = False16;
 
-/// The heating load: Btu/hr in English; in Metric kJ/hr until the heating screen has divided it, then kW.
+/// The heating load. English: Btu/hr. Metric: kJ/hr until the heating screen divides it, then kW.
 inline TaggedNumber HeatingLoadValue;
 
-/// Cleared with the state and used by nothing else.
+/// Cleared with the state and not used otherwise.
 inline Single SpareSingle = 0;
 
-/// Zeroes what a screen shows and enters. The pressures of the last calculation (P, Pw, Pws, PwsDew, PwsWet),
-/// Ws and WsWet stay on purpose, and so do the settings, the selector and the two flags.
+/// Sets the state, the air volume and the heating load to 0. Intentional: keeps the pressures of the last
+/// calculation (P, Pw, Pws, PwsDew, PwsWet), Ws and WsWet, as well as the settings, the selector and the two
+/// flags.
 void ClearStatePoint();
 
-/// Reads a text field: an empty text is 0, any other must be a number in the user's locale.
+/// Parses a text field. Empty text is 0; any other text must be a number in the user's locale.
 /// @throws RunTimeError type mismatch, overflow
 Single ParseSingle(const std::string& text);

@@ -12,7 +12,7 @@ constexpr double GreatestInt16 = std::numeric_limits<std::int16_t>::max();
 
 bool IsWide(NumberKind kind) { return kind == NumberKind::Double || kind == NumberKind::Text; }
 
-/// The kind that arithmetic on two numbers gives.
+/// The kind of the result of arithmetic on two numbers.
 NumberKind CommonKind(const TaggedNumber& left, const TaggedNumber& right)
 {
     if (IsWide(left.kind()) || IsWide(right.kind()))
@@ -22,8 +22,8 @@ NumberKind CommonKind(const TaggedNumber& left, const TaggedNumber& right)
     return NumberKind::Int16;
 }
 
-/// Rounds a result, worked out in double, to its kind. Operands of the two narrow kinds have so few digits
-/// that rounding them twice gives what rounding once would.
+/// Rounds a result that was computed in double to its kind. Integers and singles have so few digits that
+/// rounding to double and then to the kind is the same as rounding once.
 TaggedNumber Rounded(double value, NumberKind kind)
 {
     switch (kind) {

@@ -6,7 +6,7 @@
 #include <concepts>
 #include <string>
 
-// GCC takes the enumerator Single, which only NumberKind:: can name, for one that hides the type.
+// GCC warns that the enumerator Single shadows the type, but it is only visible as NumberKind::Single.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wshadow"
 enum class NumberKind
@@ -18,9 +18,9 @@ enum class NumberKind
 };
 #pragma GCC diagnostic pop
 
-/// A value that remembers the kind it was last assigned. Arithmetic follows the kinds of its operands:
-/// two integers give an integer (but a double on division), a single with a single or an integer rounds to
-/// single, and anything with a double or a text is a double.
+/// A value that keeps the kind of its last assignment. The kinds of the operands determine that of a result:
+/// two integers give an integer (a double if divided), a single with a single or an integer gives a single,
+/// and anything with a double or text gives a double.
 class TaggedNumber
 {
 public:
@@ -31,7 +31,7 @@ public:
     TaggedNumber(double value) : kind_(NumberKind::Double), value_(value) {}
     TaggedNumber(std::string text);
     TaggedNumber(const char* text) : TaggedNumber(std::string(text)) {}
-    TaggedNumber(bool) = delete; ///< booleans of the calculator are 16-bit integers
+    TaggedNumber(bool) = delete; ///< the calculator's booleans are 16-bit integers
 
     template <std::same_as<bool> Boolean>
     TaggedNumber& operator=(Boolean value) = delete;
@@ -40,17 +40,17 @@ public:
     TaggedNumber& operator=(double value) { return hold(NumberKind::Double, value); }
 
     NumberKind kind() const { return kind_; }
-    const std::string& text() const { return text_; } ///< the text as it was assigned; empty for a number
+    const std::string& text() const { return text_; } ///< the text as assigned; empty for a number
 
-    /// The value as held. A text is read as a number here.
-    /// @throws RunTimeError type mismatch for a text that is no number, an empty one included
+    /// The exact value. Text is parsed here.
+    /// @throws RunTimeError as ParseDouble, if the value is text
     double asDouble() const { return kind_ == NumberKind::Text ? numberInText() : value_; }
 
-    /// The value as an equation reads it, rounded to single.
+    /// The value rounded to single, as the equations use it.
     /// @throws RunTimeError as asDouble(), and overflow
     Single asSingle() const { return RoundToSingle(asDouble()); }
 
-    /// The nearest 16-bit integer, halves to even.
+    /// The nearest 16-bit integer; halves round to even.
     /// @throws RunTimeError as asDouble(), and overflow
     std::int16_t asInt16() const;
 
@@ -60,7 +60,7 @@ public:
     friend TaggedNumber operator*(const TaggedNumber& left, const TaggedNumber& right);
     friend TaggedNumber operator/(const TaggedNumber& left, const TaggedNumber& right);
 
-    /// Comparisons look at the value as held, without rounding it to single.
+    /// Comparisons use the exact value, without rounding it to single.
     friend std::partial_ordering operator<=>(const TaggedNumber& left, double right)
     {
         return left.asDouble() <=> right;

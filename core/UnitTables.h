@@ -3,8 +3,8 @@
 #include <array>
 #include <string>
 
-/// Unit labels of the reports: slot 0 English, slot 1 Metric, slot 2 never filled. The texts carry their
-/// leading blank. The screens spell their own labels differently.
+/// Unit labels of the reports: slot 0 is English, slot 1 Metric, slot 2 always empty. Each label starts with
+/// a blank. The screens have their own spellings.
 using UnitTable = std::array<std::string, 3>;
 
 inline UnitTable TempUnit;
@@ -14,9 +14,9 @@ inline UnitTable EnergyUnit;
 inline UnitTable AirVolumeUnit;
 inline UnitTable HumidityUnit;
 
-/// Fills slots 0 and 1 of the six tables. They are empty before.
+/// Fills slots 0 and 1 of the six tables, which start empty.
 void FillUnitTables();
 
-/// The label of the unit mode in force.
-/// @throws std::out_of_range where the unit mode is neither 0 nor -1 nor within the table
+/// The label for the current unit mode.
+/// @throws std::out_of_range if the magnitude of UnitSystem is above 2
 const std::string& UnitLabel(const UnitTable& table);

@@ -2,14 +2,14 @@
 
 #include "core/StatePoint.h"
 
-/// The heat balance at a wet bulb: W = (latent Ws* - sensible) / divisor.
+/// The heat balance at a wet bulb, W = (latent Ws* - sensible) / divisor (see HumidityRatioFromWetBulb).
 struct WetBulbBalance
 {
     double latent;
     double sensible;
     double divisor;
 
-    // The latent heat of the English equation is 1093.0 here, not the 1061.0 of the enthalpy.
+    // The latent heat in English units is 1093.0 here, not 1061.0 as in EnthalpyOf.
     WetBulbBalance(Single twb, Single tdb)
     {
         const double depression = static_cast<double>(tdb) - twb;

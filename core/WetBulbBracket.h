@@ -3,8 +3,8 @@
 #include "core/CheckedArithmetic.h"
 #include "core/StatePoint.h"
 
-/// The interval that the wet bulb search halves, with its tests for the end. Its numbers are singles and are
-/// rounded each time they are stored.
+/// The bracket of the wet bulb bisection, with its stopping tests. Its values are singles, rounded each time
+/// they are stored.
 struct WetBulbBracket
 {
     Single upper;
@@ -18,10 +18,10 @@ struct WetBulbBracket
           mid(midpoint())
     {}
 
-    /// Takes the half in which the residuals change their sign.
+    /// Keeps the half in which the residual changes sign.
     /// @param product  of the residuals at mid and at lower, not 0
-    /// @return         whether the search ends with the new midpoint
-    /// @throws RunTimeError division by zero where the new midpoint is exactly 0
+    /// @return         true if the search ends with the new midpoint
+    /// @throws RunTimeError division by zero if the new midpoint is exactly 0
     bool narrow(Single product)
     {
         constexpr Single tolerance = 0.01F; // percent of the temperature

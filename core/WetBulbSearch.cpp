@@ -12,9 +12,9 @@ Single WetBulbResidual(Single candidate, Single tdb, Single p, Single w)
     return RoundToSingle(static_cast<double>(candidateW) - w);
 }
 
-// The plain form works out two residuals on every pass. The one at the lower end is known here from the pass
-// that moved that end. The first pass works out the lower one first, as the plain form does, so that a
-// failure is the same one too.
+// Equals PlainSolveWetBulb (tests/core/PlainForms.h), which computes both residuals on every pass. This form
+// keeps the lower residual from the pass that moved the lower end. The first pass computes the lower one
+// first, so that failures are the same, too.
 Single SolveWetBulb(Single tdb, Single w, Single p)
 {
     WetBulbBracket bracket(tdb);
