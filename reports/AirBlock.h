@@ -5,8 +5,8 @@
 
 inline TaggedNumber AsItIs(const TaggedNumber& value) { return value; }
 
-/// The values of an air block: the numbers of a snapshot, or the texts of fields. The two conversions run
-/// when their line is written, so that a failure leaves the lines before it in the report.
+/// The values of an air block: numbers of a snapshot or texts of fields. The two conversions run when their
+/// line is written, so after a failure the report has the lines before it.
 struct AirBlock
 {
     using Conversion = TaggedNumber (*)(const TaggedNumber& value);
@@ -19,12 +19,12 @@ struct AirBlock
     TaggedNumber Grains;
     TaggedNumber SpVol;
     TaggedNumber h;
-    Conversion fractionOf = AsItIs; ///< from RH, as a fraction
-    Conversion shownW = AsItIs;     ///< from W, in lb/lb (English) or g/kg (Metric)
+    Conversion fractionOf = AsItIs; ///< converts RH to a fraction
+    Conversion shownW = AsItIs;     ///< converts W to lb/lb (English) or g/kg (Metric)
 };
 
-/// Lists the properties of the air: eight lines in English mode, seven in Metric, which has no grains.
-/// @throws RunTimeError what a conversion throws
+/// Writes the properties of the air: eight lines in English, seven in Metric, which has no grains.
+/// @throws RunTimeError as the conversions
 void WriteAirBlock(ReportWriter& report, const AirBlock& air);
 
 /// @throws RunTimeError overflow if the humidity ratio in g/kg exceeds the largest single

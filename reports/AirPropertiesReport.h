@@ -9,7 +9,7 @@ namespace forms {
 class Form;
 } // namespace forms
 
-/// What stands in the fields of the air properties calculator.
+/// The texts in the fields of the air properties calculator.
 struct AirPropertiesTexts
 {
     std::string txtTdb;
@@ -22,16 +22,16 @@ struct AirPropertiesTexts
     std::string txth;
 };
 
-// Intentional: printing divides txtRH by 100 in single, saving in double. Only a value at the very edge of a
-// rounding differs.
+// Intentional: printing divides txtRH by 100 in single, saving in double. The reports differ only if a value
+// is right at a rounding boundary.
 TaggedNumber PrintedFraction(const TaggedNumber& txtRH);
 TaggedNumber SavedFraction(const TaggedNumber& txtRH);
 
-/// Writes the field texts, each through a number picture. Only txtRH has to be a number.
-/// @throws RunTimeError type mismatch, overflow, from txtRH; the lines before it are written
+/// Writes the field texts, each formatted by a number picture. Only txtRH must be a number.
+/// @throws RunTimeError type mismatch or overflow, from txtRH; the lines before it are written
 void WriteAirPropertiesReport(ReportWriter& report, const AirPropertiesTexts& fields,
                               AirBlock::Conversion fractionOf);
 
-/// The calculator's two commands (see PrintFrame.h, SaveFrame.h).
+/// The calculator's print and save commands (see PrintFrame.h, SaveFrame.h).
 void PrintAirProperties(const forms::Form& owner, const AirPropertiesTexts& fields);
 void SaveAirProperties(const forms::Form& owner, const AirPropertiesTexts& fields);

@@ -9,7 +9,6 @@ using namespace forms;
 
 namespace {
 
-/// The pictures of the space lines.
 struct SpacePictures
 {
     std::string_view volume;
@@ -38,7 +37,7 @@ void WriteSpace(ReportWriter& report, const HumidityTexts& texts, const SpacePic
     report.rule();
 }
 
-/// @return  the texts, which the report goes on with
+/// @return the texts, for the rest of the report
 HumidityTexts WriteSummary(ReportWriter& report, const ReadHumidityTexts& readTexts,
                            const SpacePictures& pictures)
 {

@@ -9,7 +9,7 @@ namespace forms {
 class Form;
 } // namespace forms
 
-/// What stands in the fields and the unit labels of the humidification requirement.
+/// The texts of the fields and unit labels on the humidification requirement screen.
 struct HumidityTexts
 {
     std::string txtVol;
@@ -28,16 +28,17 @@ struct HumidityTexts
     std::string lblFlowPerDay;
 };
 
-/// Reads them off the form, which makes the form where there is none. So a report asks once, when it has come
-/// to its first line of them, and not at all where it doesn't get that far.
+/// Reads the texts from the form, which creates the form if necessary. A report calls this once, at the first
+/// line that needs the texts, or never if it fails before that.
 using ReadHumidityTexts = std::function<HumidityTexts()>;
 
-/// Write the outside air and the desired air from their snapshots, the rest from the texts, each number
-/// through a picture. The two layouts differ in their empty lines and in the pictures of the space lines.
+/// Write the outside air and the desired air from their snapshots, and the rest from the texts, with each
+/// number formatted by a picture. The layouts differ in their blank lines and in the pictures of the space
+/// lines.
 /// @throws RunTimeError as WriteAirBlock
 void WritePrintedHumidityReport(ReportWriter& report, const ReadHumidityTexts& readTexts);
 void WriteSavedHumidityReport(ReportWriter& report, const ReadHumidityTexts& readTexts);
 
-/// The two commands of both humidification screens (see PrintFrame.h, SaveFrame.h).
+/// The print and save commands of both humidification screens (see PrintFrame.h, SaveFrame.h).
 void PrintHumidity(const forms::Form& owner, const ReadHumidityTexts& readTexts);
 void SaveHumidity(const forms::Form& owner, const ReadHumidityTexts& readTexts);

@@ -45,6 +45,6 @@ void PrintReport(const Form& owner, const std::string& temporaryFile, const Writ
         WriteTemporaryFile(path, writeReport);
         PrintFile(path);
     } catch (const std::exception&) {
-        // Whatever it was, the user sees nothing.
+        // Intentional: failures are not reported.
     }
 }

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// @throws RunTimeError whatever keeps the file from opening
+/// @throws RunTimeError for the reason why the file can't be opened
 std::unique_ptr<QFile> Opened(const std::string& path, QIODevice::OpenMode mode, Links links)
 {
     auto file = std::make_unique<QFile>(QString::fromStdString(path));

@@ -5,20 +5,20 @@
 #include <memory>
 #include <string>
 
-/// File number 1: the text file that every report is written to and read back from, line by line, in the
-/// encoding and with the line end of the user's system. It is one file at a time. Only regular files can be
-/// opened.
+/// File number 1: the text file to which every report is written, and from which it is read back for
+/// printing, line by line. Uses the encoding and line ends of the user's system. Only one file can be open at
+/// a time, and only regular files can be opened.
 class NumberedFile
 {
 public:
-    /// Creates the file, or empties an existing one.
-    /// @throws RunTimeError file already open, path not found, path/file access (for an empty name, too)
+    /// Creates the file or truncates an existing one.
+    /// @throws RunTimeError file already open, path not found, path/file access (also for an empty name)
     void openForOutput(const std::string& path, Links links = Links::Follow);
 
     /// @throws RunTimeError as openForOutput, and file not found
     void openForInput(const std::string& path, Links links = Links::Follow);
 
-    /// Hands the line to the system at once, so that a full disk shows with the line that finds no space.
+    /// Writes and flushes the line, so that a full disk fails at the line that does not fit.
     /// @throws RunTimeError path/file access; the file stays open
     void writeLine(const std::string& line);
 
@@ -34,6 +34,6 @@ private:
     std::unique_ptr<QFile> file;
 };
 
-/// After a failure amid a report it stays open, and no other report is saved or printed until the program
-/// ends.
+/// Intentional: a failure during a report leaves the file open, and no report can be saved or printed until
+/// the program ends.
 inline NumberedFile ReportFile;

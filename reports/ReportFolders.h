@@ -4,13 +4,13 @@
 
 #include <string>
 
-/// The folder that the report folders lie below.
+/// The parent of the report folders.
 inline std::string (*ReportsBase)() = ApplicationFolder;
 
-/// The folder that saved reports are proposed for, made where it is missing.
+/// The folder that the save dialog proposes. Created if missing.
 /// @throws RunTimeError path/file access
 std::string DataFolder();
 
-/// The folder of the reports on their way to the printer, made where it is missing.
+/// The folder of the temporary files for printing. Created if missing.
 /// @throws RunTimeError path/file access
 std::string TempFolder();

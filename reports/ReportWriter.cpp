@@ -12,7 +12,7 @@ constexpr std::size_t FarTextColumn = 4;
 
 bool StartsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 
-/// One line, built from left to right. A character counts as one column, however many bytes it has in UTF-8.
+/// A line, built from left to right. Each character counts as one column, regardless of its length in UTF-8.
 class Line
 {
 public:
@@ -25,7 +25,7 @@ public:
         return *this;
     }
 
-    /// Pads to the first print zone beyond the current column.
+    /// Pads to the first print zone after the current column.
     Line& PrintZone()
     {
         const std::size_t zonesBegun = (column_ - 1) / ZoneWidth + 1;

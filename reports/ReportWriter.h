@@ -6,13 +6,13 @@
 #include <string>
 #include <string_view>
 
-/// Writes a report line by line, in the forms that all reports consist of. The first column is 1. The print
-/// zones begin at the columns 1, 15, 29, 43, 57 and on: every 14 columns. Labels bring their " = " along,
-/// units their leading blank.
+/// Writes a report line by line, in the line formats that all reports share. Columns count from 1. The print
+/// zones begin at columns 1, 15, 29, 43, 57 and so on, every 14 columns. Labels include their " = ", units
+/// their leading blank.
 class ReportWriter
 {
 public:
-    /// Takes a finished line, without its line end.
+    /// Receives a finished line, without its line end.
     using TakeLine = std::function<void(const std::string& line)>;
     using ReadDate = std::string (*)();
 
@@ -21,19 +21,19 @@ public:
     {}
 
     void blankLines(int count);
-    /// Today's date from column 40 on, read again for each such line.
+    /// Today's date at column 40. Reads the date anew for each line.
     void dateLine();
-    /// A text from column 2 on.
+    /// Text at column 2.
     void heading(std::string_view text);
     /// 37 hyphens under a heading.
     void rule();
-    /// A label from column 2 on, the value and the unit each in the next print zone. The zone of an empty
+    /// A label at column 2, then the value and the unit, each in the next print zone. The zone of an empty
     /// value stays empty.
     void labelAndValue(std::string_view label, std::string_view value);
     void labelValueAndUnit(std::string_view label, std::string_view value, std::string_view unit);
-    /// A value from column 2 on, its unit in the next print zone.
+    /// A value at column 2, its unit in the next print zone.
     void valueAndUnit(std::string_view value, std::string_view unit);
-    /// A text from column 4 on. An empty one leaves its padding as trailing blanks.
+    /// Text at column 4. Empty text leaves its padding as trailing blanks.
     void column4Line(std::string_view text);
     void column4DateLine();
     void emptyColumn4Lines(int count);
@@ -43,5 +43,5 @@ private:
     ReadDate today;
 };
 
-/// A report, as a frame asks for it.
+/// Writes a report. PrintReport and SaveReport call it.
 using WriteReport = std::function<void(ReportWriter& report)>;

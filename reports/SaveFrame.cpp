@@ -15,11 +15,11 @@ void SaveReport(const Form& owner, const std::string& title, const WriteReport& 
     try {
         const std::string folder = DataFolder();
         const std::string name = ShowSaveDialog(owner, "All Files (*.*)\0*.*\0"sv, title, folder);
-        ReportFile.openForOutput(name); // fails on Cancel, whose name is empty
+        ReportFile.openForOutput(name); // throws on Cancel, which gives an empty name
         ReportWriter report([](const std::string& line) { ReportFile.writeLine(line); });
         writeReport(report);
         ReportFile.close();
     } catch (const std::exception&) {
-        // Whatever it was, the user sees nothing.
+        // Intentional: failures are not reported.
     }
 }

@@ -9,18 +9,18 @@
 #include <cstdint>
 #include <string>
 
-/// The about box: what the program is, who makes it, and how to reach them.
+/// The about box: the program, its makers and how to contact them.
 class About : public forms::Form
 {
 public:
     About();
 
-    /// Starts the system's information viewer, where the registry names one, and says so where there is none.
+    /// Starts the system information viewer that the registry names, or shows a message if there is none.
     static void StartSysInfo(Registry& registry = MachineRegistry());
 
-    /// Reads a value of the registry as text: a string as it stands, a 32-bit number in decimal.
-    /// @param KeyVal  the text; empty where the value can't be read, untouched for a value of another type
-    /// @return        false where the value can't be read
+    /// Reads a registry value as text: a string unchanged, a 32-bit number in decimal.
+    /// @param KeyVal  the text; empty if the value can't be read, unchanged for a value of another type
+    /// @return        false if the value can't be read
     static bool GetKeyValue(std::uint32_t KeyRoot, const std::string& KeyName, const std::string& SubKeyRef,
                             std::string& KeyVal, Registry& registry = MachineRegistry());
 
@@ -35,7 +35,7 @@ private:
     void btnURL_Click();
     void cmdOK_Click();
 
-    int shellResult = 0; ///< of the last link; nothing reads it
+    int shellResult = 0; ///< of the last link; never read
 
     Label lblTitle{*this, "lblTitle"};
     Label lblVersion{*this, "lblVersion"};

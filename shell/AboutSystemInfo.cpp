@@ -1,4 +1,4 @@
-// The about box's way to the system's information viewer. No control of the form leads here.
+// How the about box starts the system information viewer. No control of the form calls this.
 
 #include "platform/Launch.h"
 #include "platform/forms/MsgBox.h"
@@ -12,9 +12,9 @@ namespace {
 
 constexpr const char* viewerKey = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
 constexpr const char* folderKey = R"(SOFTWARE\Microsoft\Shared Tools Location)";
-constexpr std::size_t room = 1024; // characters of a value
+constexpr std::size_t room = 1024; // in characters, for a value
 
-/// The decimal text of a number whose lowest byte stands first, by way of its hexadecimal digits.
+/// The decimal text of a little-endian number, converted by way of its hexadecimal digits.
 std::string decimalText(const std::string& bytes)
 {
     constexpr int hexadecimal = 16;
@@ -22,7 +22,7 @@ std::string decimalText(const std::string& bytes)
     return std::to_string(QByteArray::fromStdString(highestFirst).toHex().toUInt(nullptr, hexadecimal));
 }
 
-/// Closes a key on every way out, also one that was never opened.
+/// Closes a key on every path, even if it was never opened.
 class OpenKey
 {
 public:
@@ -56,7 +56,7 @@ bool About::GetKeyValue(std::uint32_t KeyRoot, const std::string& KeyName, const
     }
     std::string& bytes = value->bytes;
     if (!bytes.empty() && bytes.back() == '\0')
-        bytes.pop_back(); // of a number this is a highest byte of zero
+        bytes.pop_back(); // in a number, this is a highest byte of zero
     if (value->type == RegistryValue::String)
         KeyVal = bytes;
     else if (value->type == RegistryValue::Number)

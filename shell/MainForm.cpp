@@ -94,7 +94,7 @@ void MainForm::Form_Load()
 
 void MainForm::Form_Activate()
 {
-    // Coming back to the menu needs nothing done.
+    // Nothing to do on return to the menu.
 }
 
 void MainForm::Form_QueryUnload(CloseReason reason)
@@ -108,7 +108,7 @@ void MainForm::Form_QueryUnload(CloseReason reason)
 void MainForm::Form_Unload()
 {
     StoreText("Metric_Units", IsMetric() ? "True" : "False");
-    StoreText("Baro_Pressure", PlainText(BaroPressure)); // written for nobody: the options keep the pressure
+    StoreText("Baro_Pressure", PlainText(BaroPressure)); // never read: the options store the pressure
     Unload();
 }
 
@@ -137,5 +137,5 @@ void MainForm::mnuAbout_Click() { ShowAbout(); }
 void MainForm::mnuOptions_Click()
 {
     form<Settings>().ShowModal();
-    Image1.repaint(); // in the units and at the pressure that are in force now
+    Image1.repaint(); // the units or the pressure may have changed
 }

@@ -6,7 +6,7 @@
 #include "platform/forms/Menu.h"
 #include "platform/forms/Picture.h"
 
-/// The main menu: five buttons, one for each calculator. The process ends through this form alone.
+/// The main menu, with one button for each of the five calculators. Only this form ends the process.
 class MainForm : public forms::Form
 {
 public:

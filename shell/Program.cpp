@@ -31,7 +31,7 @@ void StartProgram()
     QIcon icon(":/dunmoor-32.png");
     icon.addFile(":/dunmoor-128.png");
     QGuiApplication::setWindowIcon(icon);
-    QGuiApplication::setQuitOnLastWindowClosed(false); // the main menu alone ends the process
+    QGuiApplication::setQuitOnLastWindowClosed(false); // only the main menu ends the process
 
     IgnoreRelativeFolders();
     const NumberCharacters characters = UserNumberCharacters();
@@ -45,7 +45,7 @@ void StartProgram()
 
 int RunProgram(const char* executable)
 {
-    // The program has no command line; the toolkit's own options are not read either.
+    // The program has no command line. It doesn't read the toolkit's options either.
     int argumentCount = 1;
     std::string name = executable;
     char* arguments[] = {name.data(), nullptr};

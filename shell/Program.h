@@ -5,10 +5,10 @@
 /// The full path of the help file, beside the executable. Set at start.
 inline std::string HelpFile;
 
-/// Prepares the process (locale, messages, failure reports, help file) and shows the main menu. Needs the
-/// toolkit's application object.
+/// Prepares the process (locale, messages, failure reports, help file) and shows the main menu. Requires a
+/// QApplication.
 void StartProgram();
 
-/// The whole run, from the entry to the end of the process.
+/// Runs the program until it ends.
 /// @return the exit status
 int RunProgram(const char* executable);

@@ -9,7 +9,7 @@ using namespace forms;
 
 namespace {
 
-/// What the form does for one entry of its list.
+/// The data for one entry of the form's list.
 struct UnitChoice
 {
     const char* entry;
@@ -21,7 +21,7 @@ struct UnitChoice
     const char* storedFlag;
     const char* storedUnder;
     const char* readFrom;
-    double missing;  ///< what the field shows while nothing is stored
+    double missing;  ///< what the field shows if nothing is stored
     double standard; ///< what "Use Default Settings" sets
 };
 
@@ -34,7 +34,7 @@ constexpr UnitChoice english{
     .refusal = "Please input an atmospheric pressure between 11 and 16 psi.",
     .storedFlag = "False",
     .storedUnder = "Pressure_psi",
-    .readFrom = "Pressure_Psi", // the same key: the store doesn't tell the cases apart
+    .readFrom = "Pressure_Psi", // the same key: the store ignores case
     .missing = defaultPsi,
     .standard = 14.696,
 };
@@ -50,10 +50,10 @@ constexpr UnitChoice metric{
     .storedUnder = "Pressure_kPa",
     .readFrom = "Pressure_kPa",
     .missing = defaultKPa,
-    .standard = 101.325, // another number than for a missing key, and both stand
+    .standard = 101.325, // intentional: differs from the default for a missing key
 };
 
-/// The choice that an entry stands for; none for any other text.
+/// The choice for a list entry; nullptr for any other text.
 const UnitChoice* choiceOf(const std::string& entry)
 {
     for (const UnitChoice* choice : {&english, &metric}) {
@@ -106,7 +106,7 @@ void Settings::Form_Load()
     placeInTheMiddle(2);
 }
 
-/// Shows what is stored for the chosen system, which need not be the pressure in force.
+/// Shows the pressure stored for the chosen unit system, which can differ from the current one.
 void Settings::Combo1_Click()
 {
     const UnitChoice& choice = Combo1.text() == english.entry ? english : metric;
@@ -120,7 +120,7 @@ void Settings::nameField() { nameWithUnit(txtBP, "Barometric pressure", Label1.c
 void Settings::btnOK_Click()
 {
     if (const UnitChoice* const choice = choiceOf(Combo1.text())) {
-        UnitSystem = choice->unitSystem; // before the check: a refused pressure leaves it in force
+        UnitSystem = choice->unitSystem; // intentional: set before the check, so it remains after a refusal
         Label1.setCaption(choice->unit);
         const double pressure = ParseDouble(txtBP.text());
         if (pressure < choice->lowest || pressure > choice->highest) {
@@ -134,7 +134,7 @@ void Settings::btnOK_Click()
     Unload();
 }
 
-/// Saves at once, whether or not the form is cancelled later.
+/// Saves at once. A later Cancel does not undo it.
 void Settings::btnDefault_Click()
 {
     if (const UnitChoice* const choice = choiceOf(Combo1.text())) {

@@ -32,7 +32,7 @@ std::string StoredText(const std::string& key, const std::string& defaultText)
 
 std::string StoredText(const std::string& key, double defaultNumber)
 {
-    return StoredText(key, PlainText(defaultNumber)); // in the locale's form, as the user would have typed it
+    return StoredText(key, PlainText(defaultNumber)); // in the locale's format, as the user would type it
 }
 
 void StoreText(const std::string& key, const std::string& text)
