@@ -69,7 +69,7 @@ void AirPanel::itemClicked(std::initializer_list<TextField*> othersInOrder, cons
         other->clear();
     txth.clear();
     txtSpVol.clear();
-    HumiditySelector = selector; // last: the emptying has selected the other items
+    HumiditySelector = selector; // last, because clearing the other fields selects their items
 }
 
 void AirPanel::txtTwb_Click() { itemClicked({&txtGrains, &txttd, &txtRH, &txtW}, "Wetbulb"); }
@@ -119,7 +119,7 @@ void AirPanel::buildMenus(Menu* ownMenu)
     mnuAbout.onClick([this] { mnuAbout_Click(); });
 }
 
-// On every calculator the search opens this one topic.
+// Intentional: the search opens this topic on every calculator.
 void AirPanel::mnuHSearch_Click() { OpenHelp(*this, HelpTopic::AirProperties); }
 void AirPanel::mnuAbout_Click() { ShowAbout(); }
 

@@ -13,12 +13,12 @@
 #include <map>
 
 /// The air-state panel that the calculators share: a dry bulb, the pressure, one of five humidity items, and
-/// the button that solves the whole state and writes it back into the same fields.
+/// a button that solves the complete state and writes it back to the same fields.
 ///
-/// What differs between the calculators is data: see PanelRules.h.
+/// PanelRules.h describes the differences between the calculators.
 class AirPanel : public forms::Form
 {
-    const PanelRules& rules; // first: the controls take their captions from it
+    const PanelRules& rules; // first, because the controls get their captions from it
 
 protected:
     AirPanel(const std::string& name, const PanelRules& panelRules);
@@ -26,33 +26,33 @@ protected:
     void Form_QueryUnload(CloseReason reason) override;
     void Form_Unload() override;
 
-    // Exit doesn't leave the application: like Main Menu it goes back to the main menu.
+    // Intentional: Exit doesn't leave the application. Like Main Menu, it returns to the main menu.
     virtual void mnuExit_Click();
     virtual void mnuMain1_Click();
     virtual void mnuPrintDialog_Click() = 0;
     virtual void mnuSave_Click() = 0;
 
-    /// Says which of the form's buttons the rules mean by a name.
+    /// Binds a button name in the rules to a button of the form.
     void bind(PanelButton name, Button& button) { ownButtons[name] = &button; }
 
-    /// Puts the menus on the bar, with a form's own menu before the help.
+    /// Adds the menus to the menu bar, with the form's own menu before Help.
     void buildMenus(Menu* ownMenu = nullptr);
 
-    /// Gives the form its size and its place on the screen.
+    /// Sets the form's size and its position on the screen.
     void placeScreen();
-    /// Lays the buttons out in Frame5, from the top.
+    /// Lays out the buttons in Frame5, from the top.
     void layOutActions(std::initializer_list<Button*> buttons);
-    /// Lays out the panel's frames, and a further one under the actions, if there is any.
+    /// Lays out the panel's frames and, if given, another one under the actions.
     void layOutFrames(forms::Grid& grid, Frame* underActions = nullptr);
 
-    /// Sets all captions of the unit system in force, shows the pressure and puts the warnings back.
+    /// Sets all captions for the current unit system, shows the pressure and resets the warnings.
     void RepaintForm();
-    /// Writes the state into the fields. Each text that changes selects its own humidity item.
+    /// Writes the state to the fields. Each text that changes selects its humidity item.
     void Results2Form();
 
-    /// What follows results that were shown; not called where the solver refused.
+    /// Called after results are shown; not called if the solver refused the input.
     virtual void afterResults() {}
-    /// What RepaintForm sets on this form besides.
+    /// Called by RepaintForm for the form's own controls.
     virtual void repaintExtras() {}
 
     Frame Frame5{*this, "Frame5", rules.actions};
@@ -64,7 +64,7 @@ protected:
     TextField txtTdb{*this, "txtTdb"};
     Label lblTdb2{*this, "lblTdb2"};
     Label lblP1{*this, rules.labels.pressure.name, rules.labels.pressure.caption};
-    Label txtP{*this, "txtP"}; // a label: the pressure is changed in the options alone
+    Label txtP{*this, "txtP"}; // a label: only the options change the pressure
     Label lblP2{*this, "lblP2"};
 
     Label lblTwb1{*this, rules.labels.wetBulb.name, rules.labels.wetBulb.caption};

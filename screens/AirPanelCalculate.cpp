@@ -1,4 +1,4 @@
-// The calculation of the air-state panel: ranges, clips with their warnings, and the solver of the item.
+// The calculation of the air-state panel: ranges, clips and their warnings, and the solver for the item.
 
 #include "core/MainMod.h"
 #include "core/NumberText.h"
@@ -14,7 +14,7 @@ constexpr Single lowestTdb = -40.0F;
 constexpr Single highestTdb = 125.0F;
 constexpr Single highestMetricTdb = 50.0F;
 
-/// Puts a clipped item's text into its field and says so beside it.
+/// Shows a clipped value in its field, with a warning beside it.
 void showClip(TextField& field, const std::string& text, Label& unit, const char* warning)
 {
     field.setText(text);
@@ -51,7 +51,7 @@ void AirPanel::calculate()
         return;
     }
     readPressure();
-    // From above 50 up to 125 degrees Metric refuses with the other message.
+    // Metric refuses temperatures above 50 and up to 125 degrees with a different message.
     if (IsMetric() && rules.limitsMetricTdb && StatePoint.Tdb > highestMetricTdb) {
         refuseInput();
         return;
@@ -60,7 +60,7 @@ void AirPanel::calculate()
         finishCalculation();
 }
 
-/// Runs after a refused humidity ratio as well, so that the user can go on with the refused state.
+/// Also runs after a refused humidity ratio, so that the user can continue with the refused state.
 void AirPanel::finishCalculation()
 {
     setEnabled(rules.offAfterwards, false);
@@ -81,7 +81,7 @@ void AirPanel::readPressure()
     StatePoint.P = IsMetric() ? RoundToSingle(shown * 1000.0) : shown;
 }
 
-/// False where no item is selected: then nothing is done.
+/// Returns false and does nothing if no item is selected.
 bool AirPanel::solveSelectedItem()
 {
     if (HumiditySelector == "Wetbulb")
@@ -140,7 +140,7 @@ void AirPanel::solveHumidityRatioItem()
 {
     const Single shown = ParseSingle(txtW.text());
     StatePoint.W = IsMetric() ? RoundToSingle(shown / 1000.0) : shown;
-    if (StatePoint.W <= 0.00001) { // kg/kg in Metric too, and the text is that figure
+    if (StatePoint.W <= 0.00001) { // intentional: kg/kg in Metric, too, and shown as such
         StatePoint.W = 0.00001;
         showClip(txtW, PlainText(StatePoint.W), lblW2, " W clipped at 0.00001");
     }

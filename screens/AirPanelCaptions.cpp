@@ -1,4 +1,4 @@
-// How the air-state panel looks: its captions and colours by unit system, its rows, its spoken names.
+// The appearance of the air-state panel: captions and colors by unit system, rows, and accessible names.
 
 #include "core/MainMod.h"
 #include "core/NumberText.h"

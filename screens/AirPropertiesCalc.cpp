@@ -22,7 +22,7 @@ void AirPropertiesCalc::layOut()
 
 void AirPropertiesCalc::Form_Load()
 {
-    MakeCurrentDirectory(ApplicationFolder()); // the help file is opened by its bare name
+    MakeCurrentDirectory(ApplicationFolder()); // OpenHelp finds the help file there by its name
     placeScreen();
     ClearStatePoint();
     btnCALCULATE.disable();
@@ -31,7 +31,8 @@ void AirPropertiesCalc::Form_Load()
 
 void AirPropertiesCalc::afterResults()
 {
-    // Only what the record needs: a copy of the whole state could fail, and end a calculation that succeeded.
+    // Copies only what the record needs. Copying the complete state could throw after a successful
+    // calculation.
     const AirSnapshot air{.W = StatePoint.W.asSingle(), .Tdb = StatePoint.Tdb, .P = StatePoint.P.asSingle()};
     KeepLastRun(Calculator::AirProperties, {{"air", air}});
 }

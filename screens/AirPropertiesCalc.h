@@ -3,7 +3,7 @@
 #include "reports/AirPropertiesReport.h"
 #include "screens/AirPanel.h"
 
-/// The air properties calculator: the air-state panel by itself.
+/// The air properties calculator: just the air-state panel.
 class AirPropertiesCalc : public AirPanel
 {
 public:

@@ -128,7 +128,7 @@ void Answers1::RepaintForm()
         moveUpPastGrains();
 }
 
-/// Metric has no row of grains: the rows below it and the button move up.
+/// Metric has no grains row: the rows below it and the button move up.
 void Answers1::moveUpPastGrains()
 {
     lblGrainsHead.setCaption(" ");
@@ -194,7 +194,7 @@ void Answers1::Form_QueryUnload(CloseReason reason)
     }
 }
 
-// The calculator beneath stays loaded and hidden: opened again, it is as it was left.
+// The calculator stays loaded and hidden, and keeps its contents.
 void Answers1::mnuExit_Click()
 {
     Unload();
@@ -203,6 +203,6 @@ void Answers1::mnuExit_Click()
 
 void Answers1::mnuPrintResults_Click() { PrintMixedAir(*this); }
 void Answers1::mnuSave2File_Click() { SaveMixedAir(*this); }
-// The page of one air, though the table is the mixed air's.
+// Intentional: opens the page of the air properties calculator.
 void Answers1::mnuHContents_Click() { OpenHelp(*this, HelpTopic::AirProperties); }
 void Answers1::mnuAbout_Click() { ShowAbout(); }

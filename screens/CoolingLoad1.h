@@ -2,8 +2,8 @@
 
 #include "screens/AirPanel.h"
 
-/// The cooling coil calculator. Its four buttons are its whole memory of the step: calculate the entering
-/// air, save it with its volume, set the leaving air, calculate the load.
+/// The cooling coil calculator. Only the enabled buttons record the current step: calculate the entering air,
+/// save it with its volume, set the leaving air, calculate the load.
 class CoolingLoad1 : public AirPanel
 {
 public:

@@ -41,7 +41,7 @@ void CoolingLoad2::layOut()
     Label4.describe(txtLATwb);
 }
 
-// The dialog's right edge meets that of the calculator behind it.
+// The dialog's right edge is aligned with that of the calculator.
 void CoolingLoad2::Form_Load()
 {
     fitToControls();
@@ -56,7 +56,7 @@ void CoolingLoad2::Form_Activate()
     nameWithUnit(txtLATwb, "Leaving air wet bulb", Label5.caption());
 }
 
-// By the close box neither flag changes, so that a former acceptance counts once more.
+// Intentional: the close box leaves both flags unchanged, so an earlier acceptance applies again.
 void CoolingLoad2::Form_QueryUnload(CloseReason reason)
 {
     if (reason == CloseReason::ControlMenu)
@@ -69,7 +69,8 @@ void CoolingLoad2::txtLATdb_Change()
         txtLATwb.clear();
 }
 
-/// Above the dew point no wet bulb is needed. At it none is needed either, but the focus stays.
+/// Skips the wet bulb above the dew point, where it isn't needed. At the dew point it isn't needed either,
+/// but the focus stays.
 void CoolingLoad2::txtLATdb_KeyPress(int& key)
 {
     if (key != Key::Enter && key != Key::Tab)
@@ -93,7 +94,7 @@ void CoolingLoad2::btnOK_Click()
         return;
     }
     const Single d = ParseSingle(txtLATdb.text());
-    const Single w = ParseSingle(txtLATwb.text()); // 0 counts as blank
+    const Single w = ParseSingle(txtLATwb.text()); // 0 means blank
     const Single T = CoolingEnteringAir.Tdb;
     const Single D = CoolingEnteringAir.td;
 
@@ -106,8 +107,8 @@ void CoolingLoad2::btnOK_Click()
     else if (d >= D && d < T)
         acceptWet(d, w, ToAbsolute);
     else if (d < D && d > -40)
-        acceptWet(d, w, FahrenheitToRankine); // in Metric too; the solver works these values out again
-    // Below the dew point and at or below -40 nothing happens, and nothing is said.
+        acceptWet(d, w, FahrenheitToRankine); // in Metric, too; the solver recomputes these values
+    // Intentional: below the dew point, nothing happens at -40 or less.
 }
 
 void CoolingLoad2::acceptDry(Single dryBulb)

@@ -6,8 +6,8 @@
 #include "platform/forms/Label.h"
 #include "platform/forms/TextField.h"
 
-/// The dialog that asks for the air leaving a cooling coil. It sorts the entry against the entering air into
-/// refused, dry or wet, and leaves its verdict and its numbers to the calculator behind it.
+/// The dialog that asks for the air leaving a cooling coil. Compared with the entering air, it refuses the
+/// entry or accepts it as dry or wet, and stores the result for the calculator.
 class CoolingLoad2 : public forms::Form
 {
 public:

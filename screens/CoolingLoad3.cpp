@@ -48,7 +48,7 @@ void CoolingLoad3::layOut()
     grid->setColumnMinimumWidth(Value, widthOfCharacters(Label1, 18));
     for (Label* sign : {&Label4, &Label5})
         sign->setPointSize(12);
-    // Down the sum, not along the indexes of its fields.
+    // In the order of the sum, not of the indexes.
     setTabOrder({&txtcfm1, &txtBTU[1], &txtBTU[2], &txtBTU.front(), &Command1});
 }
 
@@ -58,7 +58,7 @@ void CoolingLoad3::Form_Load()
     RepaintCooling3();
     fitToControls();
     placeInTheMiddle(4);
-    txtcfm1.setText(FormatNumber(AirVolume, "#,###.0#")); // as held: the text of the dialog, or 0
+    txtcfm1.setText(FormatNumber(AirVolume, "#,###.0#")); // the text from the dialog, or 0
 }
 
 void CoolingLoad3::RepaintCooling3()

@@ -9,14 +9,14 @@
 #include <array>
 #include <initializer_list>
 
-/// The summary of the cooling loads: sensible plus latent equals total. The calculator fills its load fields
-/// before it shows; what is typed into them changes nothing elsewhere.
+/// The summary of the cooling loads: sensible plus latent equals total. The calculator fills the load fields
+/// before showing it; editing them has no effect elsewhere.
 class CoolingLoad3 : public forms::Form
 {
 public:
     CoolingLoad3();
 
-    /// 0 the total, 1 the sensible, 2 the latent load: not the order on the screen.
+    /// 0 is the total, 1 the sensible, 2 the latent load. The order on the screen differs.
     std::array<TextField, 3> txtBTU{TextField{*this, "txtBTU(0)"}, TextField{*this, "txtBTU(1)"},
                                     TextField{*this, "txtBTU(2)"}};
 

@@ -53,7 +53,7 @@ void HeatingLoad1::Form_Load()
     nameWithUnit(txtHeatLoad, "Heating load", IsMetric() ? "kW" : "BTU");
 }
 
-// It turns nothing off: the entering air can be saved again with another volume.
+// Disables nothing: the entering air can be saved again with another volume.
 void HeatingLoad1::btnSaveEnteringAir_Click()
 {
     form<cfmForm>().ShowModal();
@@ -63,7 +63,8 @@ void HeatingLoad1::btnSaveEnteringAir_Click()
     txtAirVolume.show();
 }
 
-// An edit reaches the leaving air and the mixed air's record, never the entering air or the load.
+// Intentional: an edit changes the leaving air and the outside air of MixedAir, but not the entering air or
+// the load.
 void HeatingLoad1::txtAirVolume_Change()
 {
     if (txtAirVolume.isEmpty())
@@ -74,7 +75,7 @@ void HeatingLoad1::txtAirVolume_Change()
 
 void HeatingLoad1::txtHeatLoad_KeyPress(int& key) { key = Key::Swallowed; }
 
-// Runs on where the dialog was closed by its box: then Metric divides the load once more.
+// Intentional: continues even if the close box closed the dialog; Metric then divides the load again.
 void HeatingLoad1::btnInputLeavingAir_Click()
 {
     if (txtTdb.isEmpty())
@@ -83,7 +84,7 @@ void HeatingLoad1::btnInputLeavingAir_Click()
         txtTwb.setText("0");
     hasLeavingEntry = false;
     form<HeatingLoad2>().ShowModal();
-    SolveFromW(); // a refusal is not looked at
+    SolveFromW(); // a refusal is ignored
     if (!txtTdb.isEmpty() && !txtW.isEmpty())
         HeatingLeavingAir = AirSnapshot::of(StatePoint, AirVolume);
     showLoad();
@@ -109,7 +110,7 @@ void HeatingLoad1::showLeavingEntry(Single tdb, Single w)
 {
     hasLeavingEntry = true;
     txtTdb.setText(PlainText(tdb));
-    txtW.setText(PlainText(w)); // in Metric kg/kg, where the next calculation reads g/kg
+    txtW.setText(PlainText(w)); // intentional: kg/kg in Metric, although the next calculation reads g/kg
 }
 
 void HeatingLoad1::mnuPrintDialog_Click() { PrintHeating(*this); }

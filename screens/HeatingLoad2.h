@@ -5,7 +5,7 @@
 #include "platform/forms/Label.h"
 #include "platform/forms/TextField.h"
 
-/// The dialog that asks for the temperature of the air leaving a heating coil, and finds the load.
+/// The dialog that asks for the temperature of the air leaving a heating coil and calculates the load.
 class HeatingLoad2 : public forms::Form
 {
 public:

@@ -15,6 +15,6 @@ enum class HelpTopic
     Humidification = 140,
 };
 
-/// Opens the help file at a topic. Its bare name is found from the current directory, which is the
-/// application's once the air properties calculator has been opened.
+/// Opens the help file at a topic. The file is found by its name in the current directory, which is the
+/// application's folder once the air properties calculator has been opened.
 void OpenHelp(forms::Form& form, HelpTopic topic);

@@ -38,12 +38,12 @@ void Humid1::Form_Load()
 
 void Humid1::afterResults() { SaveOutsideAir(); }
 
-/// All fields but the air volume, which this calculator never sets.
+/// Saves all fields except the air volume, which this calculator never sets.
 void Humid1::SaveOutsideAir() { HumidOutsideAir = AirSnapshot::of(StatePoint, HumidOutsideAir.AirVolume); }
 
 void Humid1::btnHumidityDesired_Click() { form<humid2>().ShowModal(); }
 
-// The close box unloads the two forms in the other order than the menus do.
+// The close box unloads the two forms in the opposite order of the menus.
 void Humid1::Form_QueryUnload(CloseReason reason)
 {
     if (reason == CloseReason::ControlMenu) {

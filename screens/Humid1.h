@@ -2,8 +2,8 @@
 
 #include "screens/AirPanel.h"
 
-/// The humidification calculator's first screen: the outside air. humid2 is the second one; it is loaded with
-/// this form and goes with it.
+/// The first screen of the humidification calculator: the outside air. humid2, the second one, is loaded and
+/// unloaded with this form.
 class Humid1 : public AirPanel
 {
 public:
@@ -12,7 +12,7 @@ public:
 protected:
     void Form_Load() override;
     void Form_QueryUnload(CloseReason reason) override;
-    void Form_Unload() override {} // unlike the other calculators' it brings nothing back
+    void Form_Unload() override {} // unlike the other calculators, does not show the main menu
     void afterResults() override;
 
 private:

@@ -41,7 +41,7 @@ void MixedAir::buildReviewMenu()
     mnuReviewReturnAir.onClick([this] { mnuReviewReturnAir_Click(); });
     mnuReview.hide();
     mnuReview.disable();
-    mnuReviewMixedAir.disable(); // for good: the mixture has no review
+    mnuReviewMixedAir.disable(); // permanently: the mixture has no review
 }
 
 void MixedAir::Form_Load()
@@ -70,7 +70,7 @@ void MixedAir::repaintExtras()
     nameWithUnit(txtcfm1, "Outside air volume", unit);
     nameWithUnit(txtcfm2, "Return air volume", unit);
     nameWithUnit(txtCFM, "Total air volume", unit);
-    // A calculation starts here: the grains typed in English are thrown away for those of the last one.
+    // Intentional: a calculation repaints the form first, so in English the last grains replace those typed.
     if (!isMetric)
         txtGrains.setText(PlainText(StatePoint.Grains));
 }

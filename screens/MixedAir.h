@@ -5,7 +5,7 @@
 #include "screens/AirPanel.h"
 
 /// The mixed air calculator: two streams of air, each saved with its volume, and their adiabatic mixture.
-/// The streams and the mixture are process-wide snapshots and outlast the form.
+/// The streams and the mixture are global snapshots and outlive the form.
 class MixedAir : public AirPanel
 {
 public:
@@ -40,7 +40,7 @@ private:
     Frame Frame4{*this, "Frame4", "Air Volumes:"};
     TextField txtcfm1{*this, "txtcfm1"};
     Label lblcfm1{*this, "lblcfm1"};
-    TextField txtcfm2{*this, "txtcfm2"}; // typing here has no effect on any calculation
+    TextField txtcfm2{*this, "txtcfm2"}; // typing here does not affect any calculation
     Label lblcfm2{*this, "lblcfm2"};
     TextField txtCFM{*this, "txtCFM"};
     Label lblcfm3{*this, "lblcfm3"};

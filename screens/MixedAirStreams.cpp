@@ -1,4 +1,4 @@
-// The mixed air calculator's streams: saving them with their volumes, mixing them, reviewing them.
+// The streams of the mixed air calculator: saving them with their volumes, mixing and reviewing them.
 
 #include "core/MainMod.h"
 #include "core/Mixing.h"
@@ -12,7 +12,7 @@ using namespace forms;
 
 namespace {
 
-/// What a solver found, into a stream's snapshot. The fields not named here stay 0.
+/// Copies the solver's results to a stream's snapshot. Fields not named here stay 0.
 void keepSolved(AirSnapshot& stream)
 {
     stream.RH = StatePoint.RH.asSingle();
@@ -34,7 +34,7 @@ void keepState(AirSnapshot& stream)
 
 } // namespace
 
-// Cancel in the dialog saves the stream all the same, with a volume of 0.
+// Intentional: Cancel in the dialog still saves the stream, with a volume of 0.
 void MixedAir::btnSaveOSA_Click()
 {
     form<cfmForm>().ShowModal();
@@ -54,8 +54,8 @@ void MixedAir::btnSaveOSA_Click()
     btnMixedAir.enable();
 }
 
-// The return air sets no caption and shows no volumes: only the outside air does. It alone offers its last
-// volume again.
+// Intentional: unlike the outside air, the return air sets no caption and doesn't show the volumes. Only the
+// return air offers its last volume again.
 void MixedAir::btnRA_Click()
 {
     if (MixedReturnAir.AirVolume > 0)
@@ -85,11 +85,11 @@ void MixedAir::btnMixedAir_Click()
     try {
         mix();
     } catch (const RunTimeError&) {
-        // A missing stream divides by zero: nothing more happens, and nothing is said.
+        // Intentional: a missing stream divides by zero, and the failure is not reported.
     }
 }
 
-// The volumes are added as they are; the mixed volume is not derived from the mixed density.
+// The mixed volume is the sum of the volumes, not derived from the mixed density.
 void MixedAir::mix()
 {
     const AirSnapshot& outside = MixedOutsideAir;
@@ -109,7 +109,7 @@ void MixedAir::mix()
     txtTdb.setText(PlainText(StatePoint.Tdb));
     txtCFM.setText(PlainText(MixedResultAir.AirVolume));
 
-    SolveFromW(); // at the pressure of the last calculation; a refusal is not looked at
+    SolveFromW(); // at the pressure of the last calculation; a refusal is ignored
     keepState(MixedResultAir);
     KeepLastRun(Calculator::MixedAir,
                 {{"outside", MixedOutsideAir}, {"return", MixedReturnAir}, {"mix", MixedResultAir}});
@@ -132,7 +132,7 @@ void MixedAir::showStream(const AirSnapshot& stream, TextField& volume)
     txtW.setText(PlainText(stream.W));
     StatePoint.Tdb = stream.Tdb;
     StatePoint.W = stream.W;
-    SolveFromW(); // fails for a stream that was never saved, and nothing guards against it
+    SolveFromW(); // intentional: fails if the stream was never saved
 }
 
 void MixedAir::mnuReviewOutsideAir_Click()
@@ -145,7 +145,7 @@ void MixedAir::mnuReviewOutsideAir_Click()
 void MixedAir::mnuReviewReturnAir_Click()
 {
     showStream(MixedReturnAir, txtcfm2);
-    txtCFM.clear(); // the outside air's review leaves it alone
+    txtCFM.clear(); // the review of the outside air keeps it
     keepSolved(MixedReturnAir);
     Results2Form();
 }

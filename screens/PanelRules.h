@@ -14,14 +14,14 @@ struct ByUnits
     double value(bool isMetric) const { return isMetric ? metric : english; }
 };
 
-/// The label in front of a field.
+/// The label before a field.
 struct RowLabel
 {
     const char* name;
     const char* caption;
 };
 
-/// The entry that opens the calculator's own page of the help.
+/// The menu entry that opens the calculator's help page.
 struct HelpEntry
 {
     const char* name;
@@ -43,7 +43,7 @@ struct PanelLabels
     RowLabel specificVolume;
 };
 
-/// The buttons that the rules name. Each form binds its own (see AirPanel::bind).
+/// The names of buttons in the rules. Each form binds its own buttons (see AirPanel::bind).
 enum class PanelButton
 {
     None,
@@ -59,10 +59,10 @@ enum class PanelButton
     btnHumidityDesired,
 };
 
-/// Unused places hold None.
+/// Unused elements are None.
 using PanelButtons = std::array<PanelButton, 3>;
 
-/// In what the calculators with an air-state panel differ: one row for each form.
+/// The differences between the calculators with an air-state panel, one set for each form.
 struct PanelRules
 {
     std::string_view captionEnglish;
@@ -74,29 +74,30 @@ struct PanelRules
     HelpEntry helpEntry; ///< in the help menu
     const char* searchCaption;
     const char* saveCaption;
-    const char* fileSeparator; ///< the name of the line before Exit
+    const char* fileSeparator; ///< the name of the separator before Exit
     const char* actions;
     const char* dryBulbFrame;
 
-    /// Whether all five humidity fields have a change handler, or the wet bulb and the dew point alone.
+    /// True if all five humidity fields have a change handler; false if only the wet bulb and the dew point
+    /// do.
     bool allItemsTellChanges;
-    /// Whether Enter leads from the dry bulb to the wet bulb, and pressing the mouse on the relative humidity
-    /// or the grains already selects them.
+    /// True if Enter moves from the dry bulb to the wet bulb, and a mouse press selects the relative humidity
+    /// or the grains before the click.
     bool hasEntryShortcuts;
-    /// Whether a click on the dry bulb throws its value away.
+    /// True if a click on the dry bulb clears it.
     bool clickEmptiesTdb;
-    /// Whether Metric refuses a dry bulb above 50 degrees.
+    /// True if Metric refuses a dry bulb above 50 degrees.
     bool limitsMetricTdb;
-    /// How far below the dry bulb a wet bulb or dew point is set that isn't below it.
+    /// A wet bulb or dew point that is not below the dry bulb is set this far below it.
     ByUnits wetBulbClip;
     ByUnits dewPointClip;
 
-    PanelButtons offOnChange;      ///< turned off by the change of a humidity field
-    PanelButtons offOnClick;       ///< turned off by a click on a humidity field
-    PanelButtons offAtCalculation; ///< turned off where a calculation begins
-    PanelButtons offAfterwards;    ///< turned off after the solver, also where it refused
-    PanelButtons onAfterwards;     ///< turned on there
-    PanelButton focusAfterwards;   ///< what then gets the focus
+    PanelButtons offOnChange;      ///< disabled when a humidity field changes
+    PanelButtons offOnClick;       ///< disabled by a click on a humidity field
+    PanelButtons offAtCalculation; ///< disabled when a calculation begins
+    PanelButtons offAfterwards;    ///< disabled after the solver, even if it refused the input
+    PanelButtons onAfterwards;     ///< enabled at the same time
+    PanelButton focusAfterwards;   ///< gets the focus then
 };
 
 inline constexpr PanelLabels plainLabels{
@@ -162,7 +163,7 @@ inline constexpr PanelRules mixedAir{
     .allItemsTellChanges = false,
     .hasEntryShortcuts = false,
     .clickEmptiesTdb = false,
-    .limitsMetricTdb = false, // up to 125 degrees pass in Metric too
+    .limitsMetricTdb = false, // Metric, too, accepts up to 125 degrees
     .wetBulbClip = {.english = 0.1, .metric = 0.05},
     .dewPointClip = {.english = 0.1, .metric = 0.1},
     .offOnChange = {PanelButton::btnRA, PanelButton::btnSaveOSA, PanelButton::btnMixedAir},

@@ -6,7 +6,7 @@ using namespace forms;
 
 namespace {
 
-// Widths that hold the longest text of each column, the clip warnings among the units.
+// Wide enough for the longest text of each column. The clip warnings are in the units column.
 constexpr int captionCharacters = 20;
 constexpr int fieldCharacters = 16;
 constexpr int unitCharacters = 28;

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-/// One row of a frame: a caption, the field that it describes, the unit beside it.
+/// One row of a frame: a caption, its field and the unit beside it.
 struct Row
 {
     forms::Label& caption;
@@ -18,7 +18,7 @@ struct Row
     forms::Label& unit;
 };
 
-/// A field with its unit alone.
+/// A field and its unit, without a caption.
 struct Pair
 {
     forms::TextField& field;
@@ -28,21 +28,21 @@ struct Pair
 /// Adds one row to a grid of captions, fields and units.
 void addRow(forms::Grid& grid, int line, const Row& row);
 
-/// Lays rows out in a frame, so that captions, fields and units of all frames line up.
+/// Lays out rows in a frame. Captions, fields and units of all frames line up.
 void layOutInFrame(forms::Frame& frame, const std::vector<Row>& rows);
 
-/// Lays fields out under one another, each with its unit.
+/// Lays out fields in a column, each with its unit.
 void layOutPairs(forms::Frame& frame, const std::vector<Pair>& pairs);
 
-/// Lays a form out as a frame that holds nothing, whose caption is a line of instruction, above a panel.
+/// Lays out a form as a panel below an empty frame, whose caption is an instruction.
 void layOutBelowBanner(const forms::Form& form, forms::Frame& banner, forms::Grid& panel);
 
-/// The row of buttons at the foot of a dialog: some at its left edge, the others at its right.
+/// The row of buttons at the bottom of a dialog, some at the left edge and some at the right.
 forms::Line* buttonRow(std::initializer_list<forms::Button*> left,
                        std::initializer_list<forms::Button*> right);
 
-/// Gives a field a light back colour, black text on it, and its value the right place.
+/// Gives a field a light background, black text and right alignment.
 void colourEntry(forms::TextField& field, forms::Colour colour);
 
-/// Calls a field by what it is and its unit.
+/// Sets a field's accessible name to its meaning and its unit.
 void nameWithUnit(forms::Control& field, const std::string& what, const std::string& unit);

@@ -1,9 +1,9 @@
 #pragma once
 
-/// What the screens ask of the shell above them; shell/ implements it.
+/// What the screens need from the shell. Implemented in shell/.
 
 /// Shows the main menu, or brings it to the front.
 void ShowMainForm();
 
-/// Shows the about box, and returns when it is closed.
+/// Shows the about box and returns when it is closed.
 void ShowAbout();

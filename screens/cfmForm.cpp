@@ -65,5 +65,5 @@ void cfmForm::btnCancel_Click()
     Hide();
 }
 
-// A dialog of the mixed air calculator first of all, it opens the cooling topic.
+// Intentional: opens the cooling topic for every calculator.
 void cfmForm::mnuSearch_Click() { OpenHelp(*this, HelpTopic::Cooling); }

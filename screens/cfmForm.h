@@ -6,8 +6,8 @@
 #include "platform/forms/Menu.h"
 #include "platform/forms/TextField.h"
 
-/// The dialog that asks for one air volume and leaves the answer in AirVolume: the text as it was typed,
-/// which its readers convert, or the integer 0. Its buttons hide it, so that it offers the same text again.
+/// The dialog that asks for an air volume and stores it in AirVolume: the text as typed, which its readers
+/// convert, or the integer 0. Its buttons only hide it, so it offers the same text next time.
 class cfmForm : public forms::Form
 {
 public:

@@ -69,7 +69,7 @@ void humid2::RepaintHumid2()
     nameFields();
 }
 
-// Any failure ends the handler without a word, and the outputs keep what they showed.
+// Intentional: a failure ends the handler silently, and the outputs keep their texts.
 void humid2::btnCalcHumid_Click()
 {
     try {
@@ -77,7 +77,7 @@ void humid2::btnCalcHumid_Click()
         showMoisture();
         KeepLastRun(Calculator::Humidification, {{"outside", HumidOutsideAir}, {"desired", HumidDesiredAir}});
     } catch (const RunTimeError&) {
-        // What was written before the failure stays.
+        // Results from before the failure remain.
     }
 }
 
@@ -99,7 +99,7 @@ void humid2::showMoisture()
     const TaggedNumber airChanges = ParseSingle(txtAC.text());
     const TaggedNumber infiltration = airChanges * spaceVolume;
     const TaggedNumber outsideAir = ParseSingle(txtOSA.text());
-    const bool outsideAirCounts = outsideAir > infiltration.asDouble(); // a tie takes the infiltration
+    const bool outsideAirCounts = outsideAir > infiltration.asDouble(); // a tie counts as infiltration
     const MoistureRequired moisture = RequiredMoisture(outsideAirCounts ? outsideAir : infiltration);
 
     const char* const massPicture = IsMetric() ? "#0.000" : "#0.00";
@@ -129,7 +129,7 @@ HumidityTexts humid2::texts() const
 
 void humid2::btnOK_Click() { Hide(); }
 void humid2::mnuExit_Click() { Unload(); }
-void humid2::mnuMain_Click() { Unload(); } // leads back to the outside air, in spite of its caption
+void humid2::mnuMain_Click() { Unload(); } // intentional: returns to the outside air, despite its caption
 
 void humid2::mnuPrint_Click()
 {
@@ -142,6 +142,6 @@ void humid2::mnuSave_Click()
 }
 
 void humid2::mnuHumid2Help_Click() { OpenHelp(*this, HelpTopic::Humidification); }
-// As on every calculator the search opens this one topic.
+// Intentional: the search opens this topic on every calculator.
 void humid2::mnuSearch_Click() { OpenHelp(*this, HelpTopic::AirProperties); }
 void humid2::mnuAbout_Click() { ShowAbout(); }

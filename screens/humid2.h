@@ -8,14 +8,13 @@
 #include "platform/forms/TextField.h"
 #include "reports/HumidityReport.h"
 
-/// The humidification calculator's second screen: the air that is wanted, how much of it, and the water that
-/// it takes.
+/// The second screen of the humidification calculator: the desired air, its quantity and the water to add.
 class humid2 : public forms::Form
 {
 public:
     humid2();
 
-    /// What stands on the form, for the report.
+    /// The texts on the form, for the report.
     HumidityTexts texts() const;
 
 protected:

@@ -1,4 +1,4 @@
-// How the humidification's second screen looks: its frames, its colours, its tab order, its spoken names.
+// The appearance of the second humidification screen: frames, colors, tab order and accessible names.
 
 #include "screens/Rows.h"
 #include "screens/humid2.h"
@@ -23,7 +23,7 @@ Grid& gridIn(Frame& frame)
     return *grid;
 }
 
-/// Captions, fields and units, so that those of the two frames of entries line up.
+/// A grid of captions, fields and units. The columns of the two entry frames line up.
 Grid& entryGridIn(Frame& frame, int captionWidth)
 {
     Grid& grid = gridIn(frame);
@@ -59,7 +59,7 @@ void humid2::layOut()
     whole->add(Frame3);
     whole->addStretch();
 
-    // The humidity comes ahead of the temperature.
+    // The humidity comes before the temperature.
     setTabOrder({&txtDesH, &txtDesT, &txtVol, &txtAC, &txtOSA});
 }
 
