@@ -1,5 +1,5 @@
-// bench_calculate: how long it takes from the press of "Calculate Properties" until all the fields that it
-// fills are painted and the display server has their pictures.
+// bench_calculate: the time from a press of "Calculate Properties" until all the fields that it fills are
+// painted and sent to the display server.
 
 #include "bench/Quantiles.h"
 #include "bench/Scratch.h"
@@ -30,12 +30,12 @@ namespace {
 constexpr int presses = 300;
 constexpr double frameMilliseconds = 1000.0 / 60;
 
-/// What is typed for one calculation: a humidity item that goes with the dry bulb.
+/// The input for one calculation: a humidity item that depends on the dry bulb.
 struct Item
 {
     const char* field;
     double atNoughtDryBulb;
-    double perDegree; ///< of the dry bulb
+    double perDegree; ///< per degree of dry bulb
 };
 
 struct Units
@@ -56,7 +56,7 @@ const Units english{
 const Units metric{
     "Metric", "True", 16, 33, {{"txtTwb", -3.1, 1}, {"txttd", -10.7, 1}, {"txtRH", 47, 0}, {"txtW", 6.1, 0}}};
 
-/// Notes which of the fields have been painted.
+/// Records which of the fields were painted.
 class PaintWatch : public QObject
 {
 public:
@@ -71,10 +71,10 @@ protected:
     }
 };
 
-/// Returns once the display server has done all that it was asked before: it answers in order.
+/// Returns when the display server has processed all earlier requests. It answers in order.
 void waitForDisplay() { QGuiApplication::primaryScreen()->grabWindow(0, 0, 0, 1, 1); }
 
-/// The calculator on the screen, with its user.
+/// The calculator on the screen and its user.
 class Calculator
 {
 public:
@@ -90,7 +90,7 @@ public:
 
     void enter(double tdb, const Item& item)
     {
-        QTest::mouseClick(field(item.field), Qt::LeftButton); // empties the other items
+        QTest::mouseClick(field(item.field), Qt::LeftButton); // clears the other items
         type("txtTdb", tdb);
         type(item.field, item.atNoughtDryBulb + item.perDegree * tdb);
         QTest::qWait(1);
@@ -136,7 +136,7 @@ private:
         return all;
     }
 
-    /// The fields that show another text than they did. All but two are empty before a press.
+    /// The fields whose text has changed. All but two are empty before a press.
     std::set<const QObject*> changedSince(const std::map<QLineEdit*, QString>& before) const
     {
         constexpr std::size_t fewest = 5;
@@ -150,7 +150,7 @@ private:
         return changed;
     }
 
-    /// A message box would stand for ever: nobody closes it here but this.
+    /// Closes a message box, which would otherwise stay open forever.
     static void closeMessage()
     {
         if (QWidget* const box = QApplication::activeModalWidget())

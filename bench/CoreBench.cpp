@@ -1,5 +1,5 @@
-// What a moist-air state costs: a full state from each of the five items in both unit modes, the wet bulb
-// search beside its plain form, and a floor under both.
+// The cost of a moist-air state: the complete state from each of the five items in both unit modes, the wet
+// bulb search and its plain form, and a lower bound for both.
 
 #include "core/MainMod.h"
 #include "core/WetBulbBracket.h"
@@ -13,9 +13,9 @@
 
 namespace {
 
-constexpr int SampleSize = 4096; // enough that no branch of a search can be learnt by heart
+constexpr int SampleSize = 4096; // too many for the processor to predict the branches of a search
 
-/// Solved states over the comfortable range of the screens.
+/// Solved states over the usual range of the screens.
 std::vector<MoistAirState> Sample()
 {
     std::mt19937 random(1);
@@ -41,7 +41,7 @@ void SetMode(benchmark::State& state)
 
 using StateItem = TaggedNumber MoistAirState::*;
 
-/// A full state from one item, given as it stands in a solved state.
+/// Solves the complete state from one item, taken from a solved state.
 void SolveFrom(benchmark::State& state, StateItem item, void (*solve)())
 {
     SetMode(state);
@@ -71,7 +71,7 @@ void Search(benchmark::State& state, Single (*search)(Single, Single, Single))
     }
 }
 
-/// One pair of calls that no state can do without: ln T and the exp of the saturation pressure.
+/// One pair of calls that every state needs: ln T and the exp of the saturation pressure.
 struct Pair
 {
     double absolute;
@@ -84,8 +84,8 @@ Pair PairAt(Single t)
     return {static_cast<double>(absolute), std::log(static_cast<double>(SaturationPressure(absolute)))};
 }
 
-/// The pairs of a state from RH: the dry bulb's, the dew point's logarithm and power, and one for each new
-/// residual.
+/// The pairs for a state from RH: one for the dry bulb, the logarithm and power of the dew point, and one for
+/// each new residual.
 std::vector<Pair> PairsOf(const MoistAirState& air)
 {
     const Single w = air.W.asSingle();
@@ -105,8 +105,8 @@ std::vector<Pair> PairsOf(const MoistAirState& air)
     }
 }
 
-/// Nothing but the calls. Each waits for the one before it, as the next candidate of a bisection waits for
-/// the sign of the last: the added multiple of the last result is 0, but the processor has to have it first.
+/// Only the calls. Each depends on the previous one, as in bisection the next candidate depends on the sign
+/// of the last residual. The added multiple of the last result is 0, but the processor must wait for it.
 void Floor(benchmark::State& state)
 {
     SetMode(state);
@@ -130,7 +130,7 @@ void Floor(benchmark::State& state)
 
 } // namespace
 
-BENCHMARK_CAPTURE(SolveFrom, Grains, &MoistAirState::Grains, SolveFromGrains)->Arg(0); // English alone
+BENCHMARK_CAPTURE(SolveFrom, Grains, &MoistAirState::Grains, SolveFromGrains)->Arg(0); // English only
 BENCHMARK_CAPTURE(SolveFrom, W, &MoistAirState::W, SolveFromW)->Arg(0)->Arg(1);
 BENCHMARK_CAPTURE(SolveFrom, WetBulb, &MoistAirState::Twb, SolveFromWetBulb)->Arg(0)->Arg(1);
 BENCHMARK_CAPTURE(SolveFrom, DewPoint, &MoistAirState::td, SolveFromDewPoint)->Arg(0)->Arg(1);

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <vector>
 
-/// The value below which the given part of the measurements lies, e.g. 0.5 for the median, interpolated
-/// between neighbours. There must be at least one.
+/// A quantile of the measurements, e.g. the median for part 0.5, interpolated linearly. There must be at
+/// least one measurement.
 inline double quantile(std::vector<double> measurements, double part)
 {
     std::sort(measurements.begin(), measurements.end());

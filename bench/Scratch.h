@@ -5,8 +5,8 @@
 #include <stdexcept>
 #include <string>
 
-/// A folder of its own for the settings, while it lives: no measurement depends on the user's, or writes
-/// them.
+/// Uses a temporary settings folder during its lifetime, so that no measurement reads or writes the user's
+/// settings.
 class ScratchSettings
 {
 public:
@@ -29,14 +29,14 @@ private:
     std::string folder = (std::filesystem::temp_directory_path() / "dunmoor-bench-XXXXXX").string();
 };
 
-/// Where there is no display, windows are painted into memory alone.
+/// Paints windows to memory if there is no display.
 inline void useOffscreenWithoutDisplay()
 {
     if (std::getenv("DISPLAY") == nullptr && std::getenv("WAYLAND_DISPLAY") == nullptr)
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
 }
 
-/// What windows are shown on, for the heading of the figures.
+/// The display in use, for the heading of the results.
 inline const char* displayInUse()
 {
     const char* const platform = std::getenv("QT_QPA_PLATFORM");

@@ -1,7 +1,7 @@
-# What the running program takes: its start and its memory beside an empty window, and one calculation.
+# What the running program costs: its start and its memory compared with an empty window, and one calculation.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 
-# Those that are started and measured. No bench_ in their names: they are nothing to run by themselves.
+# The programs that are measured. Their names lack bench_, because they are not benchmarks themselves.
 add_executable(start_dunmoor ${PROJECT_SOURCE_DIR}/shell/Main.cpp StartProbe.cpp)
 target_link_libraries(start_dunmoor PRIVATE shell dunmoor_flags)
 add_executable(start_empty StartEmpty.cpp StartProbe.cpp)

@@ -1,5 +1,5 @@
-// The main menu's controls with nothing behind them, by the toolkit alone: what text, buttons and a menu bar
-// cost in any program.
+// The main menu's controls without the program, built with the toolkit only: what text, buttons and a menu
+// bar cost in any program.
 
 #include <QApplication>
 #include <QLabel>

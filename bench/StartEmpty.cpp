@@ -1,4 +1,4 @@
-// The smallest program of the toolkit with a window: what any start costs at least.
+// The smallest toolkit program with a window: the minimum cost of any start.
 
 #include <QApplication>
 #include <QWidget>
@@ -7,7 +7,7 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     QWidget window;
-    window.resize(800, 660); // the main menu's
+    window.resize(800, 660); // the size of the main menu
     window.show();
     return QApplication::exec();
 }

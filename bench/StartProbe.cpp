@@ -1,7 +1,7 @@
-// Linked into a program, this measures one start of it: it waits for the first picture on the screen, prints
-// "<nanoseconds from the start of the process to that picture> <processor nanoseconds spent until then>
-// <PSS at rest in KiB>", and ends the process.
-// A program without it is the same program: nothing of it has to call anything here.
+// Measures one start of the program it is linked into. It waits for the first frame on the screen, prints
+// "<nanoseconds from process start to that frame> <processor nanoseconds until then> <PSS at rest in KiB>",
+// and ends the process.
+// The program needs no changes: it doesn't call anything here.
 
 #include "bench/StartProbe.h"
 
@@ -26,7 +26,7 @@ long long nanosecondsNow()
     return std::chrono::nanoseconds(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-/// What all threads of this process have used so far.
+/// The processor time of all threads of this process so far.
 long long processorNanoseconds()
 {
     timespec used{};
@@ -46,7 +46,7 @@ long long pssKiB()
     return 0;
 }
 
-/// Returns once the display server has done all that it was asked before: it answers in order.
+/// Returns when the display server has processed all earlier requests. It answers in order.
 void waitForDisplay() { QGuiApplication::primaryScreen()->grabWindow(0, 0, 0, 1, 1); }
 
 class StartProbe : public QObject
@@ -60,7 +60,7 @@ protected:
         const auto* const widget = event->type() == QEvent::Paint ? qobject_cast<QWidget*>(watched) : nullptr;
         if (widget != nullptr && widget->isWindow()) {
             QCoreApplication::instance()->removeEventFilter(this);
-            // The window's widgets are painted in one go and then sent to the display: look after that.
+            // The window's widgets are painted together and then sent to the display. Continue after that.
             QTimer::singleShot(0, this, [this] { firstPictureSent(); });
         }
         return false;

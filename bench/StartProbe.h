@@ -1,8 +1,8 @@
 #pragma once
 
-/// The environment variable in which the driver hands over the moment it started the process, in nanoseconds
-/// of the monotonic clock.
+/// The environment variable with the time at which the driver started the process, in nanoseconds of the
+/// monotonic clock.
 constexpr auto startedAtVariable = "DUNMOOR_BENCH_STARTED_AT";
 
-/// How long after the first picture the memory is read: by then the program has come to rest.
+/// The delay from the first frame to the memory reading. By then the program is idle.
 constexpr int restMilliseconds = 300;

@@ -1,7 +1,7 @@
-// bench_starts: how long the program takes from the start of its process to its first picture, and how much
-// memory it then holds, beside an empty window of the toolkit and a window with the same controls and nothing
-// behind them. They are started in turn, so that whatever else the machine does meets all alike. This program
-// links no toolkit: it would share the libraries' pages with the measured ones and make them look smaller.
+// bench_starts: the time from process start to the first frame, and the memory then in use, compared with an
+// empty toolkit window and with a window that has the same controls but no program behind them. The programs
+// are started in turn, so that other load on the machine affects all of them. This driver links no toolkit:
+// it would share the libraries' pages with the measured programs and make them look smaller.
 
 #include "bench/Quantiles.h"
 #include "bench/Scratch.h"
@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int rounds = 41; // the first is thrown away: it reads the files from the disk
+constexpr int rounds = 41; // the first is discarded, because it reads the files from disk
 
 struct Measured
 {
@@ -63,7 +63,7 @@ void start(Measured& program, const std::string& folder, bool isKept)
 
 using Figure = std::vector<double> Measured::*;
 
-/// Each program's quartiles, and its median as a multiple of the first program's.
+/// Prints each program's quartiles, and its median as a multiple of the first program's.
 void printTable(const char* what, const std::array<Measured, 3>& programs, Figure values)
 {
     std::printf("%-19s %9s %9s %9s %9s\n", what, "quartile", "median", "quartile", "multiple");

@@ -4,19 +4,19 @@
 
 namespace chart {
 
-/// Moist air at one barometric pressure, by the core's relations and in the units in force.
-/// Nothing here fails: an argument that a relation refuses gives infinity.
+/// Moist air at a barometric pressure, by the core's relations and in the current units. Nothing here throws:
+/// if a relation refuses an argument, the result is infinity.
 class Air
 {
 public:
     /// @param pressure  psi or Pa
     explicit Air(Single pressure) : P(pressure) {}
 
-    /// Air at the barometric pressure in force; at pressure 0 if that overflows.
+    /// Air at the current barometric pressure, or at pressure 0 if that overflows.
     static Air inForce();
 
     Single pressure() const { return P; }
-    /// Whether there is any air to draw.
+    /// True if there is any air to draw.
     bool isDefined() const { return P > 0; }
 
     /// Humidity ratio of saturated air; infinite past boiling.
@@ -24,10 +24,10 @@ public:
     /// Humidity ratio; infinite past boiling.
     /// @param rh  a fraction
     double atRelativeHumidity(double rh, double tdb) const;
-    /// Humidity ratio of air of that wet bulb; negative if the dry bulb is too far above it.
+    /// Humidity ratio at a wet bulb; negative if the dry bulb is too far above it.
     double onWetBulb(double twb, double tdb) const;
     double specificVolume(double tdb, double w) const;
-    /// The dry bulb at which air of that humidity ratio has that specific volume.
+    /// The dry bulb at which air with humidity ratio w has that specific volume.
     double tdbOfVolume(double volume, double w) const;
     /// A fraction; above 1 past saturation.
     double relativeHumidity(double tdb, double w) const;

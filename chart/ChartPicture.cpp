@@ -11,7 +11,7 @@
 namespace chart {
 namespace {
 
-constexpr double tipReach = 8; // of a mark, in pixels
+constexpr double tipReach = 8; // distance from a mark, in pixels
 
 /// With all digits of the single.
 QString exactly(Single value) { return QString::number(value, 'g', 9); }

@@ -7,7 +7,8 @@
 
 namespace chart {
 
-/// A psychrometric chart with the last run of each calculator, in the units and at the pressure in force.
+/// A psychrometric chart with the last run of each calculator, in the current units and at the current
+/// pressure.
 class ChartPicture : public forms::PictureContents
 {
 public:

@@ -11,7 +11,7 @@ namespace {
 // Longest chords that stay within 0.1 px of their curve, in pixels.
 constexpr double chordOfBentCurves = 6;
 constexpr double chordOfNearlyStraightOnes = 40;
-constexpr std::size_t mostOfAFamily = 60; // pressures that no calculator accepts can ask for any number
+constexpr std::size_t mostOfAFamily = 60; // a limit for pressures that no calculator accepts
 
 /// The first x between `low` and `high` for which the predicate is true; `high` if there is none.
 /// Bisection: the predicate must stay true above that x.
@@ -26,7 +26,7 @@ double firstWhere(double low, double high, const Predicate& holds)
     return high;
 }
 
-/// The curve over an interval, in chords of about that length.
+/// The curve over an interval, in chords of about the given length.
 template <class PlaceAt>
 QPolygonF sampled(double low, double high, double chord, const PlaceAt& placeAt)
 {
@@ -66,7 +66,7 @@ private:
         curves.push_back({family, value, std::move(line)});
     }
 
-    /// The lines of the ticks. They end at saturation.
+    /// The lines at the ticks. They end at saturation.
     void traceGrid()
     {
         for (const double t : tdb.multiples(plane.tdbStep())) {
@@ -83,13 +83,13 @@ private:
     {
         const auto ratio = [&](double t) { return air.atRelativeHumidity(percent / 100, t); };
         if (ratio(tdb.low) >= w.high)
-            return; // all of it is above the plot
+            return; // the whole curve is above the plot
         const double end = firstWhere(tdb.low, tdb.high, [&](double t) { return ratio(t) > w.high; });
         const auto place = [&](double t) { return plane.at(t, std::min(ratio(t), w.high)); };
         keep(family, percent, sampled(tdb.low, end, chordOfBentCurves, place));
     }
 
-    /// Each runs from saturation, or from the top of the plot, down to dry air.
+    /// Each line runs from saturation, or from the top of the plot, down to dry air.
     void traceWetBulbs()
     {
         const double step = tdb.step(plane.plot.width(), 20);
@@ -125,7 +125,7 @@ private:
             traceVolume(volume);
     }
 
-    /// Runs from saturation, or from the left edge of the plot, down to dry air or the right edge.
+    /// The line runs from saturation, or from the left edge of the plot, down to dry air or the right edge.
     void traceVolume(double volume)
     {
         const auto dryBulb = [&](double ratio) { return air.tdbOfVolume(volume, ratio); };

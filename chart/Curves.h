@@ -19,19 +19,19 @@ enum class Family
     Saturation,
 };
 
-/// A curve of constant value as points of the picture, from left to right. It can leave the plot by less than
-/// a step.
+/// A curve of constant value as points of the picture, from left to right. It can extend beyond the plot by
+/// less than a step.
 struct Curve
 {
     Family family{};
-    double value = 0; ///< relative humidity in percent, all others in the unit of the chart
+    double value = 0; ///< percent for relative humidity, otherwise in the units of the chart
     QPolygonF line;
 };
 
-/// All curves that the plot has room for, in the order of painting.
+/// All curves that fit the plot, in the order of painting.
 std::vector<Curve> TraceCurves(const Air& air, const Plane& plane);
 
-/// The dry bulb within an axis at which air of that humidity ratio is saturated; the high end if there is
+/// The dry bulb within an axis at which air with humidity ratio w is saturated; the high end if there is
 /// none.
 double SaturatedTdb(const Air& air, const Axis& tdb, double w);
 

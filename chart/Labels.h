@@ -16,8 +16,8 @@ struct Label
 {
     QString text;
     QSizeF size;
-    std::optional<Family> family{};         ///< of the curves that it names, or
-    std::optional<Calculator> calculator{}; ///< of the states that it names
+    std::optional<Family> family{};         ///< the curves that it names, or
+    std::optional<Calculator> calculator{}; ///< the calculator whose states it names
     QPointF center{};
     double angle = 0; ///< degrees, clockwise
 
@@ -25,7 +25,7 @@ struct Label
     QPolygonF outline() const;
 };
 
-/// The labels that found room: all are inside the picture, and none touches another or an avoided area.
+/// The placed labels. All are inside the picture, and none touches another label or an avoided area.
 class Labels
 {
 public:
@@ -33,9 +33,9 @@ public:
 
     /// Adds the label if its place is free.
     bool add(const Label& label);
-    /// Adds the label at the first of these places that is free, if any.
+    /// Adds the first candidate whose place is free, if any.
     bool addOnOneOf(const std::vector<Label>& candidates);
-    /// Keeps labels off an area. Labels that are there already stay.
+    /// Keeps later labels off an area. Labels already there stay.
     void avoid(const QPolygonF& area) { avoided.push_back(area); }
 
     const std::vector<Label>& all() const { return labels; }

@@ -10,7 +10,7 @@
 namespace chart {
 namespace {
 
-constexpr double fontScale = 0.85; // of the window's font
+constexpr double fontScale = 0.85; // times the size of the window's font
 
 QFont smaller(const QFont& widgetFont)
 {
@@ -43,7 +43,7 @@ QRectF plotIn(const QSize& size, const QFontMetricsF& metrics)
     return plot.toAlignedRect().intersected(QRect(QPoint(0, 0), size));
 }
 
-/// Marks and process lines come first, so that the names of the curves keep off them.
+/// Marks and process lines come first, so that the names of the curves avoid them.
 void addNames(Layout& chart, const QFontMetricsF& metrics, const std::vector<Label>& legend)
 {
     for (const Label& label : legend)

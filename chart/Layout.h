@@ -20,10 +20,10 @@ struct Mark
     RunState state{};
 };
 
-/// Everything on the chart with its place, ready for painting.
+/// Everything on the chart and its position, ready for painting.
 struct Layout
 {
-    /// The chart of the last runs, in the units and at the pressure in force.
+    /// The chart of the last runs, in the current units and at the current pressure.
     Layout(const QSize& size, const QFont& widgetFont);
 
     Air air;
@@ -31,7 +31,7 @@ struct Layout
     QFont font;
     Plane plane;
     std::vector<Curve> curves;
-    std::vector<Mark> marks; ///< of the states in the plot
+    std::vector<Mark> marks; ///< for the states in the plot
     Labels labels;
 
     QPointF placeOf(const RunState& state) const { return plane.at(state.Tdb, state.W); }

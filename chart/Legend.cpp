@@ -27,8 +27,8 @@ Label Legend::entry(const QString& text, std::optional<Calculator> calculator) c
         .text = text, .size = {metrics.horizontalAdvance(text), metrics.height()}, .calculator = calculator};
 }
 
-/// Says so if the state is at another pressure: its wet bulb and relative humidity can't be read off this
-/// chart.
+/// Adds a note if the state is off the chart, or at another pressure: its wet bulb and relative humidity
+/// can't be read off this chart.
 QString Legend::nameOf(const RunState& state) const
 {
     QString name = QString::fromStdString(state.name);

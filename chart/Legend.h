@@ -11,17 +11,17 @@
 namespace chart {
 
 /// The pressure, and the title of each run with its numbered states. The legend is in the empty corner above
-/// saturation, one line for each run, or in a strip over the plot if the corner is too small.
+/// saturation, with one line for each run. If the corner is too small, it is in a strip above the plot.
 class Legend
 {
 public:
     Legend(const Air& air, const Span& shown, const std::vector<Run>& runs, const QFontMetricsF& font);
 
-    /// Whether there is room in the corner of that plot beside the saturation curve and its labels.
+    /// True if the corner of the plot has enough space beside the saturation curve and its labels.
     bool fitsCorner(const Air& air, const Plane& plane) const;
     std::vector<Label> inCorner(const QRectF& plot) const;
 
-    /// Fills line by line, and keeps each run on one line.
+    /// Fills the strip line by line and keeps each run on one line.
     std::vector<Label> inStrip(const QRectF& strip) const;
     double stripHeight(double width) const;
 
@@ -32,7 +32,7 @@ private:
     Line lineOf(const Run& run, int& number) const;
     QString nameOf(const RunState& state) const;
     double widthOf(const Line& line) const;
-    /// Appends the line's labels, placed from that corner on.
+    /// Appends the line's labels, placed from topLeft on.
     void place(const Line& line, QPointF topLeft, std::vector<Label>& labels) const;
 
     Single pressure;

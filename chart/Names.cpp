@@ -12,9 +12,9 @@ namespace chart {
 namespace {
 
 constexpr double markReach = 6; // from the center of a mark to its label
-constexpr double curveGap = 3;  // between saturation and the figures of the wet bulbs
+constexpr double curveGap = 3;  // between saturation and the wet bulb figures
 constexpr double padding = 4;   // of a label, left and right together
-constexpr double samePlace = 3; // marks no farther apart share a label
+constexpr double samePlace = 3; // marks at most this far apart share a label
 
 QPainterPath pathOf(const Curve& curve)
 {
@@ -66,7 +66,7 @@ void Names::nameMarks(const std::vector<Mark>& marks)
     }
 }
 
-/// Tries above the mark first, then around it, then farther away.
+/// Tries above the mark, then around it, then farther away.
 void Names::nameMark(const Mark& mark, const QString& numbers)
 {
     Label name = label(numbers);
@@ -111,7 +111,7 @@ void Names::nameHumidityRatio(const Curve& tick)
     labels.add(figure);
 }
 
-/// At the curve's end, outside of saturation; above the plot if the curve enters it from there.
+/// At the curve's end outside saturation, or above the plot if the curve enters there.
 void Names::nameWetBulb(const Curve& curve)
 {
     Label figure = label(RoundFigure(curve.value), curve.family);
@@ -139,7 +139,8 @@ void Names::nameWetBulbs(const Curve& saturation)
     labels.addOnOneOf(candidates);
 }
 
-/// On the curve, at the first of these fractions of its length at which the label is inside the plot.
+/// Places the label on the curve, at the first of these fractions of its length where the label is inside the
+/// plot.
 void Names::nameAlong(const Curve& curve, const QString& text, const std::vector<double>& parts)
 {
     const QPainterPath path = pathOf(curve);

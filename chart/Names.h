@@ -9,7 +9,7 @@
 
 namespace chart {
 
-/// Finds places for the figures of the axes, and for the names of the curves and of the states.
+/// Places the figures of the axes and the names of the curves and states.
 class Names
 {
 public:

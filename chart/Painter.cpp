@@ -65,7 +65,7 @@ private:
         return path;
     }
 
-    /// The center of the device pixel at that place: thin lines are sharp there.
+    /// The center of the device pixel at that place, where thin lines are sharp.
     QPointF sharp(const QPointF& place) const
     {
         const double ratio = painter.device()->devicePixelRatioF();
@@ -129,7 +129,7 @@ private:
         painter.restore();
     }
 
-    /// At the middle of the line, if there is room between the marks.
+    /// At the middle of the line, if there is enough space between the marks.
     void paintArrow(const QPointF& from, const QPointF& to, const QColor& color)
     {
         const QLineF line(from, to);
@@ -144,7 +144,7 @@ private:
         painter.drawPolygon(corners, 3);
     }
 
-    /// Hollow if the state is at another pressure than the chart.
+    /// Hollow if the state's pressure differs from the chart's.
     void paintMark(const Mark& mark)
     {
         const QColor color = theme.run(mark.calculator);

@@ -7,7 +7,7 @@ namespace chart {
 
 struct Layout;
 
-/// Paints a chart in colors for a light or a dark desktop. Outside of the plot the ground stays as it is.
+/// Paints a chart in colors for a light or a dark desktop. The background outside the plot is unchanged.
 void Paint(QPainter& painter, const Layout& chart, const QPalette& palette);
 
 } // namespace chart

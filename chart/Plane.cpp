@@ -20,7 +20,7 @@ constexpr Limits tdbEnglish{{30, 120}, {-60, 300}, 10};
 constexpr Limits tdbMetric{{0, 50}, {-50, 150}, 5};
 constexpr Limits humidity{{0, 0.03}, {0, 0.25}, 0.005};
 
-/// Of the usual span, between a state and the frame.
+/// The least distance between a state and the frame, as a part of the usual span.
 constexpr double leastPartBeside = 0.02;
 
 void widen(Axis& axis, const Limits& limits, double value)
@@ -49,7 +49,7 @@ double Axis::step(double pixels, double leastApart) const
 
 std::vector<double> Axis::multiples(double step) const
 {
-    constexpr double onTheEnd = 1e-6; // of a step, so that rounding does not lose an end
+    constexpr double onTheEnd = 1e-6; // part of a step, so that rounding does not lose an end
     std::vector<double> found;
     const auto last = static_cast<int>(std::floor(high / step + onTheEnd));
     for (auto count = static_cast<int>(std::ceil(low / step - onTheEnd)); count <= last; ++count)

@@ -7,7 +7,7 @@
 
 namespace chart {
 
-/// An axis between two round figures.
+/// An axis between two round numbers.
 struct Axis
 {
     double low = 0;
@@ -18,7 +18,8 @@ struct Axis
     double part(double value) const { return (value - low) / length(); }
     bool holds(double value) const { return value >= low && value <= high; }
 
-    /// The smallest step of 1, 2 or 5 times a power of ten whose multiples are at least so many pixels apart.
+    /// The smallest step of 1, 2 or 5 times a power of ten whose multiples are at least leastApart pixels
+    /// apart on an axis of this length in pixels.
     double step(double pixels, double leastApart) const;
     std::vector<double> multiples(double step) const;
 };
@@ -29,8 +30,8 @@ struct Span
     Axis tdb{};
     Axis w{};
 
-    /// The usual span of the units in force, widened to include these states (dry bulb, humidity ratio).
-    /// States far outside of it are ignored.
+    /// The usual span for the current units, widened to include these states (dry bulb, humidity ratio).
+    /// States far outside it are ignored.
     static Span around(const std::vector<QPointF>& states);
     bool holds(double dryBulb, double humidityRatio) const
     {
@@ -55,7 +56,7 @@ struct Plane
     }
     double wAt(double y) const { return span.w.low + (plot.bottom() - y) / plot.height() * span.w.length(); }
 
-    /// Between the ticks of an axis.
+    /// The step between the ticks of an axis.
     double tdbStep() const { return span.tdb.step(plot.width(), 40); }
     double wStep() const { return span.w.step(plot.height(), 34); }
 };

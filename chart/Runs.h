@@ -19,7 +19,7 @@ struct Run
 
 const char* TitleOf(Calculator calculator);
 
-/// The last runs in the units in force, in the order of the main menu.
+/// The last runs in the current units, in the order of the main menu.
 std::vector<Run> ShownRuns();
 
 } // namespace chart

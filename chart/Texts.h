@@ -4,13 +4,13 @@
 
 namespace chart {
 
-// Figures and units on the chart, in the units in force.
+// Figures and units on the chart, in the current units.
 
 QString TdbUnit();
 QString HumidityRatioUnit();
 QString SpecificVolumeUnit();
 
-/// A round figure without trailing digits of its rounding error.
+/// A round number without the trailing digits of its rounding error.
 QString RoundFigure(double value);
 /// A humidity ratio with as many decimals as the step of its axis needs.
 QString HumidityRatioFigure(double w, double step);

@@ -20,9 +20,9 @@ public:
     QColor paper() const { return palette.color(QPalette::Base); }
     QColor axis() const;
     QPen pen(Family family) const;
-    /// Of the names of a family; of other text if there is no family.
+    /// For the names of a family, or for other text if there is no family.
     QColor text(const std::optional<Family>& family) const;
-    /// Of the states and the process of a calculator.
+    /// For the states and the process line of a calculator.
     QColor run(Calculator calculator) const;
 
 private:

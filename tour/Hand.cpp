@@ -21,7 +21,7 @@
 
 namespace {
 
-/// Does something on the program's thread and waits for it; works while a dialog waits there too.
+/// Runs a task on the program's thread and waits for it. Also works while a dialog is open.
 void onProgramThread(const std::function<void()>& task)
 {
     QMetaObject::invokeMethod(qApp, task, Qt::BlockingQueuedConnection);
@@ -50,7 +50,7 @@ QWidget* windowInUse()
     giveUp("no window is shown");
 }
 
-/// What the screen shows there.
+/// A screenshot of the frame.
 QImage grab(const std::function<QRect()>& frame)
 {
     QImage shown;
@@ -150,7 +150,7 @@ QString Hand::reportFile(const QString& name) const
 {
     QDir(folder).mkpath("reports");
     QString path = folder + "/reports/" + name;
-    QFile::remove(path); // the print dialog would ask about it
+    QFile::remove(path); // the print dialog would ask whether to replace it
     return path;
 }
 
@@ -175,7 +175,7 @@ void Hand::save(const QString& name, const std::function<QRect()>& frame)
 {
     QImage before;
     for (QImage shown = grab(frame); shown != before; shown = grab(frame)) {
-        before = shown; // until nothing moves any more
+        before = shown; // until nothing changes
         settle();
     }
     if (!before.save(folder + "/" + name + ".png"))

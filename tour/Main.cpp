@@ -1,5 +1,5 @@
 // dunmoor-tour FOLDER [dark] [FONT-POINTS]: runs the program on the display, drives it with real mouse and
-// key events, and leaves pictures of what it showed in the folder.
+// key events, and saves pictures of its windows in the folder.
 
 #include "platform/forms/Forms.h"
 #include "shell/Program.h"
@@ -19,7 +19,7 @@ using namespace forms;
 
 namespace {
 
-/// What a dark desktop sets for its programs.
+/// Sets what a dark desktop sets for its programs.
 void darken()
 {
     QPalette palette(QColor(45, 45, 48));
@@ -44,7 +44,7 @@ int main(int argc, char** argv)
     const QTemporaryDir settings; // the tour starts as on a new machine
     qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
     QApplication application(argc, argv);
-    QApplication::setCursorFlashTime(0); // a picture is the same, whenever it is taken
+    QApplication::setCursorFlashTime(0); // so that pictures don't depend on the blinking cursor
     const QStringList arguments = QApplication::arguments().mid(1);
     if (arguments.isEmpty()) {
         std::fprintf(stderr, "usage: dunmoor-tour FOLDER [dark] [FONT-POINTS]\n");

@@ -4,23 +4,23 @@
 
 namespace {
 
-/// What differs between the two walks.
+/// The differences between the two walks.
 struct Walk
 {
-    const char* units;  ///< the pictures' names begin with it
+    const char* units;  ///< prefix of the pictures' names
     const char* tdb;    ///< a dry bulb
     const char* tooHot; ///< one that is refused
     const char* badPressure;
     const char* outsideTdb;
     const char* outsideVolume;
     const char* returnVolume;
-    const char* dryCoil; ///< a leaving air that needs no wet bulb
+    const char* dryCoil; ///< leaving air that needs no wet bulb
     const char* wetCoil;
     const char* wetCoilWetBulb;
     const char* heated;
     const char* winter;
     const char* humidifiedVolume;
-    bool prints; ///< once is enough: the second time the dialog would ask about the same file
+    bool prints; ///< only once: the second time, the dialog would ask whether to replace the file
 };
 
 constexpr Walk english{
@@ -70,8 +70,8 @@ void answerVolume(Hand& hand, const char* volume)
     hand.click("btnOK");
 }
 
-/// Saves the report of the calculator in use through the save dialog, which shows this machine's folders: no
-/// picture.
+/// Saves the current calculator's report through the save dialog. Takes no picture, because the dialog shows
+/// the folders of this machine.
 void save(Hand& hand, const char* entry, const QString& name)
 {
     hand.choose(entry);
@@ -79,7 +79,7 @@ void save(Hand& hand, const char* entry, const QString& name)
     hand.key("Return");
 }
 
-/// Prints it to a PDF file through the print dialog.
+/// Prints the report to a PDF file through the print dialog.
 void print(Hand& hand, const char* entry, const QString& name)
 {
     hand.choose(entry);
