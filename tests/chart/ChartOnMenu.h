@@ -18,7 +18,7 @@ class ChartOnMenu : public CalculatorTest
 protected:
     QWidget* picture() const { return User::findWindow("MainForm")->findChild<QWidget*>("Image1"); }
 
-    /// What the menu shows once the chart is there: it comes after the window's first picture.
+    /// What the menu shows with the chart, which is painted after the window's first frame.
     QImage shown() const
     {
         QImage image;
@@ -40,7 +40,7 @@ protected:
 
     chart::Layout layout() const { return {picture()->size(), picture()->font()}; }
 
-    /// Whether a state is marked on what the menu shows: a dot of one strong colour.
+    /// True if the menu shows a mark for the state: a dot in one strong color.
     bool isMarked(double tdb, double w) const
     {
         const QImage image = shown();
@@ -144,7 +144,7 @@ protected:
     }
 };
 
-/// By more than the rounding of a blended colour.
+/// True if the colors differ by more than the rounding of a blended color.
 inline bool differ(QRgb one, QRgb other)
 {
     constexpr int rounding = 3;

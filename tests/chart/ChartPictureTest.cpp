@@ -1,4 +1,4 @@
-// The chart as a user of the main menu sees it: when it comes, what it says, how it is copied.
+// The chart as a user of the main menu sees it: when it appears, what it says, and how it is copied.
 
 #include "tests/chart/ChartOnMenu.h"
 
@@ -10,7 +10,7 @@
 
 namespace {
 
-/// All of the calculator's state, to the bit and the kind.
+/// The calculator's complete state, with all bits and kinds.
 std::string wholeState()
 {
     std::ostringstream all;
@@ -151,7 +151,7 @@ TEST_F(ChartOnMenu, FollowsTheSizeOfTheWindow)
 
 TEST_F(ChartOnMenu, IsDrawnInTheScreensOwnPixels)
 {
-    qputenv("QT_SCALE_FACTOR", "2"); // the new process of the test starts with it
+    qputenv("QT_SCALE_FACTOR", "2"); // for the test's new process
     EXPECT_EXIT(
         {
             start();

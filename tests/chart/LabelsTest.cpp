@@ -1,4 +1,4 @@
-// The chart's names: none touches another, all stand in the picture, and the legend names every state.
+// The labels of the chart: none touches another, all are in the picture, and the legend names every state.
 
 #include "chart/Layout.h"
 #include "tests/chart/Modes.h"

@@ -21,14 +21,14 @@ struct Mode
     }
 };
 
-/// 11, 14.696 and 16 psi, and about the same in kPa.
+/// 11, 14.696 and 16 psi, and roughly the same in kPa.
 inline const std::vector<Mode> modes{{False16, 11},     {False16, 14.696F}, {False16, 16},
                                      {True16, 75.842F}, {True16, 101.325F}, {True16, 108}};
 
-/// The pressure in force as the relations take it.
+/// The current pressure in the unit of the relations.
 inline Single relationsPressure() { return IsMetric() ? RoundToSingle(BaroPressure * 1000.0) : BaroPressure; }
 
-/// Air as the calculators find it, at the pressure in force.
+/// Air as the calculators solve it, at the current pressure.
 inline AirSnapshot airAt(Single tdb, Single percent, Single volume = 1000)
 {
     StatePoint.Tdb = tdb;

@@ -1,4 +1,4 @@
-// The chart's curves, looked for in its pixels where the core's relations say that they are.
+// Looks for the chart's curves in its pixels, where the core's relations put them.
 
 #include "chart/Layout.h"
 #include "chart/Painter.h"
@@ -23,7 +23,7 @@ Single saturatedW(double t)
                                           relationsPressure());
 }
 
-/// The humidity ratio of a curve at a dry bulb, straight from the relations.
+/// The humidity ratio of a curve at a dry bulb, directly from the relations.
 double ratioOn(chart::Family family, double value, double t)
 {
     const auto tdb = static_cast<Single>(t);
@@ -41,7 +41,7 @@ double ratioOn(chart::Family family, double value, double t)
     }
 }
 
-/// The argument between two at which a function that only rises, or only falls, has a value.
+/// The argument between low and high at which a monotonic function has the given value.
 double whereIs(double value, double low, double high, const std::function<double(double)>& function)
 {
     const bool rises = function(high) > function(low);
@@ -60,7 +60,7 @@ double tdbOfVolume(double volume, double w, const chart::Axis& tdb)
     });
 }
 
-/// The chart painted with one curve alone, or with none, on paper of one colour.
+/// The chart painted with only one curve, or with none, on a plain background.
 class Picture1
 {
 public:
@@ -88,7 +88,7 @@ private:
     chart::Layout chart;
 };
 
-/// Looks along a column or a row for the curve, a few pixels about its place; device pixels.
+/// Looks for the curve along a column or row, within a few device pixels of its place.
 class Finder
 {
 public:
@@ -116,7 +116,7 @@ private:
         constexpr int around = 12;
         constexpr int visible = 25;
         const int middle = static_cast<int>(std::floor(place));
-        int first = middle - around; // of the strongest pixels: a wide line has several
+        int first = middle - around; // of the strongest pixels; a wide line has several
         int last = first;
         for (int next = first; next <= middle + around; ++next) {
             if (strengthAt(next) > strengthAt(first))
@@ -133,7 +133,7 @@ private:
     Picture1 without;
 };
 
-/// Off the plot's edges, where the axes and the end of the line are.
+/// The plot without its edges, where the axes and the end of the line are.
 QRectF inner(const QRectF& plot) { return plot.adjusted(4, 4, -4, -4); }
 
 /// A curve whose humidity ratio is known at a dry bulb.

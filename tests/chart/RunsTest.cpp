@@ -1,4 +1,4 @@
-// Which of the recorded runs the chart shows, and how far it stretches for them.
+// Which of the recorded runs the chart shows, and how far it extends to include them.
 
 #include "chart/Runs.h"
 #include "chart/Layout.h"
@@ -77,7 +77,7 @@ TEST_F(ChartedRuns, OfTheOtherUnitsAreNotShown)
     keepAir(airAt(75, 50));
     Mode{True16, 101.325F}.putInForce();
     EXPECT_EQ(shown(), Names());
-    Mode{True16, 14.696F}.putInForce(); // what a refused pressure leaves
+    Mode{True16, 14.696F}.putInForce(); // the mode after a refused pressure
     EXPECT_EQ(shown(), Names());
     Mode{True16, 101.325F}.putInForce();
     keepAir(airAt(20, 50));
@@ -159,7 +159,7 @@ TEST_F(ChartedRuns, FarOutsideDoNotStretchTheChart)
 {
     const AirSnapshot entering = airAt(70, 50);
     AirSnapshot leaving = entering;
-    leaving.Tdb = 390; // in the range of the relations, not of the chart
+    leaving.Tdb = 390; // in the range of the relations but not of the chart
     KeepLastRun(Calculator::Heating, {{"entering", entering}, {"leaving", leaving}});
     EXPECT_EQ(shown().size(), 2U);
     const chart::Layout layout({560, 610}, QApplication::font());

@@ -27,7 +27,7 @@ TEST_F(DecimalComma, ReadsAndShowsEveryFieldWithAComma)
     EXPECT_EQ(user.text("txtRH"), "50,0");
     EXPECT_EQ(user.text("txtTwb"), "58,9");
     EXPECT_EQ(user.text("txtW").substr(0, 6), "0,0079");
-    user.click("btnCALCULATE"); // what it shows it reads again
+    user.click("btnCALCULATE"); // reads back what it shows
     EXPECT_TRUE(user.messages.empty());
     EXPECT_EQ(user.text("txtRH").substr(2), ",0");
 }

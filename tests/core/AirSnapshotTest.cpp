@@ -25,7 +25,7 @@ TEST_F(Snapshot, FreezesEveryFieldAsASingle)
 
     const AirSnapshot snapshot = AirSnapshot::of(state, 1);
 
-    // Eighteen singles in their order, the absolute temperature not among them.
+    // Eighteen singles in order, without the absolute temperature.
     static_assert(sizeof(AirSnapshot) == 18 * sizeof(Single));
     const auto values = std::bit_cast<std::array<Single, 18>>(snapshot);
     for (std::size_t i = 0; i < values.size(); ++i)

@@ -3,9 +3,9 @@
 
 namespace {
 
-constexpr Single Untouched = 7.25F; // what the loads of a case hold before
+constexpr Single Untouched = 7.25F; // the loads before each case
 
-/// The loads as a process starts with them.
+/// The loads at process start.
 template <class Core>
 class Loads : public Core
 {
@@ -76,7 +76,7 @@ TEST_F(EnglishLoads, MeetEveryCaseToTheLastBit)
     EXPECT_GE(counts[1], 600);
 }
 
-// A row of the table is taken where it does NOT hold the wet bulb.
+// Intentional: uses the first row of the table that does NOT contain the wet bulb.
 TEST_F(EnglishLoads, TakeTheCondensateFromTheFirstBandWithoutTheWetBulb)
 {
     EXPECT_EQ(CondensateEnthalpy(32.5F), RoundToSingle(32.5 - 31.97));
@@ -122,7 +122,7 @@ TEST_F(MetricLoads, OfADryCoilLeaveRoundingNoiseForTheLatentOne)
     EXPECT_NEAR(LatentLoad.asDouble(), 0.0, 1e-6);
 }
 
-// The flag decides: a wet bulb makes the coil wet, even with a dry bulb above the entering dew point.
+// The flag decides: with a wet bulb the coil is wet, even if the dry bulb is above the entering dew point.
 TEST_F(EnglishLoads, AreWetWithAWetBulbWhateverTheDryBulb)
 {
     coolBy(20.0F, 30.0F, 0.01F);
@@ -148,7 +148,7 @@ TEST_F(EnglishLoads, AreDryWithADryBulbAtTheEnteringDewPoint)
     EXPECT_TRUE(SameBits(TotalLoad, SensibleLoad.asSingle()));
 }
 
-// Nothing clips a latent load below zero.
+// A negative latent load is not clipped.
 TEST_F(MetricLoads, LetTheLatentOneBeNegative)
 {
     coolBy(20.0F, 10.0F, 0.0F);

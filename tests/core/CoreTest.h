@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-/// The number of the RunTimeError that an action ends with, or 0.
+/// The number of the RunTimeError that the action throws, or 0.
 template <typename Action>
 int ErrorOf(Action&& action)
 {
@@ -42,13 +42,13 @@ inline std::ostream& operator<<(std::ostream& out, NumberKind kind)
     return out << names[static_cast<int>(kind)];
 }
 
-/// One of the tagged numbers of a state.
+/// A tagged number of a state.
 using StateItem = TaggedNumber MoistAirState::*;
 
 /// The messages that the core has shown.
 inline std::vector<std::string> shownMessages;
 
-/// A core as it is when the process starts, in English units.
+/// The core as at process start, in English units.
 class EnglishCore : public testing::Test
 {
 protected:

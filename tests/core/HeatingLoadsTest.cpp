@@ -9,7 +9,7 @@ class Heating : public Core
 protected:
     Heating() { HeatingEnteringAir = HeatingLeavingAir = {}; }
 
-    /// Heats air of a humidity ratio of 0.008 from one temperature to another.
+    /// Heats air with a humidity ratio of 0.008 from one temperature to another.
     static void heat(Single volume, Single specificVolume, Single from, Single to)
     {
         HeatingEnteringAir = {.AirVolume = volume,

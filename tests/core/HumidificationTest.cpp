@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr Single Untouched = 7.25F; // what the fields of a case hold before
+constexpr Single Untouched = 7.25F; // the fields before each case
 
 template <class Core>
 class Humidification : public Core
@@ -43,7 +43,7 @@ const std::vector<std::pair<std::string, Single AirSnapshot::*>> KeptFields{
     {"td", &AirSnapshot::td},       {"Twb", &AirSnapshot::Twb},
     {"SpVol", &AirSnapshot::SpVol}, {"h", &AirSnapshot::h}};
 
-/// What the calculation never writes into the snapshot.
+/// The fields of the snapshot that the calculation never writes.
 const std::vector<Single AirSnapshot::*> ForeignFields{
     &AirSnapshot::AirVolume, &AirSnapshot::RH,    &AirSnapshot::PwsDew, &AirSnapshot::PwsWet,
     &AirSnapshot::Pws,       &AirSnapshot::WsWet, &AirSnapshot::Pw,     &AirSnapshot::ReservedSingle,
@@ -96,7 +96,7 @@ void ExpectMoisture(const LoadCase& given, const MoistureRequired& moisture)
     EXPECT_EQ(Spelling(moisture.flowPerDay), expected("flowPerDay"));
 }
 
-/// What the four output fields would show.
+/// The texts of the four output fields.
 std::vector<std::string> Shown(const MoistureRequired& moisture)
 {
     const char* const mass = IsMetric() ? "#0.000" : "#0.00";
@@ -135,7 +135,7 @@ TEST_F(EnglishHumidification, MeetsTheWorkedFigures)
     EXPECT_EQ(Shown(RequiredMoisture(500.0F)), (Texts{"15.00", "360.00", "1.80", "43.14"}));
 }
 
-// 1000 / 0.8 * 0.005 kg/hr; a litre of water is a kilogram.
+// 1000 / 0.8 * 0.005 kg/hr; a liter of water has 1 kg.
 TEST_F(MetricHumidification, TakesALitreForAKilogram)
 {
     moisten(0.003F, 0.008F, 0.8F);
@@ -202,7 +202,7 @@ TEST_F(EnglishHumidification, FaultsBeyondTheSaturationCurve)
     EXPECT_EQ(HumidDesiredAir.SpVol, 0.0F);
 }
 
-// No limits here: the air is simply above saturation.
+// There is no limit: the air is above saturation.
 TEST_F(MetricHumidification, TakesMoreThan100Percent)
 {
     desire(20.0F, 150.0F, 101325.0F);
@@ -211,7 +211,7 @@ TEST_F(MetricHumidification, TakesMoreThan100Percent)
     EXPECT_GT(HumidDesiredAir.Mu, 1.0F);
 }
 
-// Saturated air is searched for its wet bulb like any other.
+// The wet bulb of saturated air is searched for like any other.
 TEST_F(EnglishHumidification, TakesNoShortcutForSaturatedAir)
 {
     desire(70.0F, 100.0F, 14.696F);

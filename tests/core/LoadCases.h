@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/// One line of a file of cases: its cells by the names of their columns.
+/// One line of a case file: its cells by column name.
 class LoadCase
 {
 public:
@@ -17,7 +17,7 @@ public:
     {
         std::istringstream stream(line);
         for (const std::string& name : names) {
-            std::string cell; // stays empty at the end of the line, where the last cells are
+            std::string cell; // remains empty for cells missing at the end of the line
             std::getline(stream, cell, ',');
             cells_[name] = cell;
         }
@@ -54,7 +54,7 @@ inline std::vector<LoadCase> LoadCasesIn(const std::string& file)
     return cases;
 }
 
-/// A number with its kind, to the last bit.
+/// A number and its kind, to the last bit.
 inline std::string Spelling(const std::string& kind, double value)
 {
     std::ostringstream text;
@@ -69,7 +69,7 @@ inline std::string Spelling(NumberKind kind, double value)
 }
 inline std::string Spelling(const TaggedNumber& number) { return Spelling(number.kind(), number.asDouble()); }
 
-/// The number of a case whose kind has a column of its own.
+/// A number of a case, with the kind from the column for it.
 inline std::string SpellingIn(const LoadCase& given, const std::string& name)
 {
     return Spelling(given.text(name + ".kind"), given.number(name));

@@ -8,13 +8,13 @@ using NumberPicture = EnglishCore;
 TEST_F(NumberPicture, RoundsATypedNumberAsItReadsAndASingleAsItIsHeld)
 {
     EXPECT_EQ(FormatNumber(70.35, "#0.0"), "70.4");
-    EXPECT_EQ(FormatNumber(70.35F, "#0.0"), "70.3"); // held as 70.3499985
+    EXPECT_EQ(FormatNumber(70.35F, "#0.0"), "70.3"); // stored as 70.3499985
     EXPECT_EQ(FormatNumber("70.35", "#0.0"), "70.4");
     EXPECT_EQ(FormatNumber(1234567.75F, "#,###.#"), "1,234,567.8");
     EXPECT_EQ(FormatNumber(0.125, "#0.00"), "0.13");
     EXPECT_EQ(FormatNumber(-0.125, "#0.00"), "-0.13");
     EXPECT_EQ(FormatNumber(2.5F, "#0"), "3");
-    EXPECT_EQ(FormatNumber(0.285, "0.00"), "0.29"); // held below, at 15 digits exactly half
+    EXPECT_EQ(FormatNumber(0.285, "0.00"), "0.29"); // stored as less, but exactly half at 15 digits
     EXPECT_EQ(FormatNumber(0.2849999, "0.00"), "0.28");
 }
 
@@ -146,11 +146,11 @@ TEST_F(NumberPicture, RefusesAPictureItDoesNotKnow)
         EXPECT_EQ(ErrorOf([&] { FormatNumber(1, picture); }), InvalidArgument) << picture;
 }
 
-// Every number of up to five decimals in the range of the screens, against rounding in whole numbers.
+// Compares every number with up to five decimals in the range of the screens with integer rounding.
 TEST_F(NumberPicture, RoundsEveryDecimalAsOneWouldOnPaper)
 {
-    // 0.00000 to 125.00000: every fifth, so every half of a place. The sample's step meets the halves as
-    // well.
+    // 0.00000 to 125.00000, in steps of 5, so with every half of a place. The sample's step includes halves,
+    // too.
     for (int n = 0; n <= 12500000; n += 5 * OneOf("numbers", 1, 20)) {
         const double value = n / 100000.0;
         const int hundredths = (n + 500) / 1000;
@@ -162,7 +162,7 @@ TEST_F(NumberPicture, RoundsEveryDecimalAsOneWouldOnPaper)
     }
 }
 
-// Singles have no more than 24 bits, so exact arithmetic in eighths and whole numbers is at hand.
+// Singles have at most 24 bits, so integer arithmetic on eighths is exact.
 TEST_F(NumberPicture, RoundsEveryEighthAwayFromZero)
 {
     for (int eighths = 0; eighths < 400000; ++eighths) {

@@ -67,7 +67,7 @@ TEST_F(NumberText, ReadsTheUsersOwnSpelling)
     numberLocale = German;
     EXPECT_EQ(ParseDouble("14,696"), 14.696);
     EXPECT_EQ(ParseDouble("1.234.567,8"), 1234567.8);
-    EXPECT_EQ(ParseDouble("70.5"), 705.0); // the point only groups here
+    EXPECT_EQ(ParseDouble("70.5"), 705.0); // the point is the group separator here
     EXPECT_EQ(ErrorOf([] { ParseDouble("1,5,0"); }), TypeMismatch);
 
     numberLocale = French;
@@ -143,7 +143,7 @@ TEST_F(NumberText, ReadsAnyNumberOfDigitsAroundThePoint)
 
 TEST_F(NumberText, TellsTooLargeFromTooSmallAtEachPlaceOfThePoint)
 {
-    // The first digit's place decides, wherever the point stands.
+    // The place of the first digit decides, wherever the point is.
     for (int places = 0; places <= 400; ++places) {
         const std::string zeros(static_cast<std::size_t>(places), '0');
         const std::string up = std::to_string(309 + places);
@@ -253,7 +253,7 @@ TEST_F(NumberText, ReadsBackWhatItShows)
 TEST_F(NumberText, ShowsTheDigitsThatAnIndependentConversionGives)
 {
     std::mt19937_64 random(11);
-    const auto plain = [](std::string text) { // without an exponent: the values are of a middle size
+    const auto plain = [](std::string text) { // without an exponent: the values are neither large nor small
         while (text.find('.') != std::string::npos && (text.back() == '0' || text.back() == '.')) {
             const bool point = text.back() == '.';
             text.pop_back();

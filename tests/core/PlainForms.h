@@ -2,9 +2,9 @@
 
 #include "core/Single.h"
 
-// The reference forms of what the program computes faster. They follow the rules word for word: powers come
-// from the general power function, and every pass of the search works out both of its residuals afresh and in
-// full. The tests hold the fast forms to the same bits and the same errors.
+// Reference forms of the optimized computations. They follow the equations literally: powers come from
+// std::pow, and every pass of the search computes both residuals anew. The tests require the optimized forms
+// to give the same bits and the same errors.
 
 /// SaturationPressure with its powers from std::pow.
 Single PlainSaturationPressure(Single T);
@@ -15,5 +15,5 @@ Single PlainDewPointFromVaporPressure(Single pw);
 /// WetBulbResidual on PlainSaturationPressure.
 Single PlainWetBulbResidual(Single candidate, Single tdb, Single p, Single w);
 
-/// SolveWetBulb with two residuals a pass.
+/// SolveWetBulb with two residuals per pass.
 Single PlainSolveWetBulb(Single tdb, Single w, Single p);

@@ -1,4 +1,4 @@
-// What the program computes faster gives the bits of the plain form, over every argument that there is.
+// The optimized computations give the same bits as the plain forms for every argument.
 
 #include "tests/core/PlainForms.h"
 #include "tests/core/CoreTest.h"
@@ -10,7 +10,7 @@ namespace {
 
 std::uint32_t BitsOf(Single value) { return std::bit_cast<std::uint32_t>(value); }
 
-/// Compares the two forms over the singles from first to last in steps, and returns how many there were.
+/// Compares the two forms over the singles from first to last in steps. Returns the number of comparisons.
 long ExpectSameOver(Single first, Single last, std::uint32_t step, Single (*fast)(Single),
                     Single (*plain)(Single))
 {
@@ -53,8 +53,8 @@ TEST_F(MetricPlainForms, SaturationPressureIsTheSameAtEveryTemperature)
     EXPECT_GT(ExpectSameSaturation(175.0F, 473.0F), IsThorough ? 12000000 : 190000);
 }
 
-// From the driest clipped air in the cold to the boiling point every single, and a sample of all the rest.
-// (The whole range, 2139095039 pressures, was gone through once: no dew point differs.)
+// Every single from the driest clipped cold air to the boiling point, and a sample of all others. (The whole
+// range, 2139095039 pressures, was tested once: no dew point differs.)
 TEST_F(MetricPlainForms, DewPointIsTheSameAtEveryPressureOfAir)
 {
     ExpectSameDewPoints(0.01F, 101.325F, OneOf("pressures", 1U, 101U));

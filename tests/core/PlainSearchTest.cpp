@@ -1,5 +1,5 @@
-// The wet bulb search against its plain form: millions of searches, results to the bit and failures by their
-// number.
+// The wet bulb search compared with its plain form: millions of searches, results to the last bit and
+// failures by number.
 
 #include "core/WetBulbBracket.h"
 #include "tests/core/CoreTest.h"
@@ -17,7 +17,7 @@ struct Air
     Single tdb, w, p;
 };
 
-/// What a search comes to: the bits of its result, or the number of its failure.
+/// The outcome of a search: the bits of its result, or the number of its failure.
 struct Outcome
 {
     Single result = 0.0F;
@@ -64,7 +64,7 @@ protected:
         return RoundToSingle(std::uniform_real_distribution<double>(least, most)(random));
     }
 
-    /// Even over the orders of magnitude.
+    /// Distributed evenly over the orders of magnitude.
     Single magnitude(double least, double most)
     {
         return RoundToSingle(
@@ -82,7 +82,7 @@ protected:
 
     Single anySign(Single value) { return random() % 2 == 0 ? value : -value; }
 
-    /// Air as the screens let it in, up to a little above saturation.
+    /// Air that the screens accept, up to slightly above saturation.
     Air ofScreens()
     {
         const Single tdb = IsMetric() ? uniform(-40, 50) : uniform(-40, 125);
@@ -91,8 +91,7 @@ protected:
         return {tdb, RoundToSingle(ws * uniform(0, 1.02)), p};
     }
 
-    /// Air whose wet bulb lies about 0 degrees, where a search takes all its passes and ends between two
-    /// singles.
+    /// Air with a wet bulb near 0 degrees, where a search runs all its passes and ends between two singles.
     Air aboutZero()
     {
         const Single p = IsMetric() ? uniform(50000, 110000) : uniform(7, 16);
@@ -102,7 +101,7 @@ protected:
         return {tdb, HumidityRatioFromWetBulb(wetBulb, tdb, ws), p};
     }
 
-    /// Air about the freezing point, where the saturation pressure steps from ice to water.
+    /// Air near the freezing point, where the saturation pressure changes from ice to water.
     Air aboutFreezing()
     {
         const Single freezing = IsMetric() ? 0.0F : 32.0F;
@@ -113,13 +112,13 @@ protected:
         return {tdb, HumidityRatioFromWetBulb(wetBulb, tdb, ws), p};
     }
 
-    /// Temperatures past both ends of the saturation pressure, humidities and pressures of every size.
+    /// Temperatures beyond both ends of the saturation pressure, and humidities and pressures of every size.
     Air farOut()
     {
         return {uniform(-600, 3000), anySign(magnitude(1e-30, 1e12)), anySign(magnitude(1e-30, 1e12))};
     }
 
-    /// A pressure that a candidate's saturation pressure is about to meet.
+    /// A pressure close to a candidate's saturation pressure.
     Air boiling()
     {
         const Single tdb = IsMetric() ? uniform(-40, 200) : uniform(-40, 390);
@@ -258,11 +257,11 @@ TEST_F(Searches, FailAlikeAtEveryEdge)
         }
     }
     EXPECT_EQ(different, 0);
-    EXPECT_GT(failures, 100); // or the edges were none
+    EXPECT_GT(failures, 100); // otherwise the cases don't reach the edges
 }
 
-// At exactly the pressure of a candidate the search divides by zero, on the pass that tries it and not
-// before.
+// At a pressure equal to a candidate's saturation pressure, the search divides by zero on the pass that tries
+// that candidate, not earlier.
 TEST_F(Searches, FailAlikeWhereACandidateBoils)
 {
     for (const Boolean16 mode : {False16, True16}) {

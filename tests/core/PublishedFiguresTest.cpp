@@ -1,5 +1,5 @@
-// The relations and solvers against figures printed in the ASHRAE Handbook, each within the bound that stands
-// beside it.
+// The relations and solvers compared with figures printed in the ASHRAE Handbook of Fundamentals, each within
+// the bound listed with it.
 
 #include "tests/core/CoreTest.h"
 
@@ -105,7 +105,7 @@ TEST_F(PublishedFigures, AreMetWithinTheirBounds)
     ASSERT_EQ(figures.size(), 24U);
     for (const Figure& figure : figures) {
         if (figure.mode == "Metric" && figure.quantity == "dew point")
-            continue; // a reading off a chart: see the next test
+            continue; // read off a chart: see the next test
         ASSERT_TRUE(figure.mode == "English" || figure.mode == "Metric");
         UnitSystem = figure.mode == "Metric" ? True16 : False16;
         EXPECT_NEAR(Worked(figure), figure.published, figure.bound())
@@ -114,8 +114,7 @@ TEST_F(PublishedFigures, AreMetWithinTheirBounds)
 }
 
 // The Handbook reads the dew point of its metric example off a chart, in whole degrees, as 7 deg C. The
-// humidity ratio that it prints beside it, 0.0065, is saturated at 7.6 deg C, and that is what has to come
-// out.
+// humidity ratio printed beside it, 0.0065, is saturated at 7.6 deg C, which is the result expected here.
 TEST_F(PublishedFigures, DewPointOfTheMetricExampleFollowsFromItsHumidityRatio)
 {
     UnitSystem = True16;

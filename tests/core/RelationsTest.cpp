@@ -17,7 +17,7 @@ TEST_F(MetricRelations, AbsoluteTemperatureIsInKelvin)
 {
     EXPECT_EQ(ToAbsolute(-40.0F), 233.15F);
     EXPECT_EQ(ToAbsolute(0.0F), 273.15F);
-    EXPECT_EQ(FahrenheitToRankine(70.0F), 529.67F); // its own scale in either mode
+    EXPECT_EQ(FahrenheitToRankine(70.0F), 529.67F); // the same in both unit modes
 }
 
 TEST_F(MetricRelations, AnyUnitSystemButZeroIsMetric)
@@ -57,7 +57,7 @@ TEST_F(MetricRelations, SaturationPressureIsZeroOutsideItsRange)
     EXPECT_GT(SaturationPressure(std::nextafter(473.0F, 0.0F)), 0.0F);
 }
 
-// The two branches differ by a step at their limit, which tells which one was taken there.
+// The branches differ at their limit, which shows the one used.
 TEST_F(EnglishRelations, FreezingPointIsTakenOverIce)
 {
     const Single limit = ToAbsolute(32.0F);
@@ -105,13 +105,13 @@ TEST_F(EnglishRelations, EveryVanishingDivisorFaults)
     EXPECT_EQ(ErrorOf([] { DegreeOfSaturation(0.0F, 0.0F); }), DivisionByZero);
     EXPECT_EQ(ErrorOf([] { SpecificVolumeOf(530.0F, 0.01F, 0.0F); }), DivisionByZero);
     EXPECT_EQ(ErrorOf([] { RHFromDegreeOfSaturation(0.5F, 0.3F, 0.0F); }), DivisionByZero);
-    // (1 - mu) pws / P is 1: the outer divisor vanishes
+    // (1 - mu) pws / P is 1: the outer divisor is 0
     EXPECT_EQ(ErrorOf([] { RHFromDegreeOfSaturation(0.5F, 2.0F, 1.0F); }), DivisionByZero);
     EXPECT_EQ(ErrorOf([] { RHFromDegreeOfSaturation(0.0F, 1.0F, 1.0F); }), DivisionByZero);
 }
 
-// The quotient pws / P is infinite here and its reciprocal would be a harmless 0: the fault must not get
-// lost.
+// The quotient pws / P is infinite here and its reciprocal would be a harmless 0. The error must still be
+// reported.
 TEST_F(EnglishRelations, AFaultHiddenInsideAnExpressionIsReported)
 {
     EXPECT_EQ(ErrorOf([] { RHFromDegreeOfSaturation(0.5F, 1.0F, 0.0F); }), DivisionByZero);
@@ -130,9 +130,9 @@ TEST_F(EnglishRelations, AResultTooLargeForASingleFaults)
     EXPECT_EQ(ErrorOf([] { HumidityRatioFromWetBulb(1092.9F, 0.0F, huge); }), Overflow);
     EXPECT_EQ(ErrorOf([] { VaporPressureFromHumidityRatio(huge, -0.62F); }), Overflow);
     EXPECT_EQ(ErrorOf([] { RHFromDegreeOfSaturation(huge, 2.0F, 1.0F); }),
-              0); // both grow: the quotient is tame
+              0); // both are huge, but not the quotient
     EXPECT_EQ(ErrorOf([] { RHFromDegreeOfSaturation(huge, 0.0F, 1.0F); }), 0);
-    EXPECT_EQ(ErrorOf([] { DewPointFromVaporPressure(huge); }), Overflow); // on the way to kPa
+    EXPECT_EQ(ErrorOf([] { DewPointFromVaporPressure(huge); }), Overflow); // in the conversion to kPa
 }
 
 TEST_F(MetricRelations, AResultTooLargeForASingleFaults)
@@ -243,7 +243,7 @@ TEST_F(EnglishRelations, VapourPressureAndHumidityRatioAreInverse)
 TEST_F(MetricRelations, DewPointWantsKiloPascal)
 {
     EXPECT_NEAR(DewPointFromVaporPressure(2.3388F), 20.01, 0.01);
-    EXPECT_NEAR(DewPointFromVaporPressure(2338.8F), 210.0, 1.0); // the mistake of passing Pa is not noticed
+    EXPECT_NEAR(DewPointFromVaporPressure(2338.8F), 210.0, 1.0); // Pa passed by mistake is not detected
 }
 
 TEST_F(EnglishRelations, DewPointConvertsPsiAndFahrenheit)
@@ -267,7 +267,7 @@ TEST_F(MetricRelations, DewPointRefusesADryOrNegativePressure)
     EXPECT_EQ(ErrorOf([] { DewPointFromVaporPressure(-100.0F); }), InvalidArgument);
 }
 
-// The first regression ends a little above 0 and the second goes on below, without smoothing.
+// The first regression ends slightly above 0 and the second continues below, without smoothing.
 TEST_F(MetricRelations, DewPointJumpsWhereItsRegressionsMeet)
 {
     const auto first = [](Single pw) {

@@ -17,8 +17,7 @@ TEST(RoundToScale, RoundsHalvesToEven)
 
 TEST(RoundToScale, MultipliesByTheKindsOfItsOperands)
 {
-    // As a single the product is 33.5 exactly, a half that goes to 34; as a double it lies below and goes
-    // to 33.
+    // As a single, the product is exactly 33.5 and rounds to 34. As a double, it is less and rounds to 33.
     constexpr Single value = 3.35F;
     ASSERT_EQ(value * 10.0F, 33.5F);
     ASSERT_LT(static_cast<double>(value) * 10.0, 33.5);

@@ -1,4 +1,4 @@
-// A state is the same state from whichever of its items it is solved.
+// A state is the same, whichever of its items it is solved from.
 
 #include "tests/core/CoreTest.h"
 
@@ -9,18 +9,18 @@ namespace {
 
 struct Tolerance
 {
-    double humidity;    // of W, relative
-    double temperature; // of wet bulb and dew point, degrees
+    double humidity;    // relative, for W
+    double temperature; // degrees, for wet bulb and dew point
 };
 
-// The search ends within 0.01 percent of the wet bulb, and the dew point is a regression: its authors give it
-// a few hundredths of a degree, which is some tenths of a percent of the humidity.
+// The search ends within 0.01 percent of the wet bulb. The dew point is a regression, accurate to a few
+// hundredths of a degree, which is a few tenths of a percent of the humidity.
 constexpr Tolerance exact{2e-6, 0.02};
 constexpr Tolerance searched{0.005, 0.05};
 constexpr Tolerance regressed{0.015, 0.25};
 
-/// Holds each property to what the tolerance of W means for it: volume grows with 1 + 1.6078 W, enthalpy with
-/// the heat of vaporisation, the humidities in proportion.
+/// Checks each property within the bound that follows from the tolerance of W: volume grows with 1 + 1.6078
+/// W, enthalpy with the heat of vaporization, the humidities proportionally.
 void ExpectSame(const MoistAirState& state, const MoistAirState& expected, const Tolerance& tolerance)
 {
     const double W = expected.W.asDouble();

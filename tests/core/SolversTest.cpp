@@ -18,7 +18,7 @@ void SolveRH(Single Tdb, Single P, Single percent)
     SolveFromRH();
 }
 
-/// Gives every field a value of its own that no solver would give it.
+/// Sets every field to a value that no solver would give it.
 void Litter()
 {
     for (TaggedNumber* field : {&StatePoint.Mu, &StatePoint.Grains, &StatePoint.RH, &StatePoint.SpVol,
@@ -108,7 +108,7 @@ TEST_F(EnglishSolvers, RaiseAlmostFullHumidityToFull)
     EXPECT_EQ(StatePoint.RH.asSingle(), 0.9995F);
 }
 
-// So whether the limit itself counts as above it makes no difference.
+// So it makes no difference whether the limit itself counts as above.
 TEST_F(EnglishSolvers, MeetNoHumidityExactlyAtTheUpperLimit)
 {
     double percent = 99.99 - 1e-9;
@@ -123,7 +123,7 @@ TEST_F(EnglishSolvers, MeetNoHumidityExactlyAtTheUpperLimit)
 TEST_F(EnglishSolvers, ReadAClippedHumidityByItsKind)
 {
     SetAir(70.0F, 14.696F);
-    StatePoint.RH = 100; // as the screen clips it
+    StatePoint.RH = 100; // the screen's upper clip
     SolveFromRH();
     EXPECT_EQ(StatePoint.RH.kind(), NumberKind::Double);
     EXPECT_EQ(StatePoint.RH.asDouble(), 1.0);
@@ -152,14 +152,14 @@ TEST_F(EnglishSolvers, TakeTheDryBulbLessAHairForSaturatedAir)
     EXPECT_EQ(StatePoint.Twb.kind(), NumberKind::Single);
 }
 
-// A rounding to single would carry each of the lower two over its limit.
+// Rounding to single would move each of the lower two over its limit.
 TEST_F(EnglishSolvers, CompareAHumidityAsItIsHeld)
 {
     SetAir(70.0F, 14.696F);
-    StatePoint.RH = 99.89999999999999; // of which the hundredth is just below 0.999
+    StatePoint.RH = 99.89999999999999; // divided by 100, just below 0.999
     SolveFromRH();
     EXPECT_EQ(StatePoint.Twb.kind(), NumberKind::Single);
-    StatePoint.RH = 99.9; // and here just above
+    StatePoint.RH = 99.9; // just above
     SolveFromRH();
     EXPECT_EQ(StatePoint.Twb.kind(), NumberKind::Double);
     StatePoint.RH = 99.989999; // above the single 0.9999, below the double
@@ -390,7 +390,7 @@ TEST_F(MetricSolvers, DivideThePressureForTheDewPoint)
     EXPECT_EQ(StatePoint.td.asSingle(), DewPointFromVaporPressure(kiloPascal));
 }
 
-// The screens offer grains in English alone. The solver follows its steps in either mode all the same.
+// The screens offer grains in English only. The solver does the same in both unit modes.
 TEST_F(MetricSolvers, GrainsKeepToTheEnglishScaleAndPassPascal)
 {
     SetAir(20.0F, 101325.0F);
@@ -403,7 +403,7 @@ TEST_F(MetricSolvers, GrainsKeepToTheEnglishScaleAndPassPascal)
 TEST_F(EnglishSolvers, ComputeOnADoublePressureRoundedToSingle)
 {
     SetAir(70.0F, 0.0F);
-    StatePoint.P = 14.696; // a double this time
+    StatePoint.P = 14.696; // a double here
     StatePoint.RH = 50.0F;
     SolveFromRH();
     const Single W = StatePoint.W.asSingle();

@@ -1,4 +1,4 @@
-// Every solver against states that were worked out independently, to the last bit.
+// Every solver compared with independently computed states, to the last bit.
 
 #include "tests/core/CoreTest.h"
 
@@ -91,7 +91,7 @@ std::string Held(const Field& field)
 
 std::string Expected(const Row& row, const std::string& name)
 {
-    const bool input = name == "P" || name == "Tdb"; // whose plain names are taken by what went in
+    const bool input = name == "P" || name == "Tdb"; // their plain names are those of the inputs
     const TaggedNumber number = Tagged(row.at(name + ".kind"), row.at(input ? name + ".after" : name));
     return Spelling(number.kind(), number.asDouble());
 }

@@ -64,7 +64,7 @@ TEST(TaggedNumber, TakesOnlyIntegersOf16Bits)
 
 TEST(TaggedNumber, TakesNoPlainBoolean)
 {
-    // A true of the language is 1, one of the calculator -1: which was meant has to be written out.
+    // C++ true is 1, the calculator's true is -1: the caller must say which.
     static_assert(!std::is_constructible_v<TaggedNumber, bool>);
     static_assert(!std::is_assignable_v<TaggedNumber&, bool>);
     ExpectHolds(True16, NumberKind::Int16, -1.0);
@@ -146,7 +146,7 @@ TEST(TaggedNumber, ReadsATextOnlyWhenItIsAskedTo)
 
 TEST(TaggedNumber, ComparesTheValueAsHeld)
 {
-    // As a single, 0.999 lies above the double 0.999; just below it, as a double, rounding would hide the
+    // As a single, 0.999 is above the double 0.999. Just below it, rounding a double would hide the
     // difference.
     EXPECT_TRUE(TaggedNumber(0.999F) >= 0.999);
     EXPECT_TRUE(TaggedNumber(0.99899999999) < 0.999);

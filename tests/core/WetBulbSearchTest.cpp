@@ -3,7 +3,7 @@
 
 namespace {
 
-/// The passes that the search takes, counted on its own bracket.
+/// The number of passes of the search, counted with its own bracket.
 int PassesFor(Single tdb, Single w, Single p)
 {
     WetBulbBracket bracket(tdb);
@@ -79,7 +79,7 @@ TEST_F(EnglishWetBulb, EndsWhereAStepIsExactlyItsTolerance)
     WetBulbBracket bracket(70.0F);
     bracket.lower = 9999.0F;
     bracket.mid = 10001.0F;
-    EXPECT_TRUE(bracket.narrow(-1)); // to 10000, a step of 0.01 percent
+    EXPECT_TRUE(bracket.narrow(-1)); // a step of 0.01 percent, to 10000
     bracket.lower = 9998.0F;
     bracket.mid = 10002.0F;
     EXPECT_FALSE(bracket.narrow(-1));
@@ -111,7 +111,7 @@ TEST_F(EnglishWetBulb, ResidualIsTheCandidatesRatioLessTheGivenOne)
     EXPECT_EQ(WetBulbResidual(60.0F, 75.0F, 14.696F, candidateW), 0.0F);
 }
 
-// Without a root in the bracket the lower end climbs, and nothing tells.
+// Intentional: without a root in the bracket the lower end rises, and the failure is not reported.
 TEST_F(EnglishWetBulb, EndsJustBeneathTheDryBulbWhereThereIsNoRoot)
 {
     EXPECT_NEAR(SolveWetBulb(70.0F, 0.05F, 14.696F), 69.995, 0.02); // above every candidate
@@ -132,8 +132,7 @@ TEST_F(EnglishWetBulb, ReturnsTheMidpointWhoseResidualIsZeroAtOnce)
     EXPECT_EQ(SolveWetBulb(70.0F, W, 14.696F), bracket.mid);
 }
 
-// At an enormous pressure the residuals are tiny, their product underflows, and the first midpoint is
-// returned.
+// At a huge pressure the residuals are tiny, their product underflows, and the first midpoint is returned.
 TEST_F(MetricWetBulb, TakesAProductThatUnderflowsForZero)
 {
     constexpr Single tdb = -40.0F;
@@ -145,8 +144,7 @@ TEST_F(MetricWetBulb, TakesAProductThatUnderflowsForZero)
     EXPECT_EQ(SolveWetBulb(tdb, dry, pressure), bracket.mid);
 }
 
-// No dry bulb from 0.005 to 125 degrees leads the search to such a midpoint, so its bracket is set up by
-// hand.
+// No dry bulb from 0.005 to 125 degrees gives such a midpoint, so the test sets up the bracket.
 TEST_F(EnglishWetBulb, FaultsAtAMidpointOfExactlyZero)
 {
     WetBulbBracket bracket(50.0F);

@@ -81,8 +81,8 @@ TEST_F(AirPropertiesReport, StopsBeforeAHumidityThatIsNoNumber)
 
 TEST_F(AirPropertiesReport, ReadsTheHumidityAsSingleForThePrinterAndAsDoubleForAFile)
 {
-    // 0.25 percent is half way between 0.2 and 0.3. A hundredth of it is 0.0025 as a double, to 15 digits,
-    // and rounds up; the single, 0.00249999994412065, lies below the half.
+    // 0.25 percent is halfway between 0.2 and 0.3. Divided by 100, it is 0.0025 as a double, to 15 digits,
+    // and rounds up. The single, 0.00249999994412065, is below the half.
     fields.txtRH = "0.25";
     EXPECT_EQ(humidityLine(SavedFraction), " Relative Humidity =        0.3%");
     EXPECT_EQ(humidityLine(PrintedFraction), " Relative Humidity =        0.2%");

@@ -19,7 +19,7 @@ protected:
         CoolingEnteringAir.td = RoundToScale(StatePoint.td, 10);
     }
 
-    /// Solves an air, saves it, and then leaves it at a temperature that its moisture is too much for.
+    /// Solves and saves entering air, then sets a leaving temperature at which it is above saturation.
     static void refuseLeavingAir(Single tdb, Single p, const TaggedNumber& volume, Single leavingTdb)
     {
         ShowCoreMessage = [](const std::string&) {};
@@ -97,7 +97,7 @@ TEST_F(CoolingReport, ListsAWetCoilInMetric)
     EXPECT_EQ(report(), expectedReport("cooling-wet-metric"));
 }
 
-// The latent load is the rounding error of the total: the report shows nothing of it.
+// The latent load is the rounding error of the total. The report doesn't show it.
 TEST_F(CoolingReport, ListsADryCoil)
 {
     CoolingEnteringAir = {.AirVolume = 1000.0F,
@@ -140,7 +140,8 @@ TEST_F(CoolingReport, ListsADryCoilInMetric)
     EXPECT_EQ(report(), expectedReport("cooling-dry-metric"));
 }
 
-// The leaving air is the new temperature and relative humidity among properties of the air before.
+// The leaving air has the new temperature and relative humidity; its other properties are from the previous
+// state.
 TEST_F(CoolingReport, ShowsARefusedStateAsItStands)
 {
     refuseLeavingAir(70.0F, 14.696F, 1500.0F, 45.0F);

@@ -76,7 +76,7 @@ protected:
                 .Tdb = 35.0F});
     }
 
-    /// Leaving air as a refused solve leaves it: a new temperature and relative humidity, all else as it was.
+    /// Leaving air after a refused solution: a new temperature and relative humidity, all else unchanged.
     static void refuse(Single tdb, Single rh)
     {
         AirSnapshot leaving = HeatingEnteringAir;
@@ -106,7 +106,7 @@ TEST_F(HeatingReport, ListsAFullRun)
     EXPECT_EQ(saved(), expectedReport("heating-run-saved-english"));
 }
 
-// 8.55 kW: the report drops the decimals that the screen shows.
+// 8.55 kW. The report drops the decimals that the screen shows.
 TEST_F(HeatingReport, ListsAFullRunInMetricInWholeKilowatts)
 {
     heatInMetric();

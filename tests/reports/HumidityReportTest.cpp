@@ -27,7 +27,7 @@ protected:
         return textOfReport([](ReportWriter& report) { WriteSavedHumidityReport(report, read); });
     }
 
-    /// The form as it is made, without numbers.
+    /// The texts of a new form, without numbers.
     static void labelInEnglish()
     {
         texts = {};

@@ -30,7 +30,7 @@ std::string ValueAndUnit(std::string_view value, std::string_view unit)
     return lineOf(&ReportWriter::valueAndUnit, value, unit);
 }
 
-/// The column, from 1, that a text begins at.
+/// The column at which a text begins, counted from 1.
 std::size_t columnOf(const std::string& text, const std::string& line) { return line.find(text) + 1; }
 
 TEST(LineForms, BeginTheDateAtColumn40)
@@ -69,7 +69,7 @@ TEST(LineForms, SetWhatFollowsAShortLabelOneZoneEarlier)
 
 TEST(LineForms, SetTheValueOfTheLongestLabelDirectlyBehindIt)
 {
-    // 26 characters from column 2 end at column 27
+    // 26 characters starting at column 2 end at column 27
     const std::string line = LabelValueAndUnit("Humidity Ratio (grains) = ", "54.5", " grains ");
     EXPECT_EQ(line, " Humidity Ratio (grains) =  54.5           grains ");
 }

@@ -161,7 +161,7 @@ TEST_F(PrintFrame, EndsSilentlyWhereThePrinterTakesNoLine)
 {
     print(printTo(file("out.pdf")), [this](ReportWriter& report) {
         report.heading("text");
-        QDir().mkpath(file("out.pdf")); // a folder where the file is to be
+        QDir().mkpath(file("out.pdf")); // a folder in place of the file
     });
     EXPECT_EQ(bytesOf(temporaryFile()), " text\n");
     EXPECT_TRUE(ReportFile.isOpen());
@@ -181,7 +181,7 @@ TEST_F(PrintFrame, UsesTheUsersOwnFolderWhereOthersMayWriteBesideTheProgram)
     ASSERT_TRUE(victim.open(QIODevice::WriteOnly));
     ASSERT_EQ(chmod(base.toLocal8Bit(), 01777), 0);
     QDir().mkpath(base + "/tempdata");
-    ASSERT_TRUE(QFile::link(file("victim"), temporaryFile())); // as somebody else would plant it
+    ASSERT_TRUE(QFile::link(file("victim"), temporaryFile())); // as another user could plant it
     print(printTo(file("out.pdf")), oneLine("text"));
     EXPECT_EQ(bytesOf(file("victim")), "");
     EXPECT_EQ(bytesOf(qEnvironmentVariable("XDG_DATA_HOME") + "/Dunmoor/tempdata/cooling.txt"), " text\n");
@@ -197,7 +197,7 @@ TEST_F(PrintFrame, EndsSilentlyAtALinkInPlaceOfItsTemporaryFile)
         EXPECT_EQ(bytesOf(file("victim")), content);
         EXPECT_EQ(bytesOf(file("out.pdf")), "(none)");
         EXPECT_FALSE(ReportFile.isOpen());
-        QFile victim(file("victim")); // the second time the link leads to a file
+        QFile victim(file("victim")); // the second time, the link leads to a file
         ASSERT_TRUE(victim.open(QIODevice::WriteOnly));
         victim.write("kept");
     }

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The number of the error that an action raises, 0 for none.
+/// The number of the error that an action throws, or 0.
 template <class Action>
 int errorOf(Action action)
 {

@@ -28,7 +28,7 @@ TEST(ReportWriter, WritesEveryFormAsALine)
                         date + "\n   \n   \n");
 }
 
-/// Another day each time it is asked, as at midnight.
+/// Returns another day on each call, as at midnight.
 std::string tomorrow()
 {
     static int day = 0;
@@ -94,8 +94,8 @@ TEST_F(AirBlockTest, HasSevenLinesInMetricWithTheHumidityRatioInGrams)
 TEST_F(AirBlockTest, MultipliesTheHumidityRatioIntoASingle)
 {
     inMetric();
-    // The single next to 0.00090625 is 0.000906249974. A thousand times that, 0.906249974, lies below the
-    // half between 0.9062 and 0.9063, and the single next to it is the half itself, 0.90625.
+    // The single nearest to 0.00090625 is 0.000906249974. Times 1000, that is 0.906249974, below the half
+    // between 0.9062 and 0.9063. The single nearest to that is the half itself, 0.90625.
     air.W = 0.00090625F;
     EXPECT_NE(block().find(" 0.9063 "), std::string::npos) << block();
 }

@@ -14,7 +14,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-/// Today as the tests' locale writes it.
+/// Today's date in the tests' locale.
 inline QString today()
 {
     const QDate date = QDate::currentDate();
@@ -30,14 +30,14 @@ inline std::string bytesOf(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(none)";
 }
 
-/// A report as it was laid out by hand, with today's date.
+/// The expected text of a report, laid out by hand, with today's date.
 inline std::string expectedReport(const char* name)
 {
     const std::string text = bytesOf(QString(DUNMOOR_TEST_DATA "/reports/") + name + ".txt");
     return QString::fromStdString(text).replace("@DATE@", today()).toStdString();
 }
 
-/// What a report writes; the lines before a failure, where it fails.
+/// The text that a report writes; after a failure, the lines before it and the error.
 inline std::string textOfReport(const WriteReport& writeReport)
 {
     std::string text;
@@ -50,7 +50,7 @@ inline std::string textOfReport(const WriteReport& writeReport)
     return text;
 }
 
-/// A calculator whose report folders lie in a folder of the test's own, on a machine without printers.
+/// A calculator with its own temporary report folders, on a machine without printers.
 class ReportCommandTest : public testing::Test
 {
 protected:
@@ -72,7 +72,7 @@ protected:
         FormRegistry::clear();
     }
 
-    /// A file of the user's, apart from the application.
+    /// A user's file, outside the application's folder.
     QString file(const QString& name) const { return folder.filePath("user/" + name); }
 
     Dialogs dialogs;

@@ -13,7 +13,7 @@ namespace {
 class SaveFrame : public ReportCommandTest
 {
 protected:
-    /// Saves a report of one line, the answer to its dialog being given.
+    /// Saves a report of one line, with the given answer to the dialog.
     void save(Dialogs::Answer answer, const std::string& text = "text")
     {
         dialogs.answer("SaveDialog", std::move(answer));

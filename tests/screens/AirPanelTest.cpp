@@ -1,4 +1,4 @@
-// The air-state panel, seen on the air properties calculator.
+// The air-state panel, tested on the air properties calculator.
 
 #include "tests/screens/CalculatorFixture.h"
 
@@ -206,7 +206,7 @@ TEST_F(AirPanelScreen, FlagsADewPointAtOrAboveTheDryBulb)
 TEST_F(AirPanelScreen, FlagsAHumidityRatioThatIsTooSmall)
 {
     open();
-    for (const char* w : {"0", "", "0.00001", "-1"}) { // the single 0.00001 lies below the double
+    for (const char* w : {"0", "", "0.00001", "-1"}) { // the single 0.00001 is less than the double
         calculate("70", "txtW", w);
         expectWarning("lblW2", " W clipped at 0.00001");
         EXPECT_EQ(user.text("txtW"), "0.00001");
@@ -233,13 +233,13 @@ TEST_F(AirPanelScreen, FlagsGrainsThatAreTooFew)
         expectWarning("lblGrains2", " grains clipped at 0.1");
         EXPECT_EQ(user.text("txtGrains"), "0.1");
     }
-    calculate("70", "txtGrains", "0.1"); // the single lies above the double
+    calculate("70", "txtGrains", "0.1"); // the single is greater than the double
     expectNoWarning("lblGrains2", " grains");
 }
 
 TEST_F(AirPanelScreen, LeavesTheClippedTextAndTheWarningOnShowWhereTheSolverFails)
 {
-    store("Pressure_psi", "0"); // every solver divides by it, after the clip
+    store("Pressure_psi", "0"); // every solver divides by it after the clip
     open();
     struct Clip
     {
@@ -323,7 +323,7 @@ TEST_F(AirPanelScreen, RefusesAWetBulbFarBelowTheDryBulb)
     calculate("70", "txtTwb", "20");
     EXPECT_EQ(user.messages, std::vector{outOfRange});
     EXPECT_FALSE(user.isEnabled("btnCALCULATE"));
-    EXPECT_LT(StatePoint.W, 0.0); // as far as the solver got
+    EXPECT_LT(StatePoint.W, 0.0); // set before the failure
     EXPECT_EQ(user.text("txtTwb"), "20");
 }
 
@@ -342,7 +342,7 @@ TEST_F(AirPanelScreen, SelectsAnItemByTypingWithoutAClick)
         EXPECT_EQ(HumiditySelector, selector);
         EXPECT_TRUE(user.isEnabled("btnCALCULATE"));
     }
-    EXPECT_EQ(user.text("txtTwb"), "5"); // going there by the keyboard empties nothing
+    EXPECT_EQ(user.text("txtTwb"), "5"); // moving there by keyboard clears nothing
 }
 
 TEST_F(AirPanelScreen, SelectsGrainsAndRelativeHumidityAlreadyWhenTheMouseGoesDown)
@@ -358,7 +358,7 @@ TEST_F(AirPanelScreen, SelectsGrainsAndRelativeHumidityAlreadyWhenTheMouseGoesDo
     for (const char* field : {"txtTwb", "txttd", "txtW"}) {
         user.pressMouse(field);
         EXPECT_EQ(HumiditySelector, "Grains") << field;
-        // The mouse is released elsewhere, so that there is no click.
+        // The mouse is released elsewhere, so there is no click.
         QWidget* const widget = user.widget(field);
         QTest::mouseRelease(widget, Qt::LeftButton, Qt::NoModifier, QPoint(-50, -50));
         EXPECT_EQ(HumiditySelector, "Grains") << field;
@@ -448,7 +448,7 @@ TEST_F(AirPanelScreen, KeepsTheSelectorWhenNoTextChanges)
 TEST_F(AirPanelScreen, EndsWithTheItemThatChangedLast)
 {
     open();
-    // The grains stand there already as they will be written, so the dew point is the last that changes.
+    // The grains already have the text that will be written, so the dew point is the last to change.
     calculate("70", "txtGrains", "54.5");
     EXPECT_EQ(user.text("txtGrains"), "54.5");
     EXPECT_EQ(HumiditySelector, "Dew Point");
@@ -480,7 +480,7 @@ TEST_F(AirPanelScreen, WaitsAtTheMessageBox)
     user.atMessage([&] {
         wasSeen = true;
         EXPECT_FALSE(isBack);
-        EXPECT_NE(user.window(), "AirPropertiesCalc"); // the form takes no input meanwhile
+        EXPECT_NE(user.window(), "AirPropertiesCalc"); // the form accepts no input meanwhile
     });
     user.click("btnCALCULATE");
     isBack = true;
@@ -515,7 +515,7 @@ TEST_F(AirPanelScreen, WalksThroughTheEntriesByTab)
     }
 }
 
-/// The calculators, by the main menu's buttons; the air properties calculator alone moves.
+/// The calculators, by their buttons on the main menu. Only the air properties calculator changes the folder.
 class CurrentFolder : public CalculatorTest, public testing::WithParamInterface<const char*>
 {};
 

@@ -154,5 +154,5 @@ TEST_F(AirPropertiesScreen, ClearsTheStateEachTimeItOpens)
     EXPECT_EQ(user.text("txtTdb"), "");
     EXPECT_FALSE(user.isEnabled("btnCALCULATE"));
     EXPECT_EQ(StatePoint.Tdb, 0.0F);
-    EXPECT_EQ(StatePoint.Pws, saturation); // the pressures of the last calculation stay
+    EXPECT_EQ(StatePoint.Pws, saturation); // the pressures of the last calculation remain
 }

@@ -7,7 +7,7 @@
 
 using namespace forms;
 
-/// The table of the mixed air, after 1000 cfm at 95 and 3000 cfm at 75 degrees were mixed.
+/// The mixed air table after mixing 1000 cfm at 95 and 3000 cfm at 75 degrees.
 class MixedAirTable : public MixedAirTest
 {
 protected:
@@ -56,7 +56,7 @@ protected:
         {"lblHHead", "lblH", "lblHTail", 4095, 3675},
     };
 
-    /// Places in twips, ten of which are a pixel.
+    /// Positions in twips. One pixel is ten twips.
     void expectPlace(const std::string& label, int atLeft, int atTop, const QSize& size)
     {
         EXPECT_EQ(left(label), atLeft / 10 * 10) << label;

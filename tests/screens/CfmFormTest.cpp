@@ -108,7 +108,7 @@ TEST_F(AirVolumeDialog, OffersTheReturnVolumeInPlaceOfItsTextOnceItIsSet)
 {
     openWithAState();
     save("btnRA", "3000");
-    save("btnRA", "3500"); // its showing has set what is offered from now on
+    save("btnRA", "3500"); // showing it sets the volume that is offered from now on
     std::string offered;
     inVolume("btnSaveOSA", [&] {
         offered = user.text("txtCFMinput");

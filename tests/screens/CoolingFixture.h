@@ -26,7 +26,7 @@ protected:
     void saveEntering(const std::string& volume = "1000") { answerVolume("btnSaveEA", volume); }
     void cancelVolume() { CalculatorTest::cancelVolume("btnSaveEA"); }
 
-    /// Entering air of 80 deg F, or 30 deg C, at half saturation: its dew point is 59.8, or 18.5.
+    /// Entering air at 80 deg F or 30 deg C and 50 % relative humidity. Its dew point is 59.8 or 18.5.
     void openWithEnteringAir(bool metric = false)
     {
         open(metric);
@@ -34,7 +34,7 @@ protected:
         saveEntering(metric ? "3600" : "1000");
     }
 
-    /// Presses Set Leaving Air and does something in the dialog; its close box ends it where it still stands.
+    /// Presses Set Leaving Air and acts in the dialog. The close box closes it if it is still open.
     void inLeavingAir(std::function<void()> actions)
     {
         user.inDialog("CoolingLoad2", [this, actions = std::move(actions)] {
@@ -58,7 +58,7 @@ protected:
         inLeavingAir([this, dryBulb, wetBulb] { answer(dryBulb, wetBulb); });
     }
 
-    /// Presses Calculate Load and does something in the summary, then closes it.
+    /// Presses Calculate Load, acts in the summary and closes it.
     void inSummary(std::function<void()> actions)
     {
         user.inDialog("CoolingLoad3", [this, actions = std::move(actions)] {
@@ -88,7 +88,7 @@ protected:
         EXPECT_EQ(user.isEnabled("btnCalcLoad"), loadOn);
     }
 
-    /// The fields and buttons of the window in the order that Tab visits them, disabled ones among them.
+    /// The fields and buttons of the window in Tab order, including disabled ones.
     Texts tabOrder() const
     {
         const QWidget* const window = User::findWindow(user.window());

@@ -7,7 +7,8 @@
 #include <QScreen>
 #include <QWidget>
 
-/// The calculator's look, its menus, and in what its panel differs from that of the air properties.
+/// The calculator's appearance, its menus, and the differences of its panel from the air properties
+/// calculator.
 using CoolingScreen = CoolingTest;
 
 TEST_F(CoolingScreen, OpensBlankWithAllButtonsOff)

@@ -7,7 +7,8 @@
 
 using namespace forms;
 
-/// The dialog that asks for the air leaving the coil. The entering air is at 80 deg F, its dew point at 59.8.
+/// The dialog that asks for the air leaving the coil. The entering air is at 80 deg F with a dew point of
+/// 59.8.
 class CoolingLeavingAirDialog : public CoolingTest
 {
 protected:
@@ -159,7 +160,7 @@ TEST_F(CoolingLeavingAirDialog, SaysNothingToABlankDryBulbAndStays)
     inLeavingAir([this] {
         expectRefused("", "", prompt);
         expectRefused("80", "", tooWarm);
-        expectRefused("", "60", tooWarm); // the old words stay
+        expectRefused("", "60", tooWarm); // the old message remains
         EXPECT_EQ(user.text("txtLATwb"), "60");
     });
     EXPECT_TRUE(user.messages.empty());
@@ -219,7 +220,7 @@ TEST_F(CoolingLeavingAirDialog, TakesAnyWetBulbForAWetCoil)
         {"59.8", "58"},   // at it
         {"55", "54"},     // below it
         {"55", "70"},     // a wet bulb above the dry bulb
-        {"-39.9", "-40"}, // as cold as it goes
+        {"-39.9", "-40"}, // the lowest temperatures
     };
     for (const auto& [dryBulb, wetBulb] : entries) {
         calculate("80", "txtRH", "50");

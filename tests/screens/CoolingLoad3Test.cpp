@@ -7,7 +7,6 @@
 
 using namespace forms;
 
-/// The summary of the loads.
 class CoolingSummary : public CoolingTest
 {
 protected:

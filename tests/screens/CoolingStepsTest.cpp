@@ -36,7 +36,7 @@ protected:
     static inline QString base;
 };
 
-/// The total load of a wet coil from the two saved states, with what a unit mass of condensate carries off.
+/// The total load of a wet coil, from the two saved states and the enthalpy of the condensate.
 static double wetTotal(double condensateEnthalpy, double hoursFactor)
 {
     const AirSnapshot& in = CoolingEnteringAir;
@@ -212,7 +212,7 @@ TEST_F(CoolingSteps, TakeTheOtherMetricCondensateBandJustAboveFreezing)
 {
     open(true);
     calculate("30", "txtRH", "50");
-    saveEntering("36000000"); // so much that the bands can be told apart
+    saveEntering("36000000"); // enough to distinguish the bands
     setLeaving("1", "0.5");
     readLoads();
     EXPECT_NEAR(TotalLoad, wetTotal(2.175, 1.0 / 3600.0), 0.2);

@@ -1,4 +1,4 @@
-// The entering air of the heating load calculator, and the air volume that goes with it.
+// The entering air of the heating load calculator and its air volume.
 
 #include "tests/screens/HeatingFixture.h"
 

@@ -16,7 +16,7 @@ protected:
         user.click("btnHeating");
     }
 
-    /// Opens at the pressure that gives 70 deg F and W = 0.008 a specific volume of 13.5 ft3/lb.
+    /// Opens at the pressure at which air at 70 deg F with W = 0.008 has a specific volume of 13.5 ft3/lb.
     void openForWorkedFigures()
     {
         store("Pressure_psi", "14.72353");

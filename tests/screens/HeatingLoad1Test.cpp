@@ -1,4 +1,4 @@
-// The heating load calculator's own screen: its panel, its buttons, its coming and going.
+// The heating load calculator's own screen: its panel and buttons, and how it opens and closes.
 
 #include "tests/screens/HeatingFixture.h"
 

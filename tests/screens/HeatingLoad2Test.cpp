@@ -1,4 +1,4 @@
-// The leaving air dialog of the heating load calculator, and the load that comes of it.
+// The leaving air dialog of the heating load calculator and the resulting load.
 
 #include "tests/screens/HeatingFixture.h"
 

@@ -192,7 +192,7 @@ TEST_F(HumidificationScreen, KeepsTheOutsideAirWhereARunFails)
     user.type("txtRH", "abc");
     user.click("btnCALCULATE");
     user.type("txtTwb",
-              "-30"); // a negative vapour pressure, so that the dew point is refused amid the solver
+              "-30"); // a negative vapor pressure, so the dew point fails within the solver
     user.click("btnCALCULATE");
     EXPECT_EQ(user.messages, (std::vector{outOfRange, outOfRange}));
     expectButtons(false, true);

@@ -14,10 +14,10 @@ protected:
         user.click("btnHumidity");
     }
 
-    /// Calculates outside air of W = 0.0015 at 40 deg F, or 0.002 at 5 deg C.
+    /// Calculates outside air with W = 0.0015 at 40 deg F, or 0.002 at 5 deg C.
     void calculateOutsideAir() { calculate(IsMetric() ? "5" : "40", "txtW", IsMetric() ? "2" : "0.0015"); }
 
-    /// Opens the second screen and does something there; the actions leave it.
+    /// Opens the second screen and runs the actions, which also close it.
     void inRequirement(const std::function<void()>& actions)
     {
         user.inDialog("humid2", actions);
@@ -33,7 +33,7 @@ protected:
         std::string outsideAir;
     };
 
-    /// On the second screen: fills it in and presses its button.
+    /// Fills in the second screen and presses its button.
     void require(const Entries& entries)
     {
         user.type("txtDesH", entries.humidity);
@@ -44,7 +44,7 @@ protected:
         user.click("btnCalcHumid");
     }
 
-    /// From the first screen: what the second one shows for the entries, the mass ahead of the flow.
+    /// Called on the first screen. Returns what the second one shows for the entries, masses before flows.
     Names moistureFor(const Entries& entries)
     {
         Names shown;

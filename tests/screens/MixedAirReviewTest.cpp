@@ -1,4 +1,4 @@
-// What the two reviews write back into their records, and which fields of a record are never written.
+// What the two reviews write to their records, and which fields of a record are never written.
 
 #include "tests/screens/MixedAirFixture.h"
 
@@ -32,8 +32,8 @@ protected:
         user.click("btnMixedAir");
     }
 
-    /// Saves the stream at the standard pressure, then the other one at a lower pressure, at which the first
-    /// is reviewed; its record before the review is returned.
+    /// Saves the stream at the standard pressure, then the other one at a lower pressure, and reviews the
+    /// first there. Returns its record from before the review.
     AirSnapshot reviewAtALowerPressure(const Stream& stream)
     {
         open(isMetric());
@@ -58,7 +58,7 @@ protected:
         EXPECT_EQ(now.td, StatePoint.td.asSingle());
         EXPECT_EQ(now.Twb, StatePoint.Twb.asSingle());
         EXPECT_EQ(now.Grains, isMetric() ? 0.0F : StatePoint.Grains.asSingle());
-        // At a lower pressure the same humidity ratio is a lower relative humidity and a larger volume.
+        // At a lower pressure, the same humidity ratio gives a lower relative humidity and a larger volume.
         EXPECT_LT(now.RH, saved.RH);
         EXPECT_GT(now.SpVol, saved.SpVol);
         EXPECT_LT(now.td, saved.td);

@@ -199,7 +199,7 @@ TEST_F(MixedAirScreen, SavesTheOutsideAirWithItsVolumeAndShowsTheVolumes)
     EXPECT_EQ(MixedOutsideAir.Grains, StatePoint.Grains.asSingle());
     EXPECT_EQ(MixedOutsideAir.h, StatePoint.h);
     EXPECT_EQ(MixedOutsideAir.P, 14.696F);
-    // The fields that this calculator doesn't write stay 0.
+    // Fields that this calculator doesn't write remain 0.
     EXPECT_EQ(MixedOutsideAir.Mu, 0.0F);
     EXPECT_EQ(MixedOutsideAir.Pws, 0.0F);
     EXPECT_EQ(MixedOutsideAir.Pw, 0.0F);
@@ -277,7 +277,7 @@ TEST_F(MixedAirScreen, MixesTheTwoStreams)
     user.click("btnMixedAir");
     EXPECT_EQ(user.window(), "Answers1");
     EXPECT_EQ(MixedResultAir.AirVolume, 4000.0F);
-    // The denser return air weighs more, so the mixture lies nearer to it than the plain mean of 80.
+    // The return air is denser, so the mixture is closer to it than the plain mean of 80.
     EXPECT_NEAR(MixedResultAir.Tdb, 79.8, 0.1);
     const double outsideMass = 1000.0 / MixedOutsideAir.SpVol;
     const double returnMass = 3000.0 / MixedReturnAir.SpVol;

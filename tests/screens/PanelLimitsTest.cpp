@@ -1,10 +1,10 @@
-// The limits of the entries and what happens beyond them, on each of the five calculators.
+// The limits of the entries, and what happens beyond them, on each of the five calculators.
 
 #include "tests/screens/CalculatorFixture.h"
 
 namespace {
 
-/// In what the five differ.
+/// The differences between the five.
 struct Limits
 {
     const char* name;
@@ -70,7 +70,7 @@ TEST_P(PanelLimits, ClipAWetBulbOrDewPointInMetricByTheirOwnSteps)
 TEST_P(PanelLimits, ClipTheOtherItems)
 {
     open();
-    calculate("70", "txtGrains", "0"); // first: the mixed air calculator reads those of the state before
+    calculate("70", "txtGrains", "0"); // first: mixed air reads the grains of the previous state
     expectWarning("lblGrains2", " grains clipped at 0.1");
     calculate("70", "txtRH", "100.1");
     expectWarning("lblRH2", " RH clipped at 100%");

@@ -10,7 +10,7 @@ class ReportCommands : public CalculatorTest
 protected:
     void SetUp() override
     {
-        qputenv("CUPS_SERVER", "/nowhere"); // no printer of this machine's user gets a page
+        qputenv("CUPS_SERVER", "/nowhere"); // so that no real printer gets a page
         reportsFolder = folder.path().toStdString();
         ReportsBase = [] { return reportsFolder; };
     }
@@ -24,7 +24,7 @@ protected:
         return bytesOf(path);
     }
 
-    /// What the temporary file holds after printing to a PDF.
+    /// The contents of the temporary file after printing to a PDF.
     std::string printed(const std::string& entry, const std::string& temporaryFile)
     {
         const QString path = folder.filePath("paper.pdf");

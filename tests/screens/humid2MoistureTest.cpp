@@ -1,4 +1,4 @@
-// The calculation of the humidification's second screen: the desired air and the water that it takes.
+// The calculation of the second humidification screen: the desired air and the water to add.
 
 #include "tests/screens/HumidFixture.h"
 

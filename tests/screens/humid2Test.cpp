@@ -1,4 +1,4 @@
-// The humidification calculator's second screen: how it looks, comes and goes.
+// The second screen of the humidification calculator: its appearance, and how it opens and closes.
 
 #include "tests/screens/HumidFixture.h"
 

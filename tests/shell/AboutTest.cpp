@@ -37,7 +37,7 @@ protected:
         EXPECT_FALSE(isLoaded<About>());
     }
 
-    QTextBrowser opened; ///< stands for the desktop's mail program and browser: keeps what it was given
+    QTextBrowser opened; ///< replaces the desktop's mail program and browser; keeps its links
 };
 
 TEST_F(AboutBox, SaysWhatTheProgramIs)
@@ -116,7 +116,7 @@ TEST_F(AboutBox, SaysNothingWhereTheDesktopOpensNoLinks)
     EXPECT_TRUE(user.messages.empty());
 }
 
-/// The forms with an about entry besides the main menu, by the steps that lead there from it.
+/// The forms other than the main menu with an About entry, with the steps from the main menu to each.
 struct Place
 {
     const char* form;

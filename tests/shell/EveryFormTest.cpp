@@ -34,7 +34,7 @@ struct ShownForm
 {
     const char* name;
     Form& (*use)();
-    const char* hiddenFrame = nullptr; ///< is shown by the form's own handlers later on
+    const char* hiddenFrame = nullptr; ///< shown later by the form's handlers
 };
 
 template <class F>
@@ -93,7 +93,7 @@ bool isInput(const QWidget& widget)
            qobject_cast<const QComboBox*>(&widget) != nullptr;
 }
 
-/// The size that shows all of a control's text; a text in lines needs the height that its width gives it.
+/// The size that shows a control's full text. The height of wrapped text depends on its width.
 QSize neededSize(const QWidget& widget)
 {
     const auto* const label = qobject_cast<const QLabel*>(&widget);
@@ -127,7 +127,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
     }
 
-    /// The visible controls that show a text or take input, or are a picture.
+    /// The visible controls that show text, accept input or are a picture.
     std::vector<QWidget*> controls() const
     {
         std::vector<QWidget*> found;
@@ -206,7 +206,7 @@ TEST_P(EveryForm, HasALabelForEachFieldThatTabReaches)
         labelled.push_back(label->buddy());
     for (QWidget* const control : controls()) {
         const bool isField = isInput(*control) && qobject_cast<QPushButton*>(control) == nullptr;
-        // The volumes have their unit above them, and a name of their own.
+        // The volumes have their unit above them and their own name.
         const bool isVolume = QStringList{"txtcfm1", "txtcfm2", "txtCFM"}.contains(control->objectName());
         const bool needsOne = isField && !isVolume && (control->focusPolicy() & Qt::TabFocus) != Qt::NoFocus;
         EXPECT_TRUE(!needsOne || std::ranges::find(labelled, control) != labelled.end())

@@ -1,4 +1,4 @@
-// Every form by the keyboard alone: the Tab key reaches each control, and no two access keys are alike.
+// Every form by keyboard only: Tab reaches every control, and no two access keys are the same.
 
 #include "tests/screens/CalculatorFixture.h"
 
@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A form, and what a user does from the main menu to see it with all its buttons enabled.
+/// A form, and the steps from the main menu that show it with all its buttons enabled.
 struct Sight
 {
     const char* form;
@@ -26,7 +26,7 @@ public:
     using CalculatorTest::calculate;
 
 protected:
-    /// Looks at the form while it takes input.
+    /// Runs the checks while the form is active.
     void see(const std::function<void()>& look)
     {
         start();
@@ -41,7 +41,7 @@ protected:
         EXPECT_TRUE(seen);
     }
 
-    /// The controls in sight that take the focus by Tab.
+    /// The visible controls that Tab can reach.
     std::set<std::string> reachable()
     {
         std::set<std::string> names;
@@ -55,7 +55,7 @@ protected:
         return names;
     }
 
-    /// How often each access key stands on the form and on its menu bar.
+    /// The controls and menus that use each access key of the form and its menu bar.
     std::map<QChar, Names> accessKeys()
     {
         std::map<QChar, Names> keys;
@@ -141,7 +141,7 @@ TEST_P(Keyboard, HasNoTwoAccessKeysAlike)
 {
     see([this] {
         for (const auto& [key, controls] : accessKeys()) {
-            // The captions "&Help" and "&Heating Load " are given: there Alt+H goes from one to the other.
+            // The captions "&Help" and "&Heating Load " are required, so Alt+H alternates between them.
             if (user.window() == "MainForm" && key == QChar('H'))
                 EXPECT_EQ(controls.size(), 2U);
             else
@@ -158,8 +158,8 @@ TEST_P(Keyboard, HasNoTwoAccessKeysAlikeInAMenu)
             for (const QAction* entry : drop->actions()) {
                 const QString key = QKeySequence::mnemonic(entry->text()).toString();
                 const bool isNew = key.isEmpty() || keys.insert(key).second;
-                // The captions "&Print Results" and "&Previous Screen" are given: P goes from one to the
-                // other.
+                // The captions "&Print Results" and "&Previous Screen" are required, so P alternates between
+                // them.
                 EXPECT_EQ(isNew, entry->objectName() != "mnuPrevious") << entry->text().toStdString();
             }
         }

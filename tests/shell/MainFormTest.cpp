@@ -94,7 +94,7 @@ TEST_F(MainMenu, EndsWithTheReportWhenTheStoredUnitsAreNoBoolean)
 {
     store("Metric_Units", "maybe");
     EXPECT_EXIT(start(), testing::ExitedWithCode(1), "message: Dunmoor: Run-time error '13':\nType mismatch");
-    EXPECT_EQ(stored("Baro_Pressure"), "(nothing)"); // nothing is written on that way out
+    EXPECT_EQ(stored("Baro_Pressure"), "(nothing)"); // nothing is written on this exit
 }
 
 TEST_F(MainMenu, EndsWithTheReportWhenAStoredPressureIsTooLarge)

@@ -19,7 +19,7 @@ using namespace forms;
 class OptionsScreen : public ProgramTest
 {
 protected:
-    /// Opens the options, does something in them, and comes back when they are closed.
+    /// Opens the options, runs the actions there, and returns when the options are closed.
     void inOptions(const std::function<void()>& actions)
     {
         user.inDialog("Settings", actions);
@@ -247,7 +247,7 @@ TEST_F(OptionsScreen, ChangesTheUnitsBeforeItRefusesThePressure)
     EXPECT_EQ(user.text("txtP"), "14.696");
 
     user.choose("mnuMain1");
-    user.choose("mnuExit"); // stores the units in force, and no pressure that is read
+    user.choose("mnuExit"); // stores the current units, but no pressure that is ever read
     EXPECT_EQ(stored("Metric_Units"), "True");
     EXPECT_EQ(stored("Baro_Pressure"), "14.696");
     start();

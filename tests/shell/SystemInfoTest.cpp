@@ -1,4 +1,4 @@
-// Reading the registry as text, and the way to the system's information viewer.
+// Reading the registry as text, and starting the system information viewer.
 
 #include "shell/About.h"
 #include "tests/support/ProgramTest.h"
@@ -15,7 +15,7 @@ constexpr const char* viewerKey = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
 constexpr const char* folderKey = R"(SOFTWARE\Microsoft\Shared Tools Location)";
 constexpr std::uint32_t binary = 3;
 
-/// A registry with a few values, which keeps what was asked of it.
+/// A registry with a few values that records the requests.
 class FilledRegistry : public Registry
 {
 public:
@@ -70,7 +70,7 @@ protected:
         return text;
     }
 
-    /// A program that leaves a file behind, and whether it ran within a moment.
+    /// A program that creates a file when it runs.
     QString program(const QString& path)
     {
         QFile script(path);
