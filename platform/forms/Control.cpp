@@ -15,7 +15,7 @@ Colour fromQt(const QColor& colour)
             static_cast<std::uint8_t>(colour.blue())};
 }
 
-/// Black or white, whichever has more contrast. The desktop's text color could be either.
+/// Black or white, depending on the brightness of the background. The desktop's text color could be either.
 QColor readableOn(const QColor& back) { return qGray(back.rgb()) > 127 ? Qt::black : Qt::white; }
 
 } // namespace

@@ -139,7 +139,7 @@ TEST_F(PrintServerTest, ThatNeverAnswersLetsTheWindowBeClosed)
 {
     const SilentServer server(path());
     QTimer::singleShot(500, [] { form<AnyForm>().Hide(); });
-    EXPECT_FALSE(ShowPrintDialog(form<AnyForm>())); // no dialog comes: see TearDown
+    EXPECT_FALSE(ShowPrintDialog(form<AnyForm>())); // no dialog appears: see TearDown
 }
 
 TEST_F(PrintServerTest, ThatNeverAnswersLetsTheProcessEnd)
