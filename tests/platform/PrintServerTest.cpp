@@ -6,6 +6,7 @@
 #include "platform/Printer.h"
 #include "tests/platform/AnyForm.h"
 #include "tests/platform/Dialogs.h"
+#include "tests/platform/SilentServer.h"
 
 #include <gtest/gtest.h>
 
@@ -14,32 +15,9 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
-
 using namespace forms;
 
 namespace {
-
-/// Listens at a path of the file system. The system accepts for it; nobody reads or writes.
-class SilentServer
-{
-public:
-    explicit SilentServer(const QString& path) : socket(::socket(AF_UNIX, SOCK_STREAM, 0))
-    {
-        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
-        path.toLocal8Bit().toStdString().copy(address.sun_path, sizeof address.sun_path - 1);
-        EXPECT_EQ(bind(socket, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
-        EXPECT_EQ(listen(socket, 100), 0);
-    }
-    ~SilentServer() { close(socket); }
-    SilentServer(const SilentServer&) = delete;
-    SilentServer& operator=(const SilentServer&) = delete;
-
-private:
-    int socket;
-};
 
 /// Counts how often a widget is painted.
 class Paintings : public QObject
