@@ -1,5 +1,6 @@
 #include "platform/help/HelpWindow.h"
 
+#include "platform/PrintServer.h"
 #include "platform/help/HelpPage.h"
 
 #include <QAction>
@@ -184,6 +185,9 @@ void HelpWindow::switchPanes()
 
 void HelpWindow::print()
 {
+    AskPrintServer();
+    if (!isVisible())
+        return; // closed meanwhile
     auto* const printer = new QPrinter(QPrinter::HighResolution);
     auto* const dialog = new QPrintDialog(printer, this);
     dialog->setObjectName("PrintDialog");

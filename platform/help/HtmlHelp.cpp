@@ -1,5 +1,6 @@
 #include "platform/help/HtmlHelp.h"
 
+#include "platform/RegularFile.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/MsgBox.h"
 #include "platform/help/HelpWindow.h"
@@ -7,7 +8,6 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QPointer>
 
@@ -46,7 +46,7 @@ QString folderOf(const QFileInfo& file)
 std::shared_ptr<const HelpBook> openBook(const std::string& file, const QFileInfo& wanted)
 {
     QFile opened(wanted.filePath());
-    if (!opened.open(QIODevice::ReadOnly)) {
+    if (!OpenRegularFile(opened, QIODevice::ReadOnly, Links::Follow)) {
         MsgBox("The help file " + file + " was not found.\n\nIt was looked for in " +
                folderOf(wanted).toStdString() + ".");
         return nullptr;

@@ -6,6 +6,7 @@
 #include "platform/Printer.h"
 #include "tests/platform/AnyForm.h"
 #include "tests/platform/Dialogs.h"
+#include "tests/platform/SilentServer.h"
 
 #include <gtest/gtest.h>
 
@@ -14,34 +15,11 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
-
 using namespace forms;
 
 namespace {
 
-/// Listens on a socket path. The system accepts connections; nobody reads or writes.
-class SilentServer
-{
-public:
-    explicit SilentServer(const QString& path) : socket(::socket(AF_UNIX, SOCK_STREAM, 0))
-    {
-        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
-        path.toLocal8Bit().toStdString().copy(address.sun_path, sizeof address.sun_path - 1);
-        EXPECT_EQ(bind(socket, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
-        EXPECT_EQ(listen(socket, 100), 0);
-    }
-    ~SilentServer() { close(socket); }
-    SilentServer(const SilentServer&) = delete;
-    SilentServer& operator=(const SilentServer&) = delete;
-
-private:
-    int socket;
-};
-
-/// Counts the paint events of a widget.
+/// Counts how often a widget is painted.
 class Paintings : public QObject
 {
 public:
@@ -81,7 +59,7 @@ protected:
     QString path() const { return folder.filePath("cups.sock"); }
     QString pdf() const { return folder.filePath("out.pdf"); }
 
-    /// Opens the dialog, which offers only the PDF file, and prints there.
+    /// Opens the dialog, which offers the PDF file alone, and prints there.
     void printToFile()
     {
         dialogs.answer("PrintDialog", [this](QDialog& dialog) {
@@ -103,7 +81,7 @@ TEST_F(PrintServerTest, ThatNeverAnswersLeavesPrintingToAFile)
 {
     const SilentServer server(path());
     printToFile();
-    printToFile(); // does not wait again
+    printToFile(); // and is not waited for again
 }
 
 TEST_F(PrintServerTest, ThatNeverAnswersLeavesTheWindowPainted)
@@ -139,7 +117,7 @@ TEST_F(PrintServerTest, ThatNeverAnswersLetsTheWindowBeClosed)
 {
     const SilentServer server(path());
     QTimer::singleShot(500, [] { form<AnyForm>().Hide(); });
-    EXPECT_FALSE(ShowPrintDialog(form<AnyForm>())); // no dialog appears: see TearDown
+    EXPECT_FALSE(ShowPrintDialog(form<AnyForm>())); // no dialog comes: see TearDown
 }
 
 TEST_F(PrintServerTest, ThatNeverAnswersLetsTheProcessEnd)

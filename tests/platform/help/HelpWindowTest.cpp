@@ -1,12 +1,15 @@
 // The help window as its reader uses it: mouse and keyboard.
 
 #include "tests/platform/Pdf.h"
+#include "tests/platform/SilentServer.h"
 #include "tests/platform/help/HelpTest.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QDesktopServices>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QTimer>
 
 using namespace help;
 
@@ -292,6 +295,28 @@ TEST_F(HelpWindowTest, PrintsNothingOnCancel)
     cancel(*dialog);
     comeToRest();
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList("sample.chm"));
+}
+
+TEST_F(HelpWindowTest, OffersAFileWhenThePrintServerNeverAnswers)
+{
+    const QString path = folder.filePath("cups.sock");
+    const SilentServer server(path);
+    qputenv("CUPS_SERVER", path.toUtf8());
+    clickButton("helpPrint");
+    auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(child<QComboBox>(*dialog, "printers").count(), 1);
+    cancel(*dialog);
+}
+
+TEST_F(HelpWindowTest, OpensNoPrintDialogWhenClosedBeforeThePrintServerAnswers)
+{
+    const QString path = folder.filePath("cups.sock");
+    const SilentServer server(path);
+    qputenv("CUPS_SERVER", path.toUtf8());
+    QTimer::singleShot(0, &help(), &QWidget::hide);
+    clickButton("helpPrint");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(HelpWindowTest, ClosesOnEscapeFromEverywhere)

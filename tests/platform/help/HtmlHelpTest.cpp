@@ -4,6 +4,8 @@
 
 #include <QMessageBox>
 
+#include <sys/stat.h>
+
 using namespace forms;
 using namespace help;
 
@@ -100,6 +102,14 @@ TEST_F(HtmlHelp, SaysWhenAFileIsAFolder)
     ask(100, "folder.chm");
     ASSERT_EQ(user.messages.size(), 1U);
     EXPECT_NE(user.messages[0].text.find("folder.chm"), std::string::npos);
+}
+
+TEST_F(HtmlHelp, IsNotHeldUpByAPipe)
+{
+    ASSERT_EQ(mkfifo("pipe.chm", 0600), 0);
+    ask(100, "pipe.chm");
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_NE(user.messages[0].text.find("The help file pipe.chm was not found."), std::string::npos);
 }
 
 TEST_F(HtmlHelp, KeepsTheOpenHelpWhenAnotherFileCannotBeRead)
