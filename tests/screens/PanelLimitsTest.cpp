@@ -1,108 +1,194 @@
-// The limits of the entries, and what happens beyond them, on each of the five calculators.
+// The limits of the entries on each air-state panel: what is refused, what is clipped, and the warnings.
 
-#include "tests/screens/CalculatorFixture.h"
+#include "tests/screens/PanelFixture.h"
 
-namespace {
-
-/// The differences between the five.
-struct Limits
-{
-    const char* name;
-    const char* button; ///< of the main menu
-    double wetBulbBelow;
-    double metricWetBulbBelow;
-    double dewPointBelow;
-    bool limitsMetricTdb;
-};
-
-void PrintTo(const Limits& limits, std::ostream* out) { *out << limits.name; }
-
-constexpr Limits calculators[] = {
-    {"AirProperties", "btnAirCalc", 0.01, 0.01, 0.01, true},
-    {"MixedAir", "btnMixedAir", 0.1, 0.05, 0.1, false},
-    {"Cooling", "btnCooling", 0.01, 0.01, 0.01, true},
-    {"Heating", "btnHeating", 0.1, 0.05, 0.1, true},
-    {"Humidification", "btnHumidity", 0.1, 0.05, 0.1, true},
-};
-
-class PanelLimits : public CalculatorTest, public testing::WithParamInterface<Limits>
+class PanelLimits : public PanelTest
 {
 protected:
-    void open(bool metric = false)
+    struct Clip
     {
-        metric ? startInMetric() : start();
-        user.click(GetParam().button);
+        std::string item;
+        std::string typed;
+        std::string shown; ///< until the results are written
+        const char* label;
+        const char* warning;
+    };
+
+    /// Calculates where no solver succeeds, so that the clipped text stays in its field.
+    void expectClippedTexts(const std::string& tdb, const std::vector<Clip>& clips)
+    {
+        for (const Clip& clip : clips) {
+            user.messages.clear();
+            calculate(tdb, clip.item, clip.typed);
+            EXPECT_EQ(user.messages, std::vector{outOfRange}) << clip.warning;
+            EXPECT_EQ(user.text(clip.item), clip.shown) << clip.warning;
+            expectWarning(clip.label, clip.warning);
+            EXPECT_FALSE(user.isEnabled("btnCALCULATE"));
+        }
+    }
+
+    void expectClip(const std::string& tdb, double wetBulb, double dewPoint)
+    {
+        for (const std::string& notBelow : {tdb, std::to_string(std::stoi(tdb) + 10)}) {
+            calculate(tdb, "txtTwb", notBelow);
+            expectWarning("lblTwb2", " Twb clipped at Tdb");
+            EXPECT_EQ(StatePoint.Twb.kind(), NumberKind::Double);
+            EXPECT_EQ(StatePoint.Twb, wetBulb);
+            calculate(tdb, "txttd", notBelow);
+            expectWarning("lblDewPt2", " Dew Pt. clipped at Tdb");
+            EXPECT_EQ(StatePoint.td.kind(), NumberKind::Double);
+            EXPECT_EQ(StatePoint.td, dewPoint);
+        }
+        EXPECT_TRUE(user.messages.empty());
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Of, PanelLimits, testing::ValuesIn(calculators),
-                         [](const auto& limits) { return std::string(limits.param.name); });
+RUN_ON_EVERY_PANEL(PanelLimits);
 
-} // namespace
-
-TEST_P(PanelLimits, ClipAWetBulbOrDewPointThatIsNotBelowTheDryBulb)
+TEST_P(PanelLimits, TakeDryBulbsFromMinusFortyToOneHundredTwentyFive)
 {
     open();
-    for (const char* notBelow : {"70", "71"}) {
-        calculate("70", "txtTwb", notBelow);
-        expectWarning("lblTwb2", " Twb clipped at Tdb");
-        EXPECT_EQ(StatePoint.Twb, 70.0 - GetParam().wetBulbBelow);
-        calculate("70", "txttd", notBelow);
-        expectWarning("lblDewPt2", " Dew Pt. clipped at Tdb");
-        EXPECT_EQ(StatePoint.td, 70.0 - GetParam().dewPointBelow);
+    for (const char* tdb : {"-40", "125"}) {
+        calculate(tdb, "txtRH", "50");
+        EXPECT_TRUE(user.messages.empty()) << tdb;
+        EXPECT_NE(user.text("txth"), "") << tdb;
     }
-    EXPECT_TRUE(user.messages.empty());
-}
-
-TEST_P(PanelLimits, ClipAWetBulbOrDewPointInMetricByTheirOwnSteps)
-{
-    open(true);
-    for (const char* notBelow : {"20", "21"}) {
-        calculate("20", "txtTwb", notBelow);
-        expectWarning("lblTwb2", " Twb clipped at Tdb");
-        EXPECT_EQ(StatePoint.Twb, 20.0 - GetParam().metricWetBulbBelow);
-        calculate("20", "txttd", notBelow);
-        expectWarning("lblDewPt2", " Dew Pt. clipped at Tdb");
-        EXPECT_EQ(StatePoint.td, 20.0 - GetParam().dewPointBelow);
-    }
-}
-
-TEST_P(PanelLimits, ClipTheOtherItems)
-{
-    open();
-    calculate("70", "txtGrains", "0"); // first: mixed air reads the grains of the previous state
-    expectWarning("lblGrains2", " grains clipped at 0.1");
-    calculate("70", "txtRH", "100.1");
-    expectWarning("lblRH2", " RH clipped at 100%");
-    calculate("70", "txtRH", "0");
-    expectWarning("lblRH2", " RH clipped at 0.1%");
-    calculate("70", "txtW", "0");
-    expectWarning("lblW2", " W clipped at 0.00001");
-    EXPECT_TRUE(user.messages.empty());
-}
-
-TEST_P(PanelLimits, RefuseDryBulbsOutsideMinusFortyToOneHundredTwentyFive)
-{
-    open();
-    calculate("-40", "txtRH", "50");
-    calculate("125", "txtRH", "50");
-    EXPECT_TRUE(user.messages.empty());
     for (const char* refused : {"-40.1", "125.1"}) {
         user.messages.clear();
-        calculate(refused, "txtRH", "50");
-        EXPECT_EQ(user.messages, std::vector{temperatureOutOfRange}) << refused;
-        EXPECT_FALSE(user.isEnabled("btnCALCULATE"));
+        expectButtonsAfterCalculating(expected().whereRefused, [&] { enter(refused, "txtRH", "50"); });
+        EXPECT_EQ(user.messages, (std::vector{temperatureOutOfRange, temperatureOutOfRange})) << refused;
+        expectEmpty({"txth"});
     }
 }
 
 TEST_P(PanelLimits, RefuseMetricDryBulbsAboveFiftyWithTheOtherMessage)
 {
     open(true);
-    calculate("50", "txtRH", "50");
+    for (const char* tdb : {"-40", "50"}) {
+        calculate(tdb, "txtRH", "10");
+        EXPECT_TRUE(user.messages.empty()) << tdb;
+        EXPECT_NE(user.text("txth"), "") << tdb;
+    }
+    for (const char* tdb : {"50.5", "125"}) {
+        user.messages.clear();
+        const bool refuses = expected().limitsMetricDryBulb;
+        expectButtonsAfterCalculating(refuses ? expected().whereRefused : expected().afterCalculation,
+                                      [&] { enter(tdb, "txtRH", "10"); });
+        EXPECT_EQ(user.messages, refuses ? (std::vector{outOfRange, outOfRange}) : std::vector<Message>{});
+        EXPECT_EQ(user.text("txth").empty(), refuses);
+    }
+    for (const char* tdb : {"125.5", "-40.1"}) {
+        user.messages.clear();
+        calculate(tdb, "txtRH", "10");
+        EXPECT_EQ(user.messages, std::vector{temperatureOutOfRange}) << tdb;
+        EXPECT_FALSE(user.isEnabled("btnCALCULATE"));
+    }
+}
+
+TEST_P(PanelLimits, ClipAWetBulbOrDewPointThatIsNotBelowTheDryBulb)
+{
+    open();
+    expectClip("70", 70.0 - expected().wetBulbClip.english, 70.0 - expected().dewPointClip.english);
+    calculate("70.35", "txttd", "70.35");
+    EXPECT_EQ(StatePoint.td, static_cast<double>(70.35F) - expected().dewPointClip.english);
+    calculate("70", "txtTwb", "69.999");
+    expectNoWarning("lblTwb2", " Deg. F");
+    calculate("70", "txttd", "69.999");
+    expectNoWarning("lblDewPt2", " Deg. F");
+}
+
+TEST_P(PanelLimits, ClipAWetBulbOrDewPointInMetricByTheirOwnSteps)
+{
+    open(true);
+    expectClip("20", 20.0 - expected().wetBulbClip.metric, 20.0 - expected().dewPointClip.metric);
+}
+
+TEST_P(PanelLimits, ClipARelativeHumidityAboveOneHundredAndAtOrBelowZero)
+{
+    open();
+    calculate("70", "txtRH", "100");
+    expectNoWarning("lblRH2", " %");
+    EXPECT_EQ(user.text("txtRH"), "100.0");
+    EXPECT_EQ(StatePoint.Twb.kind(), NumberKind::Double) << "saturated: just below the dry bulb";
+    calculate("70", "txtRH", "100.1");
+    expectWarning("lblRH2", " RH clipped at 100%");
+    EXPECT_EQ(user.text("txtRH"), "100.0");
+    for (const char* text : {"0", "-5", ""}) {
+        calculate("70", "txtRH", text);
+        expectWarning("lblRH2", " RH clipped at 0.1%");
+        EXPECT_EQ(user.text("txtRH"), "0.1");
+    }
     EXPECT_TRUE(user.messages.empty());
-    calculate("50.5", "txtRH", "50");
-    EXPECT_EQ(user.messages, GetParam().limitsMetricTdb ? std::vector{outOfRange} : std::vector<Message>{});
-    user.messages.clear();
-    calculate("125.5", "txtRH", "50");
-    EXPECT_EQ(user.messages, std::vector{temperatureOutOfRange});
+}
+
+TEST_P(PanelLimits, ClipAHumidityRatioThatIsTooSmall)
+{
+    open();
+    for (const char* w : {"0", "", "0.00001", "-1"}) { // the single 0.00001 lies below the double
+        calculate("70", "txtW", w);
+        expectWarning("lblW2", " W clipped at 0.00001");
+        EXPECT_EQ(user.text("txtW"), "0.00001");
+    }
+    calculate("70", "txtW", "0.000011");
+    expectNoWarning("lblW2", " lb. water/lb. dry air");
+}
+
+TEST_P(PanelLimits, ClipAMetricHumidityRatioAtAHundredthOfAGram)
+{
+    open(true);
+    calculate("20", "txtW", "0.005");
+    expectWarning("lblW2", " W clipped at 0.00001");
+    EXPECT_EQ(user.text("txtW"), "0.01");
+    calculate("20", "txtW", "0.011");
+    expectNoWarning("lblW2", expected().metricHumidityUnit);
+}
+
+TEST_P(PanelLimits, ClipGrainsThatAreTooFew)
+{
+    open();
+    calculate("70", "txtGrains", "0"); // where typed grains are discarded, too, those of a fresh screen are 0
+    expectWarning("lblGrains2", " grains clipped at 0.1");
+    EXPECT_EQ(user.text("txtGrains"), "0.1");
+    if (expected().discardsTypedGrains)
+        return;
+    for (const char* grains : {"", "-3", "0.09"}) {
+        calculate("70", "txtGrains", grains);
+        expectWarning("lblGrains2", " grains clipped at 0.1");
+        EXPECT_EQ(user.text("txtGrains"), "0.1");
+    }
+    calculate("70", "txtGrains", "0.1"); // the single lies above the double
+    expectNoWarning("lblGrains2", " grains");
+}
+
+TEST_P(PanelLimits, ShowTheWarningUntilTheNextCalculation)
+{
+    open();
+    calculate("70", "txtRH", "100.1");
+    enter("70", "txtRH", "50");
+    expectWarning("lblRH2", " RH clipped at 100%");
+    user.click("btnCALCULATE");
+    expectNoWarning("lblRH2", " %");
+}
+
+TEST_P(PanelLimits, LeaveTheClippedTextAndTheWarningOnShowWhereTheSolverFails)
+{
+    store("Pressure_psi", "0"); // every solver divides by it, after the clip
+    open();
+    expectClippedTexts(
+        "70", {{"txtGrains", "-1", "0.1", "lblGrains2", " grains clipped at 0.1"},
+               {"txtTwb", "71", expected().wetBulbClip.textAt70, "lblTwb2", " Twb clipped at Tdb"},
+               {"txttd", "71", expected().dewPointClip.textAt70, "lblDewPt2", " Dew Pt. clipped at Tdb"},
+               {"txtRH", "101", "100", "lblRH2", " RH clipped at 100%"},
+               {"txtRH", "-1", "0.1", "lblRH2", " RH clipped at 0.1%"},
+               {"txtW", "-1", "0.00001", "lblW2", " W clipped at 0.00001"}});
+}
+
+TEST_P(PanelLimits, PutTheKilogramFigureIntoTheFieldInMetric)
+{
+    store("Pressure_kPa", "0");
+    open(true);
+    expectClippedTexts(
+        "20", {{"txtW", "0.005", "0.00001", "lblW2", " W clipped at 0.00001"},
+               {"txtTwb", "21", expected().wetBulbClip.textAt20, "lblTwb2", " Twb clipped at Tdb"},
+               {"txttd", "21", expected().dewPointClip.textAt20, "lblDewPt2", " Dew Pt. clipped at Tdb"}});
 }
