@@ -1,5 +1,6 @@
 #include "platform/PrintServer.h"
 
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QLibrary>
 #include <QPointer>
@@ -7,27 +8,43 @@
 #include <QThread>
 #include <QTimer>
 
+#include <atomic>
 #include <chrono>
 
 namespace {
 
 constexpr std::chrono::seconds longestWait(5);
+constexpr qint64 longestAnswer = 500; // milliseconds, to one more question
 
-/// Returns false if the server has not answered in time. The thread that asks can't be stopped: it stays, and
+std::atomic<bool> isQuick = false;
+
+/// Asks for the printers, and then for one thing more, which shows the pace: the first answer may have had to
+/// wait for the server to start.
+void ask()
+{
+    QPrinterInfo::availablePrinterNames();
+    QElapsedTimer pace;
+    pace.start();
+    QPrinterInfo::defaultPrinterName();
+    isQuick = pace.elapsed() < longestAnswer;
+}
+
+/// Returns false if the server has not answered in time, or answers so slowly that the dozens of questions
+/// from the main thread would hold the window. The thread that asks can't be stopped: it stays, and
 /// no other is started beside it.
 bool answersInTime()
 {
     static QPointer<QThread> asking;
     if (asking != nullptr && !asking->isFinished())
         return false;
-    asking = QThread::create([] { QPrinterInfo::availablePrinterNames(); });
+    asking = QThread::create(ask);
     QEventLoop wait;
     QObject::connect(asking, &QThread::finished, &wait, &QEventLoop::quit);
     QObject::connect(asking, &QThread::finished, asking, &QThread::deleteLater);
     QTimer::singleShot(longestWait, &wait, &QEventLoop::quit);
     asking->start();
     wait.exec(QEventLoop::ExcludeUserInputEvents);
-    return asking == nullptr || asking->isFinished();
+    return (asking == nullptr || asking->isFinished()) && isQuick;
 }
 
 /// Sets the server that the toolkit asks from the main thread: CUPS keeps one for each thread. Null is the
