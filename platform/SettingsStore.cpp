@@ -7,9 +7,11 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <memory>
+#include <string_view>
 
 namespace {
 
@@ -35,6 +37,13 @@ QString pathOf(const std::string& application)
            QString::fromStdString(application) + ".ini";
 }
 
+/// True for a control character, which the toolkit never writes into a store.
+bool isNoText(char character)
+{
+    constexpr std::string_view blanks = "\t\n\f\r";
+    return static_cast<unsigned char>(character) < ' ' && blanks.find(character) == std::string_view::npos;
+}
+
 /// True for a text file of at most 1 MB, or if no file exists yet.
 bool isStore(const QString& path)
 {
@@ -46,7 +55,7 @@ bool isStore(const QString& path)
     if (!OpenRegularFile(file, QIODevice::ReadOnly, Links::Follow))
         return false;
     const QByteArray bytes = file.read(largest + 1);
-    return bytes.size() <= largest && !bytes.contains('\0');
+    return bytes.size() <= largest && std::ranges::none_of(bytes, isNoText);
 }
 
 /// Returns false if the store's lock stays taken, because the toolkit would wait for it forever.

@@ -11,13 +11,50 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <chrono>
+#include <string_view>
+#include <thread>
+
 using namespace forms;
 
 namespace {
+
+/// Answers each request, but only after a while, that it knows nothing.
+class SlowServer : public SilentServer
+{
+public:
+    using SilentServer::SilentServer;
+    ~SlowServer()
+    {
+        shutdown(socket, SHUT_RDWR); // ends accept()
+        answering.join();
+    }
+    SlowServer(const SlowServer&) = delete;
+    SlowServer& operator=(const SlowServer&) = delete;
+
+private:
+    void answerAll() const
+    {
+        for (int asking = accept(socket, nullptr, nullptr); asking >= 0;
+             asking = accept(socket, nullptr, nullptr)) {
+            char request[4096];
+            while (recv(asking, request, sizeof request, 0) > 0) {
+                std::this_thread::sleep_for(std::chrono::milliseconds(700));
+                constexpr std::string_view answer = "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n";
+                if (send(asking, answer.data(), answer.size(), MSG_NOSIGNAL) < 0)
+                    break;
+            }
+            close(asking);
+        }
+    }
+
+    std::thread answering{[this] { answerAll(); }};
+};
 
 /// Counts how often a widget is painted.
 class Paintings : public QObject
@@ -102,6 +139,16 @@ TEST_F(PrintServerTest, ThatFallsSilentLaterLeavesPrintingToAFile)
     printToFile(); // nothing listens yet
     const SilentServer server(path());
     printToFile();
+}
+
+TEST_F(PrintServerTest, ThatIsSlowIsNotAskedByTheMainThread)
+{
+    const SlowServer server(path());
+    AskPrintServer();
+    QElapsedTimer time;
+    time.start();
+    EXPECT_EQ(PrinterNames(), std::vector<std::string>{FilePrinter});
+    EXPECT_LT(time.elapsed(), 600);
 }
 
 TEST_F(PrintServerTest, ThatGoesAwayAgainLeavesPrintingToAFile)

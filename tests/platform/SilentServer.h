@@ -23,6 +23,6 @@ public:
     SilentServer(const SilentServer&) = delete;
     SilentServer& operator=(const SilentServer&) = delete;
 
-private:
+protected:
     int socket;
 };

@@ -44,6 +44,14 @@ TEST_F(PlaceOfTheStore, ReadsNothingFromAFileThatIsNone)
     EXPECT_EQ(bytes(file()), rubbish.toStdString());
 }
 
+TEST_F(PlaceOfTheStore, LeavesABinaryFileWithoutZeroBytesAlone)
+{
+    const QByteArray image("\x89PNG\r\n\x1a\n\x01\x02");
+    write(file(), image);
+    expectLeftAlone("an image");
+    EXPECT_EQ(bytes(file()), image.toStdString());
+}
+
 TEST_F(PlaceOfTheStore, IsNoPipe)
 {
     ASSERT_EQ(mkfifo(file().toLocal8Bit(), 0600), 0);
