@@ -62,55 +62,6 @@ protected:
         user.click(button);
     }
 
-    /// Opens a calculator and leaves it, by each of its ways back to the main menu.
-    template <class Calculator>
-    void expectToLeaveByEveryWay(const std::string& button)
-    {
-        const std::function<void()> ways[] = {[this] { user.choose("mnuExit"); },
-                                              [this] { user.choose("mnuMain1"); },
-                                              [this] { user.closeWindow(); }};
-        for (const auto& leave : ways) {
-            user.click(button);
-            EXPECT_TRUE(isLoaded<Calculator>());
-            EXPECT_FALSE(User::findWindow("MainForm")->isVisible());
-            leave();
-            EXPECT_EQ(user.window(), "MainForm");
-            EXPECT_FALSE(isLoaded<Calculator>());
-        }
-    }
-
-    /// Edits each humidity item after a calculation; what an edit does to the buttons is looked at by the
-    /// caller's two functions.
-    void expectEachEditToSelectItsItem(const std::function<void()>& before,
-                                       const std::function<void()>& after)
-    {
-        for (const auto& [field, selector] : humidityItems) {
-            calculate("70", "txtRH", "50");
-            before();
-            user.type(field, "0.005");
-            after();
-            EXPECT_EQ(HumiditySelector, selector);
-        }
-    }
-
-    /// Clicks each humidity item after a calculation: the others and the two results are emptied.
-    void expectEachClickToEmptyTheOthers(const std::function<void()>& before,
-                                         const std::function<void()>& after)
-    {
-        for (const auto& [item, selector] : humidityItems) {
-            calculate("70", "txtRH", "50");
-            before();
-            const std::string kept = user.text(item);
-            user.click(item);
-            after();
-            EXPECT_EQ(HumiditySelector, selector);
-            EXPECT_EQ(user.text("txtTdb"), "70");
-            for (const std::string other :
-                 {"txtTwb", "txttd", "txtRH", "txtW", "txtGrains", "txth", "txtSpVol"})
-                EXPECT_EQ(user.text(other), other == item ? kept : "") << item << " clicked: " << other;
-        }
-    }
-
     void expectCaptions(const Captions& captions)
     {
         for (const auto& [name, caption] : captions)
