@@ -19,19 +19,19 @@ class CalculatorTest : public ProgramTest
 {
 protected:
     using Names = std::vector<std::string>;
-    /// The five humidity items and their selector names.
+    /// The five humidity items with the name that selects each.
     static inline const std::pair<std::string, std::string> humidityItems[] = {{"txtTwb", "Wetbulb"},
                                                                                {"txttd", "Dew Point"},
                                                                                {"txtRH", "Rel"},
                                                                                {"txtW", "W"},
                                                                                {"txtGrains", "Grains"}};
 
-    /// What the air volume dialog last offered.
+    /// What the air volume dialog offered when it was answered last.
     std::string offeredVolume;
 
     using Captions = std::vector<std::pair<std::string, std::string>>;
 
-    /// Enters a dry bulb and one item as most users do.
+    /// Gives a dry bulb and one item the way most users do.
     void enter(const std::string& tdb, const std::string& field, const std::string& text)
     {
         user.type("txtTdb", tdb);
@@ -45,7 +45,7 @@ protected:
         user.click("btnCALCULATE");
     }
 
-    /// Presses a button that asks for an air volume and answers the dialog.
+    /// Presses a button that asks for an air volume, and answers.
     void answerVolume(const std::string& button, const std::string& volume)
     {
         user.inDialog("cfmForm", [this, volume] {
@@ -60,55 +60,6 @@ protected:
     {
         user.inDialog("cfmForm", [this] { user.click("btnCancel"); });
         user.click(button);
-    }
-
-    /// Opens a calculator and leaves it by each of its ways back to the main menu.
-    template <class Calculator>
-    void expectToLeaveByEveryWay(const std::string& button)
-    {
-        const std::function<void()> ways[] = {[this] { user.choose("mnuExit"); },
-                                              [this] { user.choose("mnuMain1"); },
-                                              [this] { user.closeWindow(); }};
-        for (const auto& leave : ways) {
-            user.click(button);
-            EXPECT_TRUE(isLoaded<Calculator>());
-            EXPECT_FALSE(User::findWindow("MainForm")->isVisible());
-            leave();
-            EXPECT_EQ(user.window(), "MainForm");
-            EXPECT_FALSE(isLoaded<Calculator>());
-        }
-    }
-
-    /// Edits each humidity item after a calculation. The caller's functions check the buttons before and
-    /// after.
-    void expectEachEditToSelectItsItem(const std::function<void()>& before,
-                                       const std::function<void()>& after)
-    {
-        for (const auto& [field, selector] : humidityItems) {
-            calculate("70", "txtRH", "50");
-            before();
-            user.type(field, "0.005");
-            after();
-            EXPECT_EQ(HumiditySelector, selector);
-        }
-    }
-
-    /// Clicks each humidity item after a calculation, which clears the others and the two results.
-    void expectEachClickToEmptyTheOthers(const std::function<void()>& before,
-                                         const std::function<void()>& after)
-    {
-        for (const auto& [item, selector] : humidityItems) {
-            calculate("70", "txtRH", "50");
-            before();
-            const std::string kept = user.text(item);
-            user.click(item);
-            after();
-            EXPECT_EQ(HumiditySelector, selector);
-            EXPECT_EQ(user.text("txtTdb"), "70");
-            for (const std::string other :
-                 {"txtTwb", "txttd", "txtRH", "txtW", "txtGrains", "txth", "txtSpVol"})
-                EXPECT_EQ(user.text(other), other == item ? kept : "") << item << " clicked: " << other;
-        }
     }
 
     void expectCaptions(const Captions& captions)
@@ -129,7 +80,7 @@ protected:
             EXPECT_TRUE(user.widget(frame)->isAncestorOf(user.widget(control))) << control;
     }
 
-    /// The entries of the menu bar or of one of its menus. A separator is "-", an entry "name=caption".
+    /// The entries of the menu bar, or of one menu of it; a separator is "-", an entry "name=caption".
     Names menu(const std::string& ofMenu = {})
     {
         const auto* const bar = static_cast<QMainWindow*>(User::findWindow(user.window()))->menuBar();
@@ -168,14 +119,14 @@ protected:
         EXPECT_EQ(fore(label), QColor(0, 0, 0));
     }
 
-    /// The control with the focus once a new dialog is the active window.
+    /// What has the focus once a dialog that has just come up is the active window.
     std::string focusAtOpening()
     {
         QApplication::processEvents();
         return user.focus();
     }
 
-    /// The controls that Tab visits from a field until it returns there.
+    /// Where the Tab key leads from a field on, until it is back there.
     Names tabStopsFrom(const std::string& field)
     {
         constexpr std::size_t tooMany = 30;
@@ -197,7 +148,7 @@ protected:
         EXPECT_EQ(user.text(field), before);
     }
 
-    /// Expects the active window to be centered, a quarter of the free height down.
+    /// The window that takes input stands in the middle, a quarter of the free height down.
     void expectAQuarterDownInTheMiddle()
     {
         const QWidget* const window = User::findWindow(user.window());
@@ -206,7 +157,7 @@ protected:
         EXPECT_EQ(window->y(), (screen.height() - window->height()) / 4);
     }
 
-    /// Saves the report through the active window's menu. Returns its text, or "(none)".
+    /// Saves the report by the menu of the window that takes input; its text, or "(none)".
     std::string savedReport()
     {
         const QTemporaryDir folder;

@@ -1,6 +1,9 @@
-// What the two reviews write to their records, and which fields of a record are never written.
+// The two reviews: what they show and write back into their records, and which fields of a record nothing
+// writes.
 
 #include "tests/screens/MixedAirFixture.h"
+
+#include <QAction>
 
 namespace {
 
@@ -32,8 +35,8 @@ protected:
         user.click("btnMixedAir");
     }
 
-    /// Saves the stream at the standard pressure, then the other one at a lower pressure, and reviews the
-    /// first there. Returns its record from before the review.
+    /// Saves the stream at the standard pressure, then the other one at a lower pressure, at which the first
+    /// is reviewed; its record before the review is returned.
     AirSnapshot reviewAtALowerPressure(const Stream& stream)
     {
         open(isMetric());
@@ -58,7 +61,7 @@ protected:
         EXPECT_EQ(now.td, StatePoint.td.asSingle());
         EXPECT_EQ(now.Twb, StatePoint.Twb.asSingle());
         EXPECT_EQ(now.Grains, isMetric() ? 0.0F : StatePoint.Grains.asSingle());
-        // At a lower pressure, the same humidity ratio gives a lower relative humidity and a larger volume.
+        // At a lower pressure the same humidity ratio is a lower relative humidity and a larger volume.
         EXPECT_LT(now.RH, saved.RH);
         EXPECT_GT(now.SpVol, saved.SpVol);
         EXPECT_LT(now.td, saved.td);
@@ -132,3 +135,66 @@ TEST_P(MixedAirRecords, HoldTenFieldsOfTheMixture)
 }
 
 } // namespace
+
+using MixedAirReview = MixedAirTest;
+
+TEST_F(MixedAirReview, ReviewsAStream)
+{
+    open();
+    saveBothStreams();
+    user.choose("mnuReviewOutsideAir");
+    EXPECT_EQ(user.text("txtTdb"), "95");
+    EXPECT_EQ(user.text("txtcfm1"), "1000");
+    EXPECT_EQ(user.text("txtRH"), "40.0");
+    EXPECT_EQ(StatePoint.Tdb, 95.0F);
+    EXPECT_EQ(HumiditySelector, "Dew Point");
+    expectButtons(true, false, false);
+
+    user.choose("mnuReviewReturnAir");
+    EXPECT_EQ(user.text("txtTdb"), "75");
+    EXPECT_EQ(user.text("txtcfm2"), "3000");
+    EXPECT_EQ(user.text("txtCFM"), "");
+}
+
+TEST_F(MixedAirReview, LeavesTheTotalAloneInTheOutsideAirsReviewOnly)
+{
+    open();
+    saveBothStreams();
+    user.click("btnMixedAir");
+    user.click("btnOK");
+    user.choose("mnuReviewOutsideAir");
+    EXPECT_EQ(user.text("txtCFM"), "4000");
+    user.choose("mnuReviewReturnAir");
+    EXPECT_EQ(user.text("txtCFM"), "");
+}
+
+TEST_F(MixedAirReview, ReviewsAtThePressureOfTheLastCalculation)
+{
+    open();
+    calculate("95", "txtRH", "40");
+    save("btnSaveOSA", "1000");
+    StatePoint.P = 12.0F;
+    user.choose("mnuReviewOutsideAir");
+    EXPECT_EQ(MixedOutsideAir.P, 12.0F);
+}
+
+TEST_F(MixedAirReview, EndsTheProgramOnTheReviewOfAStreamThatWasNeverSaved)
+{
+    open();
+    calculate("95", "txtRH", "40");
+    save("btnSaveOSA", "1000");
+    EXPECT_EXIT(user.choose("mnuReviewReturnAir"), testing::ExitedWithCode(1),
+                "message: Dunmoor: Run-time error '5':\nInvalid procedure call or argument");
+}
+
+TEST_F(MixedAirReview, NeverReviewsTheMixture)
+{
+    open();
+    saveBothStreams();
+    user.click("btnMixedAir");
+    user.click("btnOK");
+    const std::string before = user.text("txtTdb");
+    user.choose("mnuReviewMixedAir");
+    EXPECT_EQ(user.text("txtTdb"), before);
+    EXPECT_FALSE(user.menuEntry("mnuReviewMixedAir")->isEnabled());
+}

@@ -70,10 +70,12 @@ TEST_P(PanelCalculation, WorksFromTheItemThatChangedLastOnASecondPress)
     user.type("txtTdb", "80");
     user.widget("btnCALCULATE")->setEnabled(true);
     user.click("btnCALCULATE");
-    if (lastItem() == "Grains")
+    if (lastItem() == "Grains") {
         EXPECT_EQ(StatePoint.W, 54.5 / 7000.0) << "the grains as displayed";
-    else
+        EXPECT_EQ(user.text("txtGrains"), "54.5");
+    } else {
         EXPECT_EQ(StatePoint.td, static_cast<double>(50.6F)) << "the dew point as displayed";
+    }
     EXPECT_NE(user.text("txtRH"), "50.0");
 }
 

@@ -54,6 +54,16 @@ TEST_P(PanelEntries, SelectAnItemByAClickAndEmptyTheOthers)
     }
 }
 
+TEST_P(PanelEntries, SelectAnItemByAClickWhereAllAreBlank)
+{
+    open();
+    for (const auto& [item, selector] : humidityItems) {
+        expectButtons(
+            expected().onClick, [] { HumiditySelector = ""; }, [this, field = item] { user.click(field); });
+        EXPECT_EQ(HumiditySelector, selector);
+    }
+}
+
 TEST_P(PanelEntries, TakeNoClickOnTheGrainsInMetric)
 {
     open(true);

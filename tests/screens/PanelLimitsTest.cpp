@@ -34,6 +34,7 @@ protected:
             expectWarning("lblTwb2", " Twb clipped at Tdb");
             EXPECT_EQ(StatePoint.Twb.kind(), NumberKind::Double);
             EXPECT_EQ(StatePoint.Twb, wetBulb);
+            EXPECT_EQ(user.text("txtTwb"), FormatNumber(TaggedNumber(wetBulb), "#0.0"));
             calculate(tdb, "txttd", notBelow);
             expectWarning("lblDewPt2", " Dew Pt. clipped at Tdb");
             EXPECT_EQ(StatePoint.td.kind(), NumberKind::Double);

@@ -142,6 +142,9 @@ TEST_P(PanelLook, HoldsItsControlsInTheirFrames)
     expectInside("Frame1", {"lblTwb2", "lblDewPt2", "lblRH2", "lblW2", "lblGrains2"});
     expectInside("Frame3", {labels[7], "txth", "lblEnthalpy2", labels[8], "txtSpVol", "lblSpVol2"});
     expectInside("Frame5", namesOf(expected().buttons));
+    for (const auto& [frame, caption] : expected().frames)
+        EXPECT_TRUE(frame != "Frame6" || user.widget(frame)->findChildren<QWidget*>().isEmpty())
+            << "a banner";
 }
 
 TEST_P(PanelLook, StandsInRowsWithTheButtonsAtTheRight)
