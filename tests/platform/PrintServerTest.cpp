@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QFile>
@@ -17,12 +18,26 @@
 #include <QTimer>
 
 #include <chrono>
+#include <memory>
 #include <string_view>
 #include <thread>
 
 using namespace forms;
 
 namespace {
+
+/// A server that goes away in the last moments of the process, after the toolkit.
+struct LastServer
+{
+    ~LastServer()
+    {
+        if (server != nullptr) {
+            server.reset();
+            std::this_thread::sleep_for(std::chrono::milliseconds(300)); // time for the asking thread
+        }
+    }
+    std::unique_ptr<SilentServer> server;
+} lastServer;
 
 /// Answers each request, but only after a while, that it knows nothing.
 class SlowServer : public SilentServer
@@ -174,6 +189,19 @@ TEST_F(PrintServerTest, ThatNeverAnswersLetsTheProcessEnd)
             const SilentServer server(path());
             AskPrintServer();
             FormRegistry::clear();
+            std::exit(0);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+TEST_F(PrintServerTest, ThatGoesAwayWhileTheProcessEndsCrashesNothing)
+{
+    EXPECT_EXIT(
+        {
+            lastServer.server = std::make_unique<SilentServer>(path());
+            AskPrintServer();
+            FormRegistry::clear();
+            qApp->~QCoreApplication();
             std::exit(0);
         },
         testing::ExitedWithCode(0), "");
