@@ -4,6 +4,7 @@
 #include "platform/Desktop.h"
 #include "platform/forms/Forms.h"
 #include "platform/forms/MsgBox.h"
+#include "platform/forms/Outlines.h"
 #include "shell/MainForm.h"
 
 #include <QApplication>
@@ -31,6 +32,7 @@ void StartProgram()
     QIcon icon(":/dunmoor-32.png");
     icon.addFile(":/dunmoor-128.png");
     QGuiApplication::setWindowIcon(icon);
+    QApplication::setStyle(new Outlines);
     QGuiApplication::setQuitOnLastWindowClosed(false); // only the main menu ends the process
 
     IgnoreRelativeFolders();

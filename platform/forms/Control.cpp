@@ -1,5 +1,7 @@
 #include "platform/forms/Control.h"
 
+#include "platform/forms/Form.h"
+
 #include <QPalette>
 #include <QWidget>
 
@@ -25,10 +27,15 @@ Control::Control(Form& owner, QWidget* widget, const std::string& name) : form(o
     theWidget->setObjectName(QString::fromStdString(name));
 }
 
-void Control::setEnabled(bool enabled) { theWidget->setEnabled(enabled); }
+void Control::setEnabled(bool enabled)
+{
+    form.noteEnabling(*theWidget, enabled);
+    theWidget->setEnabled(enabled);
+}
+
 bool Control::isEnabled() const { return theWidget->isEnabled(); }
 void Control::setVisible(bool visible) { theWidget->setVisible(visible); }
-void Control::takeFocus() { theWidget->setFocus(Qt::OtherFocusReason); }
+void Control::takeFocus() { form.focusOn(*theWidget); }
 
 void Control::place(Twips left, Twips top, Twips width, Twips height)
 {

@@ -32,8 +32,8 @@ public:
     void hide() { setVisible(false); }
     void setVisible(bool visible);
 
-    /// Moves the focus to this control.
-    void takeFocus();
+    /// Moves the focus to this control. A field's text is then selected.
+    virtual void takeFocus();
 
     /// Places the control at a fixed position on its form, for forms without a layout.
     void place(Twips left, Twips top, Twips width, Twips height);

@@ -8,10 +8,13 @@
 #include <QEventLoop>
 #include <QMenuBar>
 #include <QPalette>
+#include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QWindow>
 
-#include <stdexcept>
+#include <algorithm>
+#include <utility>
 
 namespace forms {
 
@@ -47,6 +50,7 @@ void Form::showWindow()
 {
     const bool wasVisible = frame->isVisible();
     frame->show();
+    frame->keepOnScreen(); // the frame's size is known now
     frame->raise();
     frame->activateWindow();
     if (!wasVisible)
@@ -109,11 +113,12 @@ void Form::Unload(CloseReason reason)
 void Form::setCaption(const std::string& caption) { frame->setWindowTitle(QString::fromStdString(caption)); }
 void Form::setBackColour(Colour colour)
 {
-    QPalette palette = area()->palette();
+    QWidget& view = *frame->view(); // its content inherits the colors
+    QPalette palette = view.palette();
     palette.setColor(QPalette::Window, QColor(colour.red, colour.green, colour.blue));
     palette.setColor(QPalette::WindowText, Qt::black);
-    area()->setPalette(palette);
-    area()->setAutoFillBackground(true);
+    view.setPalette(palette);
+    view.setAutoFillBackground(true);
 }
 
 std::string Form::caption() const { return frame->windowTitle().toStdString(); }
@@ -121,7 +126,8 @@ std::string Form::caption() const { return frame->windowTitle().toStdString(); }
 void Form::setSize(Twips width, Twips height) { frame->setLeastSize({toPixels(width), toPixels(height)}); }
 
 void Form::fitToControls() { setSize(0, 0); }
-void Form::moveTo(Twips left, Twips top) { frame->move(toPixels(left), toPixels(top)); }
+void Form::keepTogether() { frame->keepTogether(); }
+void Form::moveTo(Twips left, Twips top) { frame->place({toPixels(left), toPixels(top)}); }
 void Form::placeInTheMiddle(int topPart)
 {
     moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / topPart);
@@ -145,26 +151,76 @@ bool Form::pressDefaultButton()
     return true;
 }
 
+void Form::setCancelButton(Button& button)
+{
+    escape = [&button] { button.press(); };
+}
+
+void Form::closeOnEsc()
+{
+    escape = [this] { frame->close(); };
+}
+
+bool Form::runIfSet(const Handler& handler)
+{
+    if (handler)
+        runHandler(*this, handler);
+    return static_cast<bool>(handler);
+}
+
+bool Form::pressKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return pressDefaultButton();
+    case Qt::Key_Escape:
+        return runIfSet(escape);
+    case Qt::Key_F1:
+        return runIfSet(help);
+    default:
+        return false;
+    }
+}
+
 void Form::addToMenuBar(Menu& menu) { frame->menuBar()->addMenu(menu.menu()); }
 void Form::addToMenuBar(MenuCommand& command) { frame->menuBar()->addAction(command.action()); }
 
-QWidget* Form::control(std::string_view name) const
+QWidget* Form::window() const { return frame; }
+QWidget* Form::area() const { return frame->content(); }
+
+void Form::focusOn(QWidget& widget)
 {
-    const QString wanted = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
-    auto* const found = frame->findChild<QWidget*>(wanted);
-    if (found == nullptr)
-        throw std::logic_error("no control of the name " + std::string(name));
-    return found;
+    lostFocus = false;
+    widget.setFocus(Qt::OtherFocusReason);
+    frame->view()->ensureWidgetVisible(&widget);
 }
 
-QWidget* Form::window() const { return frame; }
-QWidget* Form::area() const { return frame->centralWidget(); }
+void Form::noteEnabling(QWidget& widget, bool enabled)
+{
+    if (enabled && !widget.isEnabled() && qobject_cast<QPushButton*>(&widget) != nullptr)
+        enabledButtons.emplace_back(&widget);
+    if (!enabled && frame->focusWidget() == &widget)
+        lostFocus = true;
+}
+
+void Form::settleFocus()
+{
+    const auto buttons = std::exchange(enabledButtons, {});
+    if (!std::exchange(lostFocus, false))
+        return;
+    const auto first = std::ranges::find_if(
+        buttons, [](const QPointer<QWidget>& button) { return button != nullptr && button->isEnabled(); });
+    if (first != buttons.end())
+        focusOn(**first);
+}
 
 Form::RunningHandler::RunningHandler(Form& owner) : form(owner) { ++form.runningHandlers; }
 
 Form::RunningHandler::~RunningHandler()
 {
-    --form.runningHandlers;
+    if (--form.runningHandlers == 0)
+        form.settleFocus();
     FormRegistry::destroyIfIdle(form);
 }
 

@@ -8,8 +8,8 @@
 
 #include <memory>
 #include <string>
-#include <string_view>
 #include <typeindex>
+#include <vector>
 
 class QEventLoop;
 class QWidget;
@@ -85,10 +85,14 @@ public:
     void setCaption(const std::string& caption);
     std::string caption() const;
 
-    /// Sets the window's size, which is also its minimum. The window grows if its controls need more.
+    /// Sets the window's size, which is also its minimum. The window grows if its controls need more. If the
+    /// screen has less room, the window takes the room and its content scrolls.
     void setSize(Twips width, Twips height);
     /// Makes the window as large as its controls need.
     void fitToControls();
+    /// Keeps the controls together, in the middle, when the window is enlarged. Call it after setSize.
+    void keepTogether();
+    /// Places the window on the primary screen, or as near to that place as the screen allows.
     void moveTo(Twips left, Twips top);
     /// Centers the window horizontally and puts 1/topPart of the free height above it.
     void placeInTheMiddle(int topPart);
@@ -100,16 +104,27 @@ public:
     void setDefaultButton(Button& button);
     /// Presses the default button. Returns false if there is none or it is disabled.
     bool pressDefaultButton();
+    /// Esc presses this button.
+    void setCancelButton(Button& button);
+    /// Esc closes the window, as its close box does.
+    void closeOnEsc();
+    /// F1 runs this handler.
+    void onHelpKey(Handler handler) { help = std::move(handler); }
+    /// Does what Enter, Esc or F1 does on this form. Returns false for another key, and if nothing is done.
+    bool pressKey(int key);
 
     void addToMenuBar(Menu& menu);
     void addToMenuBar(MenuCommand& command);
 
-    /// The widget of the named control, which must exist.
-    QWidget* control(std::string_view name) const;
-
     /// The window, as a parent for dialogs, and its area for the controls.
     QWidget* window() const;
     QWidget* area() const;
+
+    /// Moves the focus within the form, and scrolls there.
+    void focusOn(QWidget& widget);
+    /// Called by a control whose state is about to change. If a handler disables the control that has the
+    /// focus and sets no focus, the first button that it enabled gets the focus when the handler ends.
+    void noteEnabling(QWidget& widget, bool enabled);
 
     /// Counts a running handler, so that the form outlives it.
     class RunningHandler
@@ -136,10 +151,16 @@ private:
     void load();
     void showWindow();
     void endWait();
+    bool runIfSet(const Handler& handler);
+    void settleFocus();
 
     FormWindow* frame;
     Button* defaultButton = nullptr;
-    QPointer<QEventLoop> wait; // ending the process may end the loop as well
+    Handler escape;
+    Handler help;
+    bool lostFocus = false;                        // in the running handler
+    std::vector<QPointer<QWidget>> enabledButtons; // by the running handler
+    QPointer<QEventLoop> wait;                     // ending the process may end the loop as well
     int runningHandlers = 0;
     bool unloading = false;
     bool retired = false;

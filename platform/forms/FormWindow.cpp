@@ -3,10 +3,28 @@
 #include "platform/forms/Form.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
+
+#include <algorithm>
 
 namespace forms {
+
+namespace {
+
+/// The width or height that the window manager adds to a window. Before the window is shown, an estimate.
+QSize frameSizeOf(const QWidget& window)
+{
+    if (window.isVisible())
+        return window.frameGeometry().size() - window.size();
+    return {0, window.style()->pixelMetric(QStyle::PM_TitleBarHeight)};
+}
+
+} // namespace
 
 FormWindow::FormWindow(Form& ownerForm, bool isDialog)
     : QMainWindow(nullptr, isDialog ? Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
@@ -14,25 +32,86 @@ FormWindow::FormWindow(Form& ownerForm, bool isDialog)
                                     : Qt::Window),
       owner(ownerForm)
 {
-    setCentralWidget(new QWidget(this));
+    auto* const scrolling = new QScrollArea(this);
+    scrolling->setFrameShape(QFrame::NoFrame);
+    scrolling->setFocusPolicy(Qt::NoFocus);
+    scrolling->setWidgetResizable(true);
+    scrolling->setWidget(new QWidget);
+    scrolling->widget()->installEventFilter(this);
+    setCentralWidget(scrolling);
     setContextMenuPolicy(Qt::NoContextMenu);
+    connect(qApp, &QGuiApplication::primaryScreenChanged, this, [this] { keepRoom(); });
 }
+
+QScrollArea* FormWindow::view() const { return static_cast<QScrollArea*>(centralWidget()); }
+QWidget* FormWindow::content() const { return view()->widget(); }
 
 void FormWindow::setLeastSize(QSize size)
 {
     leastSize = size;
+    if (content()->layout() == nullptr) { // placed controls
+        const QRect controls = content()->childrenRect();
+        content()->setMinimumSize(controls.right() + controls.left(), controls.bottom() + controls.top());
+    }
     keepRoom();
     resize(minimumSize());
 }
 
-void FormWindow::keepRoom() { setMinimumSize(leastSize.expandedTo(minimumSizeHint())); }
+void FormWindow::keepTogether()
+{
+    constexpr int percent = 125;
+    content()->setMaximumSize(minimumSize() * percent / 100);
+    view()->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+}
+
+/// The size at which nothing has to scroll.
+QSize FormWindow::neededSize() const
+{
+    const QSize rest = minimumSizeHint() - view()->minimumSizeHint(); // the menu bar
+    const QSize needed = content()->minimumSizeHint().expandedTo(content()->minimumSize());
+    return leastSize.expandedTo({needed.width(), needed.height() + rest.height()});
+}
+
+void FormWindow::keepRoom()
+{
+    const QSize room = screen()->availableSize() - frameSizeOf(*this);
+    setMinimumSize(neededSize().boundedTo(room));
+}
+
+void FormWindow::place(QPoint corner)
+{
+    const QScreen& primary = *QGuiApplication::primaryScreen();
+    moveInto(primary.availableGeometry(), primary.geometry().topLeft() + corner);
+}
+
+void FormWindow::keepOnScreen()
+{
+    if (!isMaximized() && !isFullScreen())
+        moveInto(screen()->availableGeometry(), pos());
+}
+
+/// The upper left corner has precedence where the window is larger than the area.
+void FormWindow::moveInto(QRect area, QPoint corner)
+{
+    const QSize outside = size() + frameSizeOf(*this);
+    const QPoint last(area.right() + 1 - outside.width(), area.bottom() + 1 - outside.height());
+    move(std::max(area.left(), std::min(corner.x(), last.x())),
+         std::max(area.top(), std::min(corner.y(), last.y())));
+}
 
 bool FormWindow::event(QEvent* event)
 {
     const bool isDone = QMainWindow::event(event);
     if (event->type() == QEvent::LayoutRequest)
-        keepRoom(); // a control now needs more or less space
+        keepRoom();
     return isDone;
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == content() && event->type() == QEvent::LayoutRequest)
+        keepRoom(); // a control now needs more or less space
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void FormWindow::closeEvent(QCloseEvent* event)
@@ -43,8 +122,7 @@ void FormWindow::closeEvent(QCloseEvent* event)
 
 void FormWindow::keyPressEvent(QKeyEvent* event)
 {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!isEnter || !owner.pressDefaultButton())
+    if (!owner.pressKey(event->key()))
         QMainWindow::keyPressEvent(event);
 }
 

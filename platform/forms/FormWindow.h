@@ -2,27 +2,43 @@
 
 #include <QMainWindow>
 
+class QScrollArea;
+
 namespace forms {
 
 class Form;
 
-/// The window of a form. Passes the close box and the Enter key to the form, and stays large enough for the
-/// controls.
+/// The window of a form. Passes the close box and the Enter, Esc and F1 keys to the form. Stays large enough
+/// for the controls, and within its screen: content that needs more room than the screen has scrolls.
 class FormWindow : public QMainWindow
 {
 public:
     FormWindow(Form& owner, bool isDialog);
 
+    /// The area for the controls, and the scrolling view around it.
+    QWidget* content() const;
+    QScrollArea* view() const;
+
     /// Sets the window to this size, or larger if the controls need it, now and later.
     void setLeastSize(QSize size);
+    /// Keeps the content at about its first size, in the middle, when the window is larger.
+    void keepTogether();
+    /// Places the window's frame, counted from the origin of the primary screen, or as near as this screen
+    /// allows.
+    void place(QPoint corner);
+    /// Moves the window into its screen if a part of it is outside.
+    void keepOnScreen();
 
 protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QSize neededSize() const;
     void keepRoom();
+    void moveInto(QRect area, QPoint corner);
 
     Form& owner;
     QSize leastSize;

@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QMenuBar>
 
 namespace forms {
 
@@ -13,9 +14,19 @@ MenuCommand::MenuCommand(Form& owner, const std::string& name, const std::string
     theAction->setObjectName(QString::fromStdString(name));
     theAction->setMenuRole(QAction::NoRole);
     QObject::connect(theAction, &QAction::triggered, theAction, [this] {
+        endHighlight();
         if (click)
             runHandler(form, click);
     });
+}
+
+/// Ends the highlighting of a command on the menu bar, which would stay while its dialog is open.
+void MenuCommand::endHighlight()
+{
+    for (QObject* const shownIn : theAction->associatedObjects()) {
+        if (auto* const bar = qobject_cast<QMenuBar*>(shownIn))
+            bar->setActiveAction(nullptr);
+    }
 }
 
 void MenuCommand::enable() { theAction->setEnabled(true); }

@@ -28,6 +28,8 @@ public:
     QAction* action() const { return theAction; }
 
 private:
+    void endHighlight();
+
     Form& form;
     QAction* theAction;
     Handler click;

@@ -14,11 +14,11 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 #include <QTimer>
 #include <QToolTip>
 #include <QWidget>
+
+#include <cstdlib>
 
 namespace forms {
 
@@ -111,12 +111,13 @@ private:
         return picture;
     }
 
+    /// A line around the picture. The style's focus rectangle would tint it.
     void paintFocus(QPainter& painter)
     {
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        option.backgroundColor = palette().color(QPalette::Window);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+        constexpr int width = 2;
+        painter.setPen(
+            QPen(palette().color(QPalette::Highlight), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 
     /// Paints the background first: newer versions of the toolkit draw letters differently on an opaque one.
@@ -145,6 +146,14 @@ QAccessibleInterface* asGraphic(const QString& /*className*/, QObject* object)
 }
 
 } // namespace
+
+bool HasHighContrast(const QPalette& desktop)
+{
+    const int back = qGray(desktop.color(QPalette::Window).rgb());
+    const int text = qGray(desktop.color(QPalette::WindowText).rgb());
+    constexpr int leastDifference = 120; // green on black differs by 127
+    return (back == 0 || back == 255) && std::abs(back - text) >= leastDifference;
+}
 
 Picture::Picture(Form& owner, const std::string& name, std::unique_ptr<PictureContents> contents)
     : Control(owner, new Canvas(owner, std::move(contents)), name)

@@ -6,11 +6,15 @@
 #include <string>
 
 class QPainter;
+class QPalette;
 class QPoint;
 class QSize;
 class QWidget;
 
 namespace forms {
+
+/// Whether the desktop's colors ask for strong lines: text in high contrast on pure black or white.
+bool HasHighContrast(const QPalette& desktop);
 
 /// The contents of a picture.
 class PictureContents

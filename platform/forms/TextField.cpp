@@ -27,6 +27,12 @@ void TextField::noteText()
 std::string TextField::text() const { return asEdit(this)->text().toStdString(); }
 void TextField::setText(const std::string& text) { asEdit(this)->setText(QString::fromStdString(text)); }
 
+void TextField::takeFocus()
+{
+    Control::takeFocus();
+    asEdit(this)->selectAll();
+}
+
 void TextField::alignRight() { asEdit(this)->setAlignment(Qt::AlignRight); }
 void TextField::leaveTabOrder() { asEdit(this)->setFocusPolicy(Qt::ClickFocus); }
 

@@ -43,6 +43,7 @@ public:
     void clear() { setText({}); }
     bool isEmpty() const { return text().empty(); }
 
+    void takeFocus() override;
     void alignRight();
     /// Removes the field from the tab order. It can still be clicked.
     void leaveTabOrder();

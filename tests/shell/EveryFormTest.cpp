@@ -1,18 +1,4 @@
-#include "screens/AirPropertiesCalc.h"
-#include "screens/Answers1.h"
-#include "screens/CoolingLoad1.h"
-#include "screens/CoolingLoad2.h"
-#include "screens/CoolingLoad3.h"
-#include "screens/HeatingLoad1.h"
-#include "screens/HeatingLoad2.h"
-#include "screens/Humid1.h"
-#include "screens/MixedAir.h"
-#include "screens/cfmForm.h"
-#include "screens/humid2.h"
-#include "shell/About.h"
-#include "shell/MainForm.h"
-#include "shell/Settings.h"
-#include "tests/support/ProgramTest.h"
+#include "tests/support/EveryForm.h"
 
 #include <QAccessible>
 #include <QComboBox>
@@ -21,68 +7,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTest>
 
 #include <algorithm>
 #include <vector>
 
-using namespace forms;
-
 namespace {
-
-struct ShownForm
-{
-    const char* name;
-    Form& (*use)();
-    const char* hiddenFrame = nullptr; ///< shown later by the form's handlers
-};
-
-template <class F>
-Form& use()
-{
-    return form<F>();
-}
-
-const ShownForm everyForm[] = {
-    {"MainForm", use<MainForm>},
-    {"Settings", use<Settings>},
-    {"About", use<About>},
-    {"AirPropertiesCalc", use<AirPropertiesCalc>},
-    {"MixedAir", use<MixedAir>},
-    {"MixedAirWithVolumes", use<MixedAir>, "Frame4"},
-    {"cfmForm", use<cfmForm>},
-    {"Answers1", use<Answers1>},
-    {"CoolingLoad1", use<CoolingLoad1>},
-    {"CoolingLoad2", use<CoolingLoad2>},
-    {"CoolingLoad3", use<CoolingLoad3>},
-    {"HeatingLoad1", use<HeatingLoad1>},
-    {"HeatingLoad2", use<HeatingLoad2>},
-    {"Humid1", use<Humid1>},
-    {"humid2", use<humid2>},
-};
-
-struct Case
-{
-    ShownForm form;
-    bool metric;
-};
-
-std::vector<Case> everyFormInBothModes()
-{
-    std::vector<Case> cases;
-    for (const ShownForm& form : everyForm) {
-        cases.push_back({form, false});
-        cases.push_back({form, true});
-    }
-    return cases;
-}
-
-std::ostream& operator<<(std::ostream& out, const Case& shown) { return out << shown.form.name; }
-
-std::string nameOf(const testing::TestParamInfo<Case>& info)
-{
-    return std::string(info.param.form.name) + (info.param.metric ? "InMetric" : "InEnglish");
-}
 
 bool isText(const QWidget& widget) { return qobject_cast<const QLabel*>(&widget) != nullptr; }
 
@@ -112,21 +41,9 @@ QString accessibleName(QWidget& widget)
 
 } // namespace
 
-/// Every form as it is first shown.
-class EveryForm : public ProgramTest, public testing::WithParamInterface<Case>
+class EveryForm : public EveryFormTest
 {
 protected:
-    void SetUp() override
-    {
-        GetParam().metric ? startInMetric() : start();
-        Form& shown = GetParam().form.use();
-        shown.Show();
-        window = shown.window();
-        if (GetParam().form.hiddenFrame != nullptr)
-            window->findChild<QWidget*>(GetParam().form.hiddenFrame)->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
-    }
-
     /// The visible controls that show text, accept input or are a picture.
     std::vector<QWidget*> controls() const
     {
@@ -142,8 +59,6 @@ protected:
     }
 
     QRect placeOf(const QWidget& widget) const { return {widget.mapTo(window, QPoint(0, 0)), widget.size()}; }
-
-    QWidget* window = nullptr;
 };
 
 TEST_P(EveryForm, ShowsNoControlOverAnother)

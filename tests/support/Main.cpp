@@ -5,9 +5,44 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 
 #include <sys/stat.h>
+
+namespace {
+
+/// The simulated screens, the primary one first, as "x,y,width,height/...". They are in pixels of the device.
+QByteArray screens()
+{
+    QJsonArray all;
+    for (const QString& screen : qEnvironmentVariable("DUNMOOR_TEST_SCREENS", "0,0,2560,1600").split('/')) {
+        const QStringList numbers = screen.split(',');
+        all.append(QJsonObject{{"name", "screen " + QString::number(all.size() + 1)},
+                               {"x", numbers[0].toInt()},
+                               {"y", numbers[1].toInt()},
+                               {"width", numbers[2].toInt()},
+                               {"height", numbers[3].toInt()},
+                               {"logicalDpi", 96},
+                               {"logicalBaseDpi", 96},
+                               {"dpr", 1}});
+    }
+    return QJsonDocument(QJsonObject{{"screens", all}}).toJson();
+}
+
+/// Simulates the screens from now on.
+void setScreens(const QString& file)
+{
+    QFile config(file);
+    EXPECT_TRUE(config.open(QIODevice::WriteOnly));
+    config.write(screens());
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.toUtf8());
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -22,7 +57,7 @@ int main(int argc, char** argv)
     qputenv("HOME", home.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", (home.path() + "/config").toUtf8());
     qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    setScreens(home.filePath("screens.json"));
     qputenv("XDG_DATA_HOME", (home.path() + "/data").toUtf8());
     QApplication application(argc, argv);
     return RUN_ALL_TESTS();

@@ -92,7 +92,7 @@ TEST_F(FormSize, FitsItsControls)
 {
     FirstDialog& dialog = form<FirstDialog>();
     dialog.fitToControls();
-    EXPECT_EQ(dialog.window()->size(), dialog.window()->minimumSizeHint());
+    EXPECT_EQ(dialog.window()->size(), dialog.area()->minimumSizeHint());
     EXPECT_GT(dialog.width(), 0);
 }
 
@@ -113,6 +113,39 @@ TEST_F(FormPlace, IsReckonedOnTheScreen)
     const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
     EXPECT_EQ(Screen::width(), screen.width() * 10);
     EXPECT_EQ(Screen::height(), screen.height() * 10);
+}
+
+TEST_F(FormPlace, IsOnTheScreenWhereverTheProgramPutsIt)
+{
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    FirstScreen& screen = form<FirstScreen>();
+    screen.moveTo(-1000, -1000);
+    EXPECT_EQ(screen.window()->pos(), room.topLeft());
+    screen.moveTo(Screen::width(), Screen::height());
+    EXPECT_TRUE(room.contains(screen.window()->frameGeometry()));
+}
+
+TEST_F(FormSize, IsAtMostThatOfTheScreenAndTheContentScrolls)
+{
+    FirstScreen& screen = form<FirstScreen>();
+    screen.lblFirst.setCaption(std::string(2000, 'W'));
+    screen.setSize(3000, 2000);
+    screen.Show();
+    comeToRest();
+    EXPECT_LE(screen.width(), Screen::width());
+    EXPECT_GT(screen.area()->width(), screen.window()->width());
+}
+
+TEST_F(FormSize, KeepsTheContentTogetherInALargerWindow)
+{
+    FirstScreen& screen = form<FirstScreen>();
+    screen.setSize(6000, 4000);
+    screen.keepTogether();
+    screen.Show();
+    screen.window()->resize(1800, 1200);
+    comeToRest();
+    EXPECT_EQ(screen.area()->width(), 750);
+    EXPECT_EQ(screen.area()->x(), (1800 - 750) / 2);
 }
 
 TEST_F(FormPlace, StaysOverHidingAndShowing)

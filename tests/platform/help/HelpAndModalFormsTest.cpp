@@ -88,7 +88,7 @@ TEST_F(HelpAndModalForms, TheFormsBehindStillTakeNoInput)
     whileTheDialogWaits([this] {
         user.click("btnFirst");
         QWidget* const window = form<FirstScreen>().window();
-        QWidget* const blocked = form<FirstScreen>().control("btnSecond");
+        QWidget* const blocked = form<FirstScreen>().btnSecond.widget();
         QTest::mouseClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
                           blocked->mapTo(window, blocked->rect().center()));
         comeToRest();

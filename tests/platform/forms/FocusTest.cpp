@@ -1,0 +1,187 @@
+// Where the focus goes by the program, and the keys of a form: Esc and F1.
+
+#include "tests/platform/forms/TestForms.h"
+
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QTest>
+
+namespace {
+
+std::string selectedText(const TextField& field)
+{
+    return static_cast<QLineEdit*>(field.widget())->selectedText().toStdString();
+}
+
+} // namespace
+
+using FocusByTheProgram = FormsTest;
+
+TEST_F(FocusByTheProgram, SelectsTheTextOfAField)
+{
+    FirstScreen& screen = showFirstScreen();
+    screen.txtSecond.setText("1000");
+    screen.txtSecond.takeFocus();
+    EXPECT_EQ(selectedText(screen.txtSecond), "1000");
+    user.keys("5");
+    EXPECT_EQ(user.text("txtSecond"), "5");
+}
+
+TEST_F(FocusByTheProgram, SelectsTheTextOfAFieldThatAlreadyHasTheFocus)
+{
+    FirstScreen& screen = showFirstScreen();
+    screen.txtSecond.takeFocus();
+    screen.txtSecond.setText("1000");
+    screen.txtSecond.takeFocus();
+    user.keys("5");
+    EXPECT_EQ(user.text("txtSecond"), "5");
+}
+
+class FocusAfterAHandler : public FormsTest
+{
+protected:
+    /// Presses the first button, whose handler is given.
+    void press(const Handler& handler)
+    {
+        FirstScreen& screen = form<FirstScreen>();
+        screen.btnFirst.onClick(handler);
+        screen.btnFirst.takeFocus();
+        user.key(Qt::Key_Space);
+    }
+};
+
+TEST_F(FocusAfterAHandler, GoesToTheButtonThatItEnabled)
+{
+    FirstScreen& screen = showFirstScreen();
+    screen.btnSecond.disable();
+    press([&screen] {
+        screen.btnFirst.disable();
+        screen.btnSecond.enable();
+    });
+    EXPECT_EQ(user.focus(), "btnSecond");
+}
+
+TEST_F(FocusAfterAHandler, StaysWhereTheHandlerPutIt)
+{
+    FirstScreen& screen = showFirstScreen();
+    screen.btnSecond.disable();
+    press([&screen] {
+        screen.btnFirst.disable();
+        screen.btnSecond.enable();
+        screen.txtThird.takeFocus();
+    });
+    EXPECT_EQ(user.focus(), "txtThird");
+}
+
+TEST_F(FocusAfterAHandler, StaysOnAControlThatWasNotDisabled)
+{
+    FirstScreen& screen = showFirstScreen();
+    screen.btnSecond.disable();
+    press([&screen] { screen.btnSecond.enable(); });
+    EXPECT_EQ(user.focus(), "btnFirst");
+}
+
+TEST_F(FocusAfterAHandler, IgnoresAButtonThatIsDisabledAgain)
+{
+    FirstScreen& screen = showFirstScreen();
+    screen.btnSecond.disable();
+    press([&screen] {
+        screen.btnFirst.disable();
+        screen.btnSecond.enable();
+        screen.btnSecond.disable();
+    });
+    EXPECT_NE(user.focus(), "btnSecond");
+}
+
+TEST_F(FocusAfterAHandler, DoesNotRememberAnEarlierHandler)
+{
+    FirstScreen& screen = showFirstScreen();
+    screen.btnSecond.disable();
+    press([&screen] { screen.btnSecond.enable(); });
+    press([&screen] { screen.btnFirst.disable(); });
+    screen.txtFirst.takeFocus();
+    EXPECT_EQ(user.focus(), "txtFirst");
+}
+
+class KeysOfAForm : public FormsTest
+{
+protected:
+    /// Shows the first dialog, presses a key in its field, and hides it.
+    void pressInDialog(Qt::Key key)
+    {
+        FirstDialog& dialog = form<FirstDialog>();
+        dialog.btnSecond.onClick(recorder("Second"));
+        dialog.Show();
+        QApplication::processEvents();
+        dialog.txtFirst.takeFocus();
+        calls.clear();
+        user.key(key);
+    }
+};
+
+TEST_F(KeysOfAForm, EscPressesTheCancelButton)
+{
+    form<FirstDialog>().setCancelButton(form<FirstDialog>().btnSecond);
+    pressInDialog(Qt::Key_Escape);
+    EXPECT_EQ(calls, Calls{"Second"});
+    EXPECT_TRUE(form<FirstDialog>().isVisible());
+}
+
+TEST_F(KeysOfAForm, EscPressesNoDisabledCancelButton)
+{
+    form<FirstDialog>().setCancelButton(form<FirstDialog>().btnSecond);
+    form<FirstDialog>().btnSecond.disable();
+    pressInDialog(Qt::Key_Escape);
+    EXPECT_TRUE(calls.empty());
+}
+
+TEST_F(KeysOfAForm, EscClosesAsTheCloseBoxDoes)
+{
+    form<FirstDialog>().closeOnEsc();
+    pressInDialog(Qt::Key_Escape);
+    EXPECT_EQ(only({"FirstDialog.Form_QueryUnload 0", "FirstDialog.Form_Unload"}),
+              (Calls{"FirstDialog.Form_QueryUnload 0", "FirstDialog.Form_Unload"}));
+    EXPECT_FALSE(isLoaded<FirstDialog>());
+}
+
+TEST_F(KeysOfAForm, EscDoesNothingElsewhere)
+{
+    pressInDialog(Qt::Key_Escape);
+    EXPECT_TRUE(calls.empty());
+    EXPECT_TRUE(form<FirstDialog>().isVisible());
+}
+
+TEST_F(KeysOfAForm, F1RunsTheHelpHandler)
+{
+    form<FirstDialog>().onHelpKey(recorder("help"));
+    pressInDialog(Qt::Key_F1);
+    EXPECT_EQ(calls, Calls{"help"});
+}
+
+/// A screen with a command directly on its menu bar.
+class CommandForm : public Form
+{
+public:
+    CommandForm() : Form("CommandForm", FormKind::Screen)
+    {
+        addToMenuBar(mnuCommand);
+        setSize(3000, 2000);
+    }
+
+    MenuCommand mnuCommand{*this, "mnuCommand", "&Command"};
+};
+
+using CommandOnTheMenuBar = FormsTest;
+
+TEST_F(CommandOnTheMenuBar, IsNotHighlightedWhileItsHandlerRuns)
+{
+    CommandForm& screen = form<CommandForm>();
+    screen.Show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(screen.window()));
+    auto* const bar = screen.window()->findChild<QMenuBar*>();
+    bool wasHighlighted = true;
+    screen.mnuCommand.onClick([&] { wasHighlighted = bar->activeAction() != nullptr; });
+    QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier,
+                      bar->actionGeometry(screen.mnuCommand.action()).center());
+    EXPECT_FALSE(wasHighlighted);
+}
