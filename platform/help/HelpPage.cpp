@@ -17,7 +17,6 @@
 #include <utility>
 
 namespace help {
-
 namespace {
 
 constexpr int widestPicture = 700; // in device-independent pixels
@@ -163,9 +162,9 @@ bool HelpPage::goToNextMark()
     return true;
 }
 
-void HelpPage::setTextSize(int newStep)
+void HelpPage::resizeText(int change)
 {
-    step = std::clamp(newStep, smallestStep, largestStep);
+    step = change == 0 ? 0 : std::clamp(step + change, smallestStep, largestStep);
     QFont sized = parentWidget()->font();
     sized.setPointSizeF(sized.pointSizeF() * (1 + 0.1 * step));
     document()->setDefaultFont(sized);

@@ -26,8 +26,8 @@ public:
     bool goToNextMark();
     int marks() const { return static_cast<int>(extraSelections().size()); }
 
-    /// Sets the text size: 0 is the desktop's own; each step changes it by 10 %.
-    void setTextSize(int newStep);
+    /// Makes the text larger or smaller by steps of 10 %. 0 restores the desktop's size.
+    void resizeText(int change);
     int textSize() const { return step; }
 
     /// Prints the current page, dark on light.

@@ -1,5 +1,6 @@
 // Pages that are too large to lay out are shown as text.
 
+#include "platform/help/HelpSearch.h"
 #include "platform/help/PageLimits.h"
 #include "tests/platform/help/HelpTest.h"
 
@@ -84,7 +85,7 @@ void readAndLayOut(const QByteArray& bytes)
 {
     const HelpBook book(QList<ChmMember>{{"a.html", bytes}});
     ReadSitemap(bytes);
-    HelpSearch(std::make_shared<const HelpBook>(book)).find({"air"});
+    FindPages(book, {"air"});
     QTextDocument document;
     document.setDefaultStyleSheet(bytes);
     document.setHtml(book.page("a.html"));
