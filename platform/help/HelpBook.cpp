@@ -118,7 +118,8 @@ QString HelpBook::text(const QString& name) const
     QStringDecoder decoder = QStringDecoder::decoderForHtml(bytes);
     if (!decoder.isValid())
         decoder = QStringDecoder(QStringDecoder::Latin1);
-    return decoder(bytes);
+    const QString decoded = decoder(bytes);
+    return QString::fromUtf8(decoded.toUtf8()); // without half characters: regular expressions refuse them
 }
 
 QString HelpBook::homePage() const

@@ -70,6 +70,14 @@ TEST_F(LargePages, OfTablesInTablesInTables)
     expectItsLayout(QByteArray("<table><tr><td>x").repeated(6));
 }
 
+TEST_F(LargePages, WithHalfACharacter)
+{
+    const QString cells = "<td rowspan=10001>x</td>";
+    const QString page =
+        QChar(QChar::ByteOrderMark) + QString("<table><tr>") + cells + QChar(0xd800) + "<p>the end";
+    expectItsTextAlone({reinterpret_cast<const char*>(page.utf16()), page.size() * qsizetype{sizeof(QChar)}});
+}
+
 TEST_F(LargePages, KeepTheirWords)
 {
     const QString text = WithinLimits(QString("<p>70 &deg;</p>").repeated(20'000) + "a < b");
