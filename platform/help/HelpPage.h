@@ -18,7 +18,8 @@ class HelpPage : public QTextBrowser
 public:
     HelpPage(std::shared_ptr<const HelpBook> shown, QWidget* parent);
 
-    /// Shows a page, scrolls to the reference's anchor, if any, and marks the words.
+    /// Shows a page, marks the words, and goes to the first mark, or to the reference's anchor if there is
+    /// none. A no-op if the reference is empty.
     void open(const QString& reference, const QStringList& wordsToMark = {});
     QString pageName() const; ///< the current page
 

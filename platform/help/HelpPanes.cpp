@@ -1,5 +1,6 @@
 #include "platform/help/HelpPanes.h"
 
+#include "platform/help/HelpPage.h"
 #include "platform/help/HelpSearch.h"
 
 #include <QHBoxLayout>
@@ -10,6 +11,7 @@
 #include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace help {
@@ -70,9 +72,9 @@ void filter(QTreeWidget& list, const QString& text)
 
 } // namespace
 
-HelpPanes::HelpPanes(std::shared_ptr<const HelpBook> shown, OpenHelpPage opener)
+HelpPanes::HelpPanes(std::shared_ptr<const HelpBook> shown, HelpPage& beside)
     : book(std::move(shown)),
-      openPage(std::move(opener)),
+      page(beside),
       contents(makeList("helpContents", "Contents")),
       searchField(makeField("helpSearchField", "Words to search for")),
       summary(new QLabel(searchHint)),
@@ -94,7 +96,7 @@ QTreeWidget* HelpPanes::makeList(const QString& name, const QString& accessibleN
     list->setUniformRowHeights(true);
     list->setRootIsDecorated(false);
     const auto open = [this](const QTreeWidgetItem* line) {
-        openPage(line->data(0, pageRole).toString(), line->data(0, wordsRole).toStringList());
+        page.open(line->data(0, pageRole).toString(), line->data(0, wordsRole).toStringList());
     };
     connect(list, &QTreeWidget::itemClicked, this, open);
     connect(list, &QTreeWidget::itemActivated, this, open);
@@ -154,11 +156,11 @@ void HelpPanes::addSearch()
     connect(searchField, &QLineEdit::returnPressed, this, &HelpPanes::search);
 }
 
-void HelpPanes::showPage(const QString& page)
+void HelpPanes::showPage(const QString& name)
 {
-    const auto isItsOwn = [&page](const QTreeWidgetItem* line) {
+    const auto isItsOwn = [&name](const QTreeWidgetItem* line) {
         const QString reference = line->data(0, pageRole).toString();
-        return !page.isEmpty() && reference.section('#', 0, 0).compare(page, Qt::CaseInsensitive) == 0;
+        return !name.isEmpty() && reference.section('#', 0, 0).compare(name, Qt::CaseInsensitive) == 0;
     };
     QTreeWidgetItem* shown = contents->currentItem();
     if (shown == nullptr || !isItsOwn(shown)) {

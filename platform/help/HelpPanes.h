@@ -2,10 +2,8 @@
 
 #include "platform/help/HelpBook.h"
 
-#include <QStringList>
 #include <QTabWidget>
 
-#include <functional>
 #include <memory>
 
 class QLabel;
@@ -14,17 +12,17 @@ class QTreeWidget;
 
 namespace help {
 
-/// Opens a help page and marks words on it. A no-op if the reference is empty.
-using OpenHelpPage = std::function<void(const QString& reference, const QStringList& words)>;
+class HelpPage;
 
-/// The contents tree, the index with a field that filters it, and the full-text search.
+/// The contents tree, the index with a field that filters it, and the full-text search. They open pages in
+/// the view beside them.
 class HelpPanes : public QTabWidget
 {
 public:
-    HelpPanes(std::shared_ptr<const HelpBook> shown, OpenHelpPage opener);
+    HelpPanes(std::shared_ptr<const HelpBook> shown, HelpPage& beside);
 
     /// Selects the line of a page in the contents, if it has one.
-    void showPage(const QString& page);
+    void showPage(const QString& name);
     void startSearch();
 
 private:
@@ -35,7 +33,7 @@ private:
     void search();
 
     std::shared_ptr<const HelpBook> book;
-    OpenHelpPage openPage;
+    HelpPage& page;
     QTreeWidget* contents;
     QLineEdit* searchField;
     QLabel* summary;

@@ -27,9 +27,8 @@ HelpWindow::HelpWindow(std::shared_ptr<const HelpBook> shown)
     : QWidget(nullptr, Qt::Window),
       book(std::move(shown)),
       tools(new QToolBar),
-      panes(new HelpPanes(
-          book, [this](const QString& reference, const QStringList& words) { openPage(reference, words); })),
       page(new HelpPage(book, this)),
+      panes(new HelpPanes(book, *page)),
       notice(new QLabel)
 {
     setObjectName("HelpWindow");
@@ -69,7 +68,7 @@ void HelpWindow::makeCommands()
         addCommand("helpBack", "\u2190 Back", "Back", Qt::ALT | Qt::Key_Left, [this] { page->backward(); });
     QAction* const forward = addCommand("helpForward", "Forward \u2192", "Forward", Qt::ALT | Qt::Key_Right,
                                         [this] { page->forward(); });
-    addCommand("helpHome", "Home", "Home", Qt::ALT | Qt::Key_Home, [this] { openPage(book->homePage()); });
+    addCommand("helpHome", "Home", "Home", Qt::ALT | Qt::Key_Home, [this] { page->open(book->homePage()); });
     tools->addSeparator();
     const auto larger = [this] { page->resizeText(1); };
     addCommand("helpSmaller", "A\u2212", "Smaller text", Qt::CTRL | Qt::Key_Minus,
@@ -118,17 +117,9 @@ QAction* HelpWindow::addCommand(const QString& name, const QString& label, const
 void HelpWindow::goToTopic(int topic)
 {
     const QString wanted = book->pageOfTopic(topic);
-    openPage(wanted.isEmpty() ? book->homePage() : wanted);
+    page->open(wanted.isEmpty() ? book->homePage() : wanted);
     notice->setText("This help has no topic " + QString::number(topic) + ". Here is its first page.");
     notice->setVisible(wanted.isEmpty());
-}
-
-void HelpWindow::openPage(const QString& reference, const QStringList& words)
-{
-    if (reference.isEmpty())
-        return;
-    page->open(reference, words);
-    page->goToNextMark();
 }
 
 void HelpWindow::print()

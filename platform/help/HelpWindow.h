@@ -36,15 +36,14 @@ private:
     void makeCommands();
     QAction* addCommand(const QString& name, const QString& label, const QString& text,
                         const QKeySequence& key, const std::function<void()>& handler);
-    void openPage(const QString& reference, const QStringList& wordsToMark = {});
     void attachTo(QWindow* before);
     void placeBeside(const QWidget& asking);
     void print();
 
     std::shared_ptr<const HelpBook> book;
     QToolBar* tools;
-    HelpPanes* panes;
     HelpPage* page;
+    HelpPanes* panes;
     QLabel* notice;
 };
 
