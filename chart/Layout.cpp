@@ -38,13 +38,13 @@ QRectF plotIn(const QSize& size, const QFontMetricsF& metrics)
 {
     const double line = metrics.height();
     const double left = metrics.horizontalAdvance("-000");
-    const double right = metrics.horizontalAdvance("0.0000") + line * 1.5 + Names::axisGap;
+    const double right = metrics.horizontalAdvance("0.0000") + line * 1.5 + axisGap;
     const QRectF plot(left, line * 1.4, size.width() - left - right, size.height() - line * 4.2);
     return plot.toAlignedRect().intersected(QRect(QPoint(0, 0), size));
 }
 
 /// Marks and process lines come first, so that the names of the curves avoid them.
-void addNames(Layout& chart, const QFontMetricsF& metrics, const std::vector<Label>& legend)
+void addLabels(Layout& chart, const QFontMetricsF& metrics, const std::vector<Label>& legend)
 {
     for (const Label& label : legend)
         chart.labels.add(label);
@@ -52,10 +52,7 @@ void addNames(Layout& chart, const QFontMetricsF& metrics, const std::vector<Lab
         if (run.isJoined)
             chart.labels.avoid({chart.placeOf(run.states[0]), chart.placeOf(run.states[1])});
     }
-    Names names(chart.labels, chart.plane, metrics);
-    names.nameMarks(chart.marks);
-    names.nameAxes();
-    names.nameCurves(chart.curves);
+    AddNames(chart, metrics);
 }
 
 } // namespace
@@ -79,7 +76,7 @@ Layout::Layout(const QSize& size, const QFont& widgetFont)
     curves = TraceCurves(air, plane);
     addMarks();
     const QRectF strip(2, 2, size.width() - 4, 0);
-    addNames(*this, metrics, isInCorner ? legend.inCorner(whole) : legend.inStrip(strip));
+    addLabels(*this, metrics, isInCorner ? legend.inCorner(whole) : legend.inStrip(strip));
 }
 
 void Layout::addMarks()

@@ -3,6 +3,7 @@
 #include "chart/Air.h"
 
 #include <algorithm>
+#include <array>
 
 namespace chart {
 namespace {
@@ -28,19 +29,8 @@ Run shown(const LastRun& last)
 
 const char* TitleOf(Calculator calculator)
 {
-    switch (calculator) {
-    case Calculator::AirProperties:
-        return "Air properties";
-    case Calculator::MixedAir:
-        return "Mixed air";
-    case Calculator::Cooling:
-        return "Cooling";
-    case Calculator::Heating:
-        return "Heating";
-    case Calculator::Humidification:
-        return "Humidification";
-    }
-    return "";
+    constexpr std::array titles{"Air properties", "Mixed air", "Cooling", "Heating", "Humidification"};
+    return titles.at(static_cast<std::size_t>(calculator));
 }
 
 std::vector<Run> ShownRuns()

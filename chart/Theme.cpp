@@ -45,16 +45,10 @@ QColor Theme::axis() const
 QPen Theme::pen(Family family) const
 {
     QColor color = text(family);
-    switch (family) {
-    case Family::Saturation:
+    if (family == Family::Saturation)
         return {color, 2.2};
-    case Family::DryBulb:
-    case Family::HumidityRatio:
-        color.setAlpha(gridAlpha);
-        break;
-    default:
-        color.setAlpha(thinCurveAlpha);
-    }
+    const bool isGrid = family == Family::DryBulb || family == Family::HumidityRatio;
+    color.setAlpha(isGrid ? gridAlpha : thinCurveAlpha);
     return {color, 1};
 }
 

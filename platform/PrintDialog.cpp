@@ -57,28 +57,26 @@ void proposeFile(QPrintDialog& dialog)
     file->setText(folder.filePath("Dunmoor.pdf"));
 }
 
-/// Copies the settings of the current printer to the dialog's device.
-void copySettings(Printer& current, QPrinter& device)
+void copySettings(QPrinter& from, QPrinter& to)
 {
-    QPrinter& source = current.device();
-    device.setPageLayout(source.pageLayout());
-    device.setPaperSource(source.paperSource());
-    device.setCopyCount(source.copyCount());
-    device.setDuplex(source.duplex());
-    device.setColorMode(source.colorMode());
-    device.setResolution(source.resolution());
-    device.setCollateCopies(source.collateCopies());
-    device.setPageOrder(source.pageOrder());
-    copyPrintSystemOptions(source, device);
+    to.setCopyCount(from.copyCount());
+    to.setDuplex(from.duplex());
+    to.setPageLayout(from.pageLayout());
+    to.setResolution(from.resolution());
+    to.setColorMode(from.colorMode());
+    to.setPaperSource(from.paperSource());
+    to.setCollateCopies(from.collateCopies());
+    to.setPageOrder(from.pageOrder());
+    copyPrintSystemOptions(from, to);
 }
 
 /// A separate device for the dialog, which may change it while it is open.
-std::unique_ptr<QPrinter> deviceForDialog(Printer& current)
+std::unique_ptr<QPrinter> deviceForDialog(const Printer& current)
 {
     std::unique_ptr<QPrinter> device = OpenDevice(current.deviceName());
     if (current.deviceName() == FilePrinter && !current.port().empty())
         device->setOutputFileName(QString::fromStdString(current.port()));
-    copySettings(current, *device);
+    copySettings(current.device(), *device);
     return device;
 }
 
@@ -117,7 +115,7 @@ private:
 
 /// Keeps the current properties. On OK the toolkit resets them to the printer's defaults unless the user has
 /// confirmed the properties page.
-void keepProperties(Printer& current, QPrinter& chosen)
+void keepProperties(const Printer& current, QPrinter& chosen)
 {
     if (DeviceName(chosen) != current.deviceName())
         return;
@@ -136,29 +134,6 @@ void chooseDevice(Printer& current, const QPrinter& chosen)
         return;
     if (const auto printer = PrinterToGoOverTo(PrinterNames(), name))
         current.changeDevice(*printer);
-}
-
-void chooseSettings(Printer& current, const QPrinter& chosen)
-{
-    current.setCopies(chosen.copyCount());
-    current.setDuplex(chosen.duplex());
-    current.setOrientation(chosen.pageLayout().orientation());
-    current.setPaperSize(chosen.pageLayout().pageSize());
-    current.setPrintQuality(chosen.resolution());
-    current.setColorMode(chosen.colorMode());
-    current.setPaperBin(chosen.paperSource());
-}
-
-/// Enables the dialog's options that not every printer has.
-void chooseExtras(Printer& current, QPrinter& chosen)
-{
-    if (current.isPrinting())
-        return;
-    current.setPort(chosen.outputFileName().toStdString());
-    current.device().setPageMargins(chosen.pageLayout().margins(), chosen.pageLayout().units());
-    current.device().setCollateCopies(chosen.collateCopies());
-    current.device().setPageOrder(chosen.pageOrder());
-    copyPrintSystemOptions(chosen, current.device());
 }
 
 } // namespace
@@ -187,14 +162,14 @@ bool ShowPrintDialog(const Form& owner)
                       QAbstractPrintDialog::PrintShowPageSize);
     leaveOutPageRange(dialog);
     proposeFile(dialog);
-    const PropertiesWatch properties(current.paperSize());
+    const PropertiesWatch properties(current.device().pageLayout().pageSize());
     if (dialog.exec() != QDialog::Accepted)
         return false;
     if (!properties.wereConfirmed())
         keepProperties(current, *device);
 
     chooseDevice(current, *device);
-    chooseSettings(current, *device);
-    chooseExtras(current, *device);
+    current.setPort(device->outputFileName().toStdString());
+    current.changeSettings([&device](QPrinter& settings) { copySettings(*device, settings); });
     return true;
 }

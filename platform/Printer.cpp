@@ -107,15 +107,11 @@ void Printer::changeDevice(const std::string& device)
 
 std::string Printer::deviceName() const { return DeviceName(*device_); }
 
-std::string Printer::driverName() const { return QPrinterInfo(*device_).makeAndModel().toStdString(); }
-
 std::string Printer::port() const
 {
     return (deviceName() == FilePrinter ? device_->outputFileName() : QPrinterInfo(*device_).location())
         .toStdString();
 }
-
-int Printer::pageWidth() const { return device_->width(); }
 
 void Printer::setPort(const std::string& file)
 {
@@ -125,46 +121,10 @@ void Printer::setPort(const std::string& file)
     }
 }
 
-void Printer::setOrientation(QPageLayout::Orientation orientation)
+void Printer::changeSettings(const std::function<void(QPrinter&)>& change)
 {
     if (!isPrinting())
-        device_->setPageOrientation(orientation);
-}
-
-void Printer::setPaperSize(const QPageSize& size)
-{
-    if (!isPrinting())
-        device_->setPageSize(size);
-}
-
-void Printer::setPaperBin(QPrinter::PaperSource bin)
-{
-    if (!isPrinting())
-        device_->setPaperSource(bin);
-}
-
-void Printer::setCopies(int copies)
-{
-    if (!isPrinting())
-        device_->setCopyCount(copies);
-}
-
-void Printer::setDuplex(QPrinter::DuplexMode mode)
-{
-    if (!isPrinting())
-        device_->setDuplex(mode);
-}
-
-void Printer::setPrintQuality(int dotsPerInch)
-{
-    if (!isPrinting())
-        device_->setResolution(dotsPerInch);
-}
-
-void Printer::setColorMode(QPrinter::ColorMode mode)
-{
-    if (!isPrinting())
-        device_->setColorMode(mode);
+        change(*device_);
 }
 
 PrinterFont Printer::font() const

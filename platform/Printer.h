@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QPrinter>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -32,26 +33,12 @@ public:
     void changeDevice(const std::string& device);
 
     std::string deviceName() const;
-    std::string driverName() const;
-    std::string port() const; ///< the printer's location, or the file of the file printer
-    int pageWidth() const;    ///< width between the margins, in device dots
-
-    QPageLayout::Orientation orientation() const { return device_->pageLayout().orientation(); }
-    QPageSize paperSize() const { return device_->pageLayout().pageSize(); }
-    QPrinter::PaperSource paperBin() const { return device_->paperSource(); }
-    int copies() const { return device_->copyCount(); }
-    QPrinter::DuplexMode duplex() const { return device_->duplex(); }
-    int printQuality() const { return device_->resolution(); } ///< dots per inch
-    QPrinter::ColorMode colorMode() const { return device_->colorMode(); }
-
+    std::string port() const;              ///< the printer's location, or the file of the file printer
     void setPort(const std::string& file); ///< for the file printer only
-    void setOrientation(QPageLayout::Orientation orientation);
-    void setPaperSize(const QPageSize& size);
-    void setPaperBin(QPrinter::PaperSource bin);
-    void setCopies(int copies);
-    void setDuplex(QPrinter::DuplexMode mode);
-    void setPrintQuality(int dotsPerInch);
-    void setColorMode(QPrinter::ColorMode mode);
+
+    /// The toolkit's device: orientation, paper, copies, color mode and so on.
+    QPrinter& device() const { return *device_; }
+    void changeSettings(const std::function<void(QPrinter&)>& change);
 
     /// The font for the lines that follow.
     PrinterFont font() const;
@@ -64,8 +51,6 @@ public:
     /// Ends the document and sends it to the device. A no-op without a document.
     [[nodiscard]] bool endDocument();
 
-    /// The toolkit's device, for dialogs and for settings that only the device has.
-    QPrinter& device() { return *device_; }
     bool isPrinting() const { return painter != nullptr; }
 
 private:

@@ -44,27 +44,7 @@ using ThisMachine = WindowsRegistry;
 
 #else
 
-namespace {
-
-class NoRegistry : public Registry
-{
-public:
-    std::optional<Key> RegOpenKeyExA(std::uint32_t /*root*/, const std::string& /*name*/,
-                                     std::uint32_t /*options*/, std::uint32_t /*rights*/) override
-    {
-        return std::nullopt;
-    }
-    std::optional<RegistryValue> RegQueryValueExA(Key /*key*/, const std::string& /*name*/,
-                                                  std::size_t /*room*/) override
-    {
-        return std::nullopt;
-    }
-    void RegCloseKey(Key /*key*/) override {}
-};
-
-using ThisMachine = NoRegistry;
-
-} // namespace
+using ThisMachine = Registry;
 
 #endif
 

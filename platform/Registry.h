@@ -19,7 +19,7 @@ struct RegistryValue
     std::string bytes;
 };
 
-/// The registry calls that the program makes.
+/// The registry calls that the program makes. This one is empty, for systems without a registry.
 class Registry
 {
 public:
@@ -28,13 +28,19 @@ public:
     virtual ~Registry() = default;
 
     /// @return nothing if the key doesn't exist or access is denied
-    virtual std::optional<Key> RegOpenKeyExA(std::uint32_t root, const std::string& name,
-                                             std::uint32_t options, std::uint32_t rights) = 0;
+    virtual std::optional<Key> RegOpenKeyExA(std::uint32_t /*root*/, const std::string& /*name*/,
+                                             std::uint32_t /*options*/, std::uint32_t /*rights*/)
+    {
+        return std::nullopt;
+    }
     /// @return nothing if the value doesn't exist or is too long for the buffer
-    virtual std::optional<RegistryValue> RegQueryValueExA(Key key, const std::string& name,
-                                                          std::size_t room) = 0;
-    virtual void RegCloseKey(Key key) = 0;
+    virtual std::optional<RegistryValue> RegQueryValueExA(Key /*key*/, const std::string& /*name*/,
+                                                          std::size_t /*room*/)
+    {
+        return std::nullopt;
+    }
+    virtual void RegCloseKey(Key /*key*/) {}
 };
 
-/// This machine's registry, or an empty one if the system has no registry.
+/// This machine's registry.
 Registry& MachineRegistry();

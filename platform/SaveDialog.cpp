@@ -3,37 +3,20 @@
 #include "platform/forms/Form.h"
 
 #include <QFileDialog>
+#include <QRegularExpression>
 
 using namespace forms;
 
 namespace {
 
-/// Removes the text before the next NUL and returns it.
-QString takeItem(std::string_view& filter)
-{
-    const std::string_view item = filter.substr(0, filter.find('\0'));
-    filter.remove_prefix(std::min(item.size() + 1, filter.size()));
-    return QString::fromUtf8(item.data(), static_cast<qsizetype>(item.size()));
-}
-
 /// The filters in the toolkit's form, "text (pattern)".
 QStringList nameFilters(std::string_view filter)
 {
+    const QStringList items = QString::fromUtf8(filter).split(QChar('\0'));
     QStringList names;
-    while (!filter.empty()) {
-        const QString text = takeItem(filter);
-        const QString pattern = takeItem(filter);
-        names << text + " (" + (pattern == "*.*" ? "*" : pattern) + ")";
-    }
+    for (qsizetype item = 0; item + 1 < items.size(); item += 2)
+        names << items[item] + " (" + (items[item + 1] == "*.*" ? "*" : items[item + 1]) + ")";
     return names;
-}
-
-std::string withoutBlanksAround(const std::string& text)
-{
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 } // namespace
@@ -51,5 +34,6 @@ std::string ShowSaveDialog(const Form& owner, std::string_view filter, const std
     dialog.setNameFilters(nameFilters(filter));
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    return withoutBlanksAround(dialog.selectedFiles().value(0).toStdString());
+    static const QRegularExpression blanksAround("^ +| +\\z");
+    return dialog.selectedFiles().value(0).remove(blanksAround).toStdString();
 }

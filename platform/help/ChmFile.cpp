@@ -11,7 +11,6 @@
 #include <vector>
 
 namespace help {
-
 namespace {
 
 /// The members within the limits, in the order that unpacks fastest.

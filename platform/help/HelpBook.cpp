@@ -4,16 +4,19 @@
 
 #include <QDataStream>
 #include <QIODevice>
+#include <QRegularExpression>
 #include <QStringDecoder>
+#include <QTextDocumentFragment>
 
 #include <algorithm>
 #include <utility>
 
 namespace help {
-
 namespace {
 
 constexpr int homePageCode = 2;
+constexpr int mostEntries = 10'000;
+constexpr int mostLevels = 32;
 
 /// The text up to the first NUL.
 QString textIn(const QByteArray& bytes) { return QString::fromUtf8(bytes.constData()); }
@@ -56,6 +59,33 @@ QString notice(const QString& heading, const QString& text)
 
 } // namespace
 
+QList<SitemapEntry> ReadSitemap(const QString& page)
+{
+    static const QRegularExpression tag(
+        R"re(<(ul|/ul|object|/object)\b|<param\s+name="(name|local)"\s+value="([^"]*)")re",
+        QRegularExpression::CaseInsensitiveOption);
+    QList<SitemapEntry> entries;
+    SitemapEntry entry;
+    int depth = 0;
+    for (auto tags = tag.globalMatch(page); tags.hasNext() && entries.size() < mostEntries;) {
+        const QRegularExpressionMatch match = tags.next();
+        const QString name = (match.captured(1) + match.captured(2)).toLower();
+        if (name == "ul")
+            ++depth;
+        else if (name == "/ul")
+            depth = std::max(depth - 1, 0);
+        else if (name == "object")
+            entry = {std::clamp(depth - 1, 0, mostLevels - 1), {}, {}};
+        else if (name == "name")
+            entry.title = QTextDocumentFragment::fromHtml(match.captured(3)).toPlainText().simplified();
+        else if (name == "local")
+            entry.page = match.captured(3);
+        else if (!entry.title.isEmpty())
+            entries.append(std::exchange(entry, {}));
+    }
+    return entries;
+}
+
 HelpBook::HelpBook(QList<ChmMember> unpacked)
     : members(std::move(unpacked)),
       system(readSystem(file("#SYSTEM"))),
@@ -88,7 +118,8 @@ QString HelpBook::text(const QString& name) const
     QStringDecoder decoder = QStringDecoder::decoderForHtml(bytes);
     if (!decoder.isValid())
         decoder = QStringDecoder(QStringDecoder::Latin1);
-    return decoder(bytes);
+    const QString decoded = decoder(bytes);
+    return QString::fromUtf8(decoded.toUtf8()); // without half characters: regular expressions refuse them
 }
 
 QString HelpBook::homePage() const

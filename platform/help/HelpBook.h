@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/help/ChmFile.h"
-#include "platform/help/Sitemap.h"
 
 #include <QHash>
 #include <QString>
@@ -10,6 +9,18 @@
 #include <memory>
 
 namespace help {
+
+/// A line of the contents tree or of the index.
+struct SitemapEntry
+{
+    int level = 0; ///< of nesting, from 0
+    QString title;
+    QString page; ///< as written: a name, perhaps with an anchor; empty if the line is only a heading
+};
+
+/// Reads a contents or index page of a help file. Ignores lines without a title; reads at most 10,000 lines
+/// and 32 levels.
+QList<SitemapEntry> ReadSitemap(const QString& page);
 
 /// A help file as its reader sees it: pages, a contents tree, an index, numbered topics. Page names ignore
 /// case. A reference may have an anchor: "air.html#range".

@@ -4,7 +4,6 @@
 #include <cmath>
 
 namespace help {
-
 namespace {
 
 constexpr double readable = 4.5;

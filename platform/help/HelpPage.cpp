@@ -17,7 +17,6 @@
 #include <utility>
 
 namespace help {
-
 namespace {
 
 constexpr int widestPicture = 700; // in device-independent pixels
@@ -32,14 +31,6 @@ constexpr QLatin1String helpScheme("help");
 
 QString nameIn(const QUrl& address) { return address.path(QUrl::FullyDecoded).mid(1); }
 
-void follow(QTextBrowser& page, const QUrl& address)
-{
-    if (address.scheme() == helpScheme)
-        page.setSource(address);
-    else if (QStringList{"http", "https", "mailto"}.contains(address.scheme()))
-        QDesktopServices::openUrl(address);
-}
-
 } // namespace
 
 HelpPage::HelpPage(std::shared_ptr<const HelpBook> shown, QWidget* parent)
@@ -49,15 +40,22 @@ HelpPage::HelpPage(std::shared_ptr<const HelpBook> shown, QWidget* parent)
     setAccessibleName("Help page");
     setOpenLinks(false);
     document()->setDocumentMargin(22);
-    connect(this, &QTextBrowser::anchorClicked, this,
-            [this](const QUrl& address) { follow(*this, address); });
+    connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& address) {
+        if (address.scheme() == helpScheme)
+            setSource(address);
+        else if (QStringList{"http", "https", "mailto"}.contains(address.scheme()))
+            QDesktopServices::openUrl(address);
+    });
     restyle();
 }
 
 void HelpPage::open(const QString& reference, const QStringList& wordsToMark)
 {
+    if (reference.isEmpty())
+        return;
     setSource(QUrl(helpScheme + ":/" + reference));
     markWords(wordsToMark);
+    goToNextMark();
 }
 
 QString HelpPage::pageName() const { return nameIn(current); }
@@ -163,9 +161,9 @@ bool HelpPage::goToNextMark()
     return true;
 }
 
-void HelpPage::setTextSize(int newStep)
+void HelpPage::resizeText(int change)
 {
-    step = std::clamp(newStep, smallestStep, largestStep);
+    step = change == 0 ? 0 : std::clamp(step + change, smallestStep, largestStep);
     QFont sized = parentWidget()->font();
     sized.setPointSizeF(sized.pointSizeF() * (1 + 0.1 * step));
     document()->setDefaultFont(sized);

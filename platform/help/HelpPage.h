@@ -18,7 +18,8 @@ class HelpPage : public QTextBrowser
 public:
     HelpPage(std::shared_ptr<const HelpBook> shown, QWidget* parent);
 
-    /// Shows a page, scrolls to the reference's anchor, if any, and marks the words.
+    /// Shows a page, marks the words, and goes to the first mark, or to the reference's anchor if there is
+    /// none. A no-op if the reference is empty.
     void open(const QString& reference, const QStringList& wordsToMark = {});
     QString pageName() const; ///< the current page
 
@@ -26,8 +27,8 @@ public:
     bool goToNextMark();
     int marks() const { return static_cast<int>(extraSelections().size()); }
 
-    /// Sets the text size: 0 is the desktop's own; each step changes it by 10 %.
-    void setTextSize(int newStep);
+    /// Makes the text larger or smaller by steps of 10 %. 0 restores the desktop's size.
+    void resizeText(int change);
     int textSize() const { return step; }
 
     /// Prints the current page, dark on light.

@@ -1,25 +1,31 @@
 #include "platform/help/HelpPanes.h"
 
+#include "platform/help/HelpPage.h"
+#include "platform/help/HelpSearch.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace help {
-
 namespace {
 
 constexpr int pageRole = Qt::UserRole;
+constexpr int wordsRole = Qt::UserRole + 1; // to mark on the page
 constexpr const char* searchHint = "Finds the pages that hold all the words.";
 
-QVBoxLayout* makeColumn(QWidget* pane)
+/// An empty pane that gives the focus to one of its parts.
+QVBoxLayout* makePane(QWidget* focused)
 {
+    auto* const pane = new QWidget;
+    pane->setFocusProxy(focused);
     auto* const column = new QVBoxLayout(pane);
     column->setContentsMargins(10, 12, 10, 10);
     column->setSpacing(8);
@@ -33,165 +39,155 @@ QLabel* makeLabel(const QString& text, QWidget* buddy)
     return label;
 }
 
-template <class Widget>
-Widget* makeNamed(const QString& name, const QString& accessibleName)
-{
-    auto* const widget = new Widget;
-    widget->setObjectName(name);
-    widget->setAccessibleName(accessibleName);
-    return widget;
-}
-
-/// A list whose lines open a page on a click or Enter.
-QListWidget* makeList(const QString& name, const QString& accessibleName,
-                      const std::function<void(const QString&)>& openPage)
-{
-    auto* const list = makeNamed<QListWidget>(name, accessibleName);
-    list->setUniformItemSizes(true);
-    const auto open = [openPage](const QListWidgetItem* item) { openPage(item->data(pageRole).toString()); };
-    QObject::connect(list, &QListWidget::itemClicked, list, open);
-    QObject::connect(list, &QListWidget::itemActivated, list, open);
-    return list;
-}
-
 QLineEdit* makeField(const QString& name, const QString& accessibleName)
 {
-    auto* const field = makeNamed<QLineEdit>(name, accessibleName);
+    auto* const field = new QLineEdit;
+    field->setObjectName(name);
+    field->setAccessibleName(accessibleName);
     field->setClearButtonEnabled(true);
     field->setMaxLength(200);
     return field;
 }
 
-/// Line size for a list or tree, with some space above and below the text.
-QSize lineSize(const QWidget& list) { return {0, list.fontMetrics().height() + 9}; }
-
-void addLine(QListWidget& list, const QString& text, const QString& page)
+/// Adds a line below another, with some space above and below the text.
+QTreeWidgetItem* addLine(QTreeWidgetItem* parent, const QString& text, const QString& page)
 {
-    auto* const item = new QListWidgetItem(text, &list);
-    item->setData(pageRole, page);
-    item->setToolTip(text);
-    item->setSizeHint(lineSize(list));
+    auto* const line = new QTreeWidgetItem(parent, {text});
+    line->setData(0, pageRole, page);
+    line->setToolTip(0, text);
+    line->setSizeHint(0, {0, line->treeWidget()->fontMetrics().height() + 9});
+    return line;
 }
 
 /// Hides the lines that don't contain the text, and selects the first visible one.
-void filter(QListWidget& list, const QString& text)
+void filter(QTreeWidget& list, const QString& text)
 {
-    QListWidgetItem* first = nullptr;
-    for (int row = 0; row < list.count(); ++row) {
-        QListWidgetItem* const item = list.item(row);
-        item->setHidden(!item->text().contains(text.trimmed(), Qt::CaseInsensitive));
-        if (first == nullptr && !item->isHidden())
-            first = item;
+    list.setCurrentItem(nullptr);
+    for (QTreeWidgetItemIterator line(&list); *line != nullptr; ++line) {
+        (*line)->setHidden(!(*line)->text(0).contains(text.trimmed(), Qt::CaseInsensitive));
+        if (list.currentItem() == nullptr && !(*line)->isHidden())
+            list.setCurrentItem(*line);
     }
-    list.setCurrentItem(first);
 }
 
 } // namespace
 
-ContentsPane::ContentsPane(const HelpBook& book, const OpenHelpPage& openPage)
-    : tree(makeNamed<QTreeWidget>("helpContents", "Contents"))
+HelpPanes::HelpPanes(std::shared_ptr<const HelpBook> shown, HelpPage& beside)
+    : book(std::move(shown)),
+      page(beside),
+      contents(makeList("helpContents", "Contents")),
+      searchField(makeField("helpSearchField", "Words to search for")),
+      summary(new QLabel(searchHint)),
+      results(makeList("helpSearchResults", "Pages found"))
 {
-    tree->setHeaderHidden(true);
-    tree->setUniformRowHeights(true);
-    makeColumn(this)->addWidget(tree);
-    setFocusProxy(tree);
-    const auto open = [openPage](const QTreeWidgetItem* item) {
-        openPage(item->data(0, pageRole).toString(), {});
-    };
-    connect(tree, &QTreeWidget::itemClicked, this, open);
-    connect(tree, &QTreeWidget::itemActivated, this, open);
+    setObjectName("helpPanes");
+    addContents();
+    addIndex();
+    addSearch();
+}
 
-    QList<QTreeWidgetItem*> parents{tree->invisibleRootItem()}; // the root, then the last line of each level
-    for (const SitemapEntry& entry : book.contents()) {
+/// A list or tree whose lines open a page on a click or Enter.
+QTreeWidget* HelpPanes::makeList(const QString& name, const QString& accessibleName)
+{
+    auto* const list = new QTreeWidget;
+    list->setObjectName(name);
+    list->setAccessibleName(accessibleName);
+    list->setHeaderHidden(true);
+    list->setUniformRowHeights(true);
+    list->setRootIsDecorated(false);
+    const auto open = [this](const QTreeWidgetItem* line) {
+        page.open(line->data(0, pageRole).toString(), line->data(0, wordsRole).toStringList());
+    };
+    connect(list, &QTreeWidget::itemClicked, this, open);
+    connect(list, &QTreeWidget::itemActivated, this, open);
+    return list;
+}
+
+void HelpPanes::addContents()
+{
+    contents->setRootIsDecorated(true);
+    QVBoxLayout* const column = makePane(contents);
+    column->addWidget(contents);
+    addTab(column->parentWidget(), "&Contents");
+    QList<QTreeWidgetItem*> parents{contents->invisibleRootItem()}; // then the last line of each level
+    for (const SitemapEntry& entry : book->contents()) {
         parents.resize(std::min<qsizetype>(parents.size(), entry.level + 1));
-        auto* const item = new QTreeWidgetItem(parents.last(), {entry.title});
-        item->setData(0, pageRole, entry.page);
-        item->setToolTip(0, entry.title);
-        item->setSizeHint(0, lineSize(*tree));
-        parents.append(item);
+        parents.append(addLine(parents.last(), entry.title, entry.page));
     }
-    tree->expandToDepth(0);
+    contents->expandToDepth(0);
 }
 
-void ContentsPane::showPage(const QString& page)
-{
-    const auto isItsOwn = [&page](const QTreeWidgetItem* item) {
-        const QString reference = item->data(0, pageRole).toString();
-        return !page.isEmpty() && reference.section('#', 0, 0).compare(page, Qt::CaseInsensitive) == 0;
-    };
-    QTreeWidgetItem* shown = tree->currentItem();
-    if (shown == nullptr || !isItsOwn(shown)) {
-        QTreeWidgetItemIterator line(tree);
-        while (*line != nullptr && !isItsOwn(*line))
-            ++line;
-        shown = *line;
-    }
-    tree->setCurrentItem(shown);
-    if (shown != nullptr)
-        shown->setExpanded(true);
-}
-
-QWidget* makeIndexPane(const HelpBook& book, const OpenHelpPage& openPage)
+void HelpPanes::addIndex()
 {
     auto* const field = makeField("helpIndexFilter", "Keyword");
-    auto* const list =
-        makeList("helpIndex", "Keywords", [openPage](const QString& page) { openPage(page, {}); });
-    auto* const pane = new QWidget;
-    auto* const column = makeColumn(pane);
+    auto* const list = makeList("helpIndex", "Keywords");
+    QVBoxLayout* const column = makePane(field);
     column->addWidget(makeLabel("&Keyword", field));
     column->addWidget(field);
     column->addWidget(list);
-    pane->setFocusProxy(field);
-    QObject::connect(field, &QLineEdit::textChanged, list,
-                     [list](const QString& text) { filter(*list, text); });
-    QObject::connect(field, &QLineEdit::returnPressed, list, [list] {
+    addTab(column->parentWidget(), "&Index");
+    connect(field, &QLineEdit::textChanged, list, [list](const QString& text) { filter(*list, text); });
+    connect(field, &QLineEdit::returnPressed, list, [list] {
         if (list->currentItem() != nullptr)
-            emit list->itemActivated(list->currentItem());
+            emit list->itemActivated(list->currentItem(), 0);
     });
-    for (const SitemapEntry& entry : book.index())
-        addLine(*list, QString(qsizetype{4} * entry.level, ' ') + entry.title, entry.page);
-    return pane;
+    for (const SitemapEntry& entry : book->index())
+        addLine(list->invisibleRootItem(), QString(qsizetype{4} * entry.level, ' ') + entry.title,
+                entry.page);
 }
 
-SearchPane::SearchPane(std::shared_ptr<const HelpBook> book, const OpenHelpPage& openPage)
-    : pages(std::move(book)),
-      field(makeField("helpSearchField", "Words to search for")),
-      summary(new QLabel(searchHint)),
-      results(makeList("helpSearchResults", "Pages found",
-                       [this, openPage](const QString& page) { openPage(page, words); }))
+void HelpPanes::addSearch()
 {
     auto* const button = new QPushButton("&Find");
     button->setObjectName("helpFind");
     button->setAutoDefault(false);
     summary->setObjectName("helpSearchSummary");
     summary->setWordWrap(true);
-
     auto* const line = new QHBoxLayout;
-    line->addWidget(field);
+    line->addWidget(searchField);
     line->addWidget(button);
-    auto* const column = makeColumn(this);
-    column->addWidget(makeLabel("&Words", field));
+    QVBoxLayout* const column = makePane(searchField);
+    column->addWidget(makeLabel("&Words", searchField));
     column->addLayout(line);
     column->addWidget(summary);
     column->addWidget(results);
-    setFocusProxy(field);
-    connect(button, &QPushButton::clicked, this, [this] { search(); });
-    connect(field, &QLineEdit::returnPressed, this, [this] { search(); });
+    addTab(column->parentWidget(), "&Search");
+    connect(button, &QPushButton::clicked, this, &HelpPanes::search);
+    connect(searchField, &QLineEdit::returnPressed, this, &HelpPanes::search);
 }
 
-void SearchPane::takeFocus()
+void HelpPanes::showPage(const QString& name)
 {
-    field->setFocus(Qt::ShortcutFocusReason);
-    field->selectAll();
+    const auto isItsOwn = [&name](const QTreeWidgetItem* line) {
+        const QString reference = line->data(0, pageRole).toString();
+        return !name.isEmpty() && reference.section('#', 0, 0).compare(name, Qt::CaseInsensitive) == 0;
+    };
+    QTreeWidgetItem* shown = contents->currentItem();
+    if (shown == nullptr || !isItsOwn(shown)) {
+        QTreeWidgetItemIterator line(contents);
+        while (*line != nullptr && !isItsOwn(*line))
+            ++line;
+        shown = *line;
+    }
+    contents->setCurrentItem(shown);
+    if (shown != nullptr)
+        shown->setExpanded(true);
 }
 
-void SearchPane::search()
+void HelpPanes::startSearch()
 {
-    words = SearchWords(field->text());
+    setCurrentIndex(count() - 1);
+    searchField->setFocus(Qt::ShortcutFocusReason);
+    searchField->selectAll();
+}
+
+void HelpPanes::search()
+{
+    const QStringList words = SearchWords(searchField->text());
     results->clear();
-    for (const HelpSearch::Result& result : pages.find(words))
-        addLine(*results, result.title, result.page);
-    const int count = results->count();
+    for (const FoundPage& found : FindPages(*book, words))
+        addLine(results->invisibleRootItem(), found.title, found.page)->setData(0, wordsRole, words);
+    const int count = results->topLevelItemCount();
     if (words.isEmpty())
         summary->setText(searchHint);
     else
@@ -199,7 +195,7 @@ void SearchPane::search()
                                     : QString::number(count) + (count == 1 ? " page" : " pages"));
     if (count == 0)
         return;
-    results->setCurrentRow(0);
+    results->setCurrentItem(results->topLevelItem(0));
     results->setFocus(Qt::OtherFocusReason);
 }
 

@@ -1,56 +1,43 @@
 #pragma once
 
 #include "platform/help/HelpBook.h"
-#include "platform/help/HelpSearch.h"
 
-#include <QStringList>
-#include <QWidget>
+#include <QTabWidget>
 
-#include <functional>
 #include <memory>
 
 class QLabel;
 class QLineEdit;
-class QListWidget;
 class QTreeWidget;
 
 namespace help {
 
-/// Opens a help page and marks words on it. A no-op if the reference is empty.
-using OpenHelpPage = std::function<void(const QString& reference, const QStringList& words)>;
+class HelpPage;
 
-/// The contents tree.
-class ContentsPane : public QWidget
+/// The contents tree, the index with a field that filters it, and the full-text search. They open pages in
+/// the view beside them.
+class HelpPanes : public QTabWidget
 {
 public:
-    ContentsPane(const HelpBook& book, const OpenHelpPage& openPage);
+    HelpPanes(std::shared_ptr<const HelpBook> shown, HelpPage& beside);
 
-    /// Selects the line of a page, if it has one.
-    void showPage(const QString& page);
-
-private:
-    QTreeWidget* tree;
-};
-
-/// The index, with a field that filters it by the typed text.
-QWidget* makeIndexPane(const HelpBook& book, const OpenHelpPage& openPage);
-
-/// The full-text search.
-class SearchPane : public QWidget
-{
-public:
-    SearchPane(std::shared_ptr<const HelpBook> book, const OpenHelpPage& openPage);
-
-    void takeFocus();
+    /// Selects the line of a page in the contents, if it has one.
+    void showPage(const QString& name);
+    void startSearch();
 
 private:
+    QTreeWidget* makeList(const QString& name, const QString& accessibleName);
+    void addContents();
+    void addIndex();
+    void addSearch();
     void search();
 
-    HelpSearch pages;
-    QStringList words; // of the current results
-    QLineEdit* field;
+    std::shared_ptr<const HelpBook> book;
+    HelpPage& page;
+    QTreeWidget* contents;
+    QLineEdit* searchField;
     QLabel* summary;
-    QListWidget* results;
+    QTreeWidget* results;
 };
 
 } // namespace help

@@ -1,12 +1,13 @@
 #include "platform/help/HelpSearch.h"
 
+#include <QRegularExpression>
 #include <QTextDocument>
 
 #include <algorithm>
+#include <functional>
 #include <tuple>
 
 namespace help {
-
 namespace {
 
 /// Reads a page without loading its resources.
@@ -19,17 +20,8 @@ public:
 /// The words of a text in lower case, each preceded by a space.
 QString spacedWords(const QString& text)
 {
-    QString words;
-    bool wasInWord = false;
-    for (const QChar character : text) {
-        const bool isInWord = character.isLetterOrNumber();
-        if (isInWord && !wasInWord)
-            words += ' ';
-        if (isInWord)
-            words += character.toLower();
-        wasInWord = isInWord;
-    }
-    return words;
+    static const QRegularExpression betweenWords("[^\\p{L}\\p{N}]+");
+    return ' ' + text.toLower().replace(betweenWords, " ");
 }
 
 } // namespace
@@ -41,48 +33,29 @@ QStringList SearchWords(const QString& typed)
     return words;
 }
 
-void HelpSearch::readPages()
+std::vector<FoundPage> FindPages(const HelpBook& book, const QStringList& words)
 {
-    for (const QString& name : book->pages()) {
+    std::vector<FoundPage> found;
+    for (const QString& name : words.isEmpty() ? QStringList() : book.pages()) {
         WordsAlone read;
-        read.setHtml(book->page(name));
+        read.setHtml(book.page(name));
         const QString title = read.metaInformation(QTextDocument::DocumentTitle).simplified();
-        pages.push_back(
-            {{name, title.isEmpty() ? name : title}, spacedWords(title), spacedWords(read.toPlainText())});
-    }
-}
-
-QList<HelpSearch::Result> HelpSearch::find(const QStringList& words)
-{
-    if (pages.empty())
-        readPages();
-    struct Ranked
-    {
-        qsizetype inTitle = 0;
-        qsizetype hits = 0;
-        const Result* result = nullptr;
-    };
-    std::vector<Ranked> found;
-    for (const Page& page : pages) {
-        Ranked ranked{0, 0, &page.shown};
-        bool hasAll = !words.isEmpty();
-        for (const QString& word : words) {
-            const qsizetype inTitle = page.wordsOfTitle.count(" " + word);
-            const qsizetype hits = inTitle + page.words.count(" " + word);
-            hasAll = hasAll && hits > 0;
-            ranked.inTitle += inTitle;
-            ranked.hits += hits;
-        }
+        const QString titleWords = spacedWords(title);
+        const QString pageWords = spacedWords(read.toPlainText());
+        FoundPage page{name, title.isEmpty() ? name : title};
+        const bool hasAll = std::ranges::all_of(words, [&](const QString& word) {
+            const qsizetype inTitle = titleWords.count(' ' + word);
+            const qsizetype hits = inTitle + pageWords.count(' ' + word);
+            page.hitsInTitle += inTitle;
+            page.hits += hits;
+            return hits > 0;
+        });
         if (hasAll)
-            found.push_back(ranked);
+            found.push_back(page);
     }
-    std::stable_sort(found.begin(), found.end(), [](const Ranked& one, const Ranked& other) {
-        return std::tuple(one.inTitle, one.hits) > std::tuple(other.inTitle, other.hits);
-    });
-    QList<Result> results;
-    for (const Ranked& ranked : found)
-        results.append(*ranked.result);
-    return results;
+    std::ranges::stable_sort(found, std::greater(),
+                             [](const FoundPage& page) { return std::tuple(page.hitsInTitle, page.hits); });
+    return found;
 }
 
 } // namespace help

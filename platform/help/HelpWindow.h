@@ -1,21 +1,21 @@
 #pragma once
 
 #include "platform/help/HelpBook.h"
-#include "platform/help/HelpPanes.h"
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class QAction;
 class QLabel;
-class QTabWidget;
 class QToolBar;
 class QWindow;
 
 namespace help {
 
 class HelpPage;
+class HelpPanes;
 
 /// The window that shows a help file. It blocks no form, and no form blocks it: it stays in front of the
 /// window that opened it, and of any modal window that would block it. Closing it deletes it.
@@ -33,26 +33,17 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    struct Command;
-    OpenHelpPage opener();
     void makeCommands();
-    QAction* addCommand(const Command& command);
+    QAction* addCommand(const QString& name, const QString& label, const QString& text,
+                        const QKeySequence& key, const std::function<void()>& handler);
     void attachTo(QWindow* before);
     void placeBeside(const QWidget& asking);
-    void openPage(const QString& reference, const QStringList& words);
-    void pageHasChanged();
-    void startSearch();
-    void searchOn();
-    void switchPanes();
-    void resizeText(int change);
     void print();
 
     std::shared_ptr<const HelpBook> book;
     QToolBar* tools;
-    QTabWidget* tabs;
-    ContentsPane* contents;
-    SearchPane* search;
     HelpPage* page;
+    HelpPanes* panes;
     QLabel* notice;
 };
 

@@ -5,7 +5,6 @@
 #include <algorithm>
 
 namespace help {
-
 namespace {
 
 constexpr qsizetype largestPage = 256 << 10; // in characters

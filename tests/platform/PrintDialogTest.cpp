@@ -155,10 +155,10 @@ TEST_F(PrintDialogTest, ChangesNothingOnCancel)
 
     EXPECT_FALSE(confirmed);
     EXPECT_EQ(CurrentPrinter().port(), pdf("before.pdf").toStdString());
-    EXPECT_EQ(CurrentPrinter().copies(), 1);
-    EXPECT_EQ(CurrentPrinter().colorMode(), QPrinter::Color);
-    EXPECT_EQ(CurrentPrinter().orientation(), QPageLayout::Portrait);
-    EXPECT_NE(CurrentPrinter().paperSize().id(), QPageSize::A5);
+    EXPECT_EQ(CurrentPrinter().device().copyCount(), 1);
+    EXPECT_EQ(CurrentPrinter().device().colorMode(), QPrinter::Color);
+    EXPECT_EQ(CurrentPrinter().device().pageLayout().orientation(), QPageLayout::Portrait);
+    EXPECT_NE(CurrentPrinter().device().pageLayout().pageSize().id(), QPageSize::A5);
     EXPECT_FALSE(QFile::exists(pdf()));
 }
 
@@ -187,18 +187,18 @@ TEST_F(PrintDialogTest, BringsTheChoiceToTheCurrentPrinter)
     EXPECT_TRUE(confirmed);
     EXPECT_EQ(CurrentPrinter().deviceName(), "Print to File (PDF)");
     EXPECT_EQ(CurrentPrinter().port(), pdf().toStdString());
-    EXPECT_EQ(CurrentPrinter().colorMode(), QPrinter::GrayScale);
-    EXPECT_EQ(CurrentPrinter().orientation(), QPageLayout::Landscape);
-    EXPECT_EQ(CurrentPrinter().paperSize().id(), QPageSize::A5);
+    EXPECT_EQ(CurrentPrinter().device().colorMode(), QPrinter::GrayScale);
+    EXPECT_EQ(CurrentPrinter().device().pageLayout().orientation(), QPageLayout::Landscape);
+    EXPECT_EQ(CurrentPrinter().device().pageLayout().pageSize().id(), QPageSize::A5);
     EXPECT_FALSE(QFile::exists(pdf())); // nothing is printed yet
 }
 
 TEST_F(PrintDialogTest, OpensOnTheSettingsOfTheCurrentPrinter)
 {
     CurrentPrinter().setPort(pdf("my report").toStdString());
-    CurrentPrinter().setColorMode(QPrinter::GrayScale);
-    CurrentPrinter().setOrientation(QPageLayout::Landscape);
-    CurrentPrinter().setPaperSize(QPageSize(QPageSize::A5));
+    CurrentPrinter().device().setColorMode(QPrinter::GrayScale);
+    CurrentPrinter().device().setPageOrientation(QPageLayout::Landscape);
+    CurrentPrinter().device().setPageSize(QPageSize(QPageSize::A5));
     ask([this](QDialog& dialog) {
         EXPECT_EQ(child<QLineEdit>(dialog, "filename").text(), pdf("my report"));
         EXPECT_TRUE(child<QRadioButton>(dialog, "grayscale").isChecked());
@@ -213,22 +213,22 @@ TEST_F(PrintDialogTest, OpensOnTheSettingsOfTheCurrentPrinter)
 
 TEST_F(PrintDialogTest, KeepsTheSettingsThatTheUserDoesNotTouch)
 {
-    CurrentPrinter().setOrientation(QPageLayout::Landscape);
-    CurrentPrinter().setPaperSize(QPageSize(QPageSize::A5));
-    CurrentPrinter().setColorMode(QPrinter::GrayScale);
-    CurrentPrinter().setPrintQuality(600);
+    CurrentPrinter().device().setPageOrientation(QPageLayout::Landscape);
+    CurrentPrinter().device().setPageSize(QPageSize(QPageSize::A5));
+    CurrentPrinter().device().setColorMode(QPrinter::GrayScale);
+    CurrentPrinter().device().setResolution(600);
     CurrentPrinter().setFont({.name = "Arial", .size = 14, .bold = true});
     EXPECT_TRUE(ask(printTo(pdf())));
-    EXPECT_EQ(CurrentPrinter().orientation(), QPageLayout::Landscape);
-    EXPECT_EQ(CurrentPrinter().paperSize().id(), QPageSize::A5);
-    EXPECT_EQ(CurrentPrinter().colorMode(), QPrinter::GrayScale);
-    EXPECT_EQ(CurrentPrinter().printQuality(), 600);
+    EXPECT_EQ(CurrentPrinter().device().pageLayout().orientation(), QPageLayout::Landscape);
+    EXPECT_EQ(CurrentPrinter().device().pageLayout().pageSize().id(), QPageSize::A5);
+    EXPECT_EQ(CurrentPrinter().device().colorMode(), QPrinter::GrayScale);
+    EXPECT_EQ(CurrentPrinter().device().resolution(), 600);
     EXPECT_EQ(CurrentPrinter().font().size, 14);
 }
 
 TEST_F(PrintDialogTest, KeepsThePaperWhereItsPropertiesAreCancelled)
 {
-    CurrentPrinter().setPaperSize(QPageSize(QPageSize::A5));
+    CurrentPrinter().device().setPageSize(QPageSize(QPageSize::A5));
     EXPECT_TRUE(ask([this](QDialog& dialog) {
         child<QLineEdit>(dialog, "filename").setText(pdf());
         inProperties(dialog, [](QDialog& properties) {
@@ -237,7 +237,7 @@ TEST_F(PrintDialogTest, KeepsThePaperWhereItsPropertiesAreCancelled)
         });
         confirm(dialog);
     }));
-    EXPECT_EQ(CurrentPrinter().paperSize().id(), QPageSize::A5);
+    EXPECT_EQ(CurrentPrinter().device().pageLayout().pageSize().id(), QPageSize::A5);
 }
 
 TEST_F(PrintDialogTest, OpensOnTheLastChoice)

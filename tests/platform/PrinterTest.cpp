@@ -27,7 +27,7 @@ protected:
     {
         NoPrinters::SetUp();
         printer.setPort(pdf().toStdString());
-        printer.setPaperSize(QPageSize(QPageSize::A4));
+        printer.device().setPageSize(QPageSize(QPageSize::A4));
     }
 
     void print(const std::vector<std::string>& lines)
@@ -52,8 +52,8 @@ TEST_F(NoPrinters, MakeTheFilePrinterTheCurrentOne)
 
 TEST_F(NoPrinters, KeepTheCurrentPrinterForTheRunOfTheProgram)
 {
-    CurrentPrinter().setOrientation(QPageLayout::Landscape);
-    EXPECT_EQ(CurrentPrinter().orientation(), QPageLayout::Landscape);
+    CurrentPrinter().device().setPageOrientation(QPageLayout::Landscape);
+    EXPECT_EQ(CurrentPrinter().device().pageLayout().orientation(), QPageLayout::Landscape);
 }
 
 TEST_F(FilePrinterTest, TakesNoLineWithoutAFile)
@@ -215,41 +215,40 @@ TEST_F(FilePrinterTest, KeepsItsFontOnAnotherDevice)
 
 TEST_F(FilePrinterTest, KeepsItsSettingsFromDocumentToDocument)
 {
-    printer.setOrientation(QPageLayout::Landscape);
-    printer.setPaperSize(QPageSize(QPageSize::A5));
-    printer.setColorMode(QPrinter::GrayScale);
+    printer.device().setPageOrientation(QPageLayout::Landscape);
+    printer.device().setPageSize(QPageSize(QPageSize::A5));
+    printer.device().setColorMode(QPrinter::GrayScale);
     for (const char* name : {"one.pdf", "two.pdf"}) {
         printer.setPort(pdf(name).toStdString());
         print({"text"});
         ASSERT_TRUE(printer.endDocument());
         EXPECT_TRUE(sayOf("pdfinfo", {pdf(name)}).contains(QRegularExpression("595(\\.\\d+)? x (419|420)")));
     }
-    EXPECT_EQ(printer.orientation(), QPageLayout::Landscape);
-    EXPECT_EQ(printer.paperSize().id(), QPageSize::A5);
-    EXPECT_EQ(printer.colorMode(), QPrinter::GrayScale);
+    EXPECT_EQ(printer.device().pageLayout().orientation(), QPageLayout::Landscape);
+    EXPECT_EQ(printer.device().pageLayout().pageSize().id(), QPageSize::A5);
+    EXPECT_EQ(printer.device().colorMode(), QPrinter::GrayScale);
 }
 
 TEST_F(FilePrinterTest, OffersThePropertiesOfAPrinter)
 {
-    printer.setPrintQuality(600);
-    printer.setPaperBin(QPrinter::Lower);
+    printer.device().setResolution(600);
+    printer.device().setPaperSource(QPrinter::Lower);
     EXPECT_EQ(printer.deviceName(), "Print to File (PDF)");
     EXPECT_EQ(printer.port(), pdf().toStdString());
-    EXPECT_EQ(printer.printQuality(), 600);
+    EXPECT_EQ(printer.device().resolution(), 600);
     // 210 mm of paper minus two margins of 15 mm, at 600 dots per inch
-    EXPECT_NEAR(printer.pageWidth(), 180.0 / 25.4 * 600.0, 10.0);
-    EXPECT_EQ(printer.copies(), 1);
-    EXPECT_EQ(printer.duplex(), QPrinter::DuplexNone);
+    EXPECT_NEAR(printer.device().width(), 180.0 / 25.4 * 600.0, 10.0);
+    EXPECT_EQ(printer.device().copyCount(), 1);
+    EXPECT_EQ(printer.device().duplex(), QPrinter::DuplexNone);
 }
 
 TEST_F(FilePrinterTest, KeepsItsSettingsWhileADocumentIsUnfinished)
 {
     print({"text"});
-    printer.setOrientation(QPageLayout::Landscape);
-    printer.setCopies(3);
+    printer.changeSettings([](QPrinter& device) { device.setPageOrientation(QPageLayout::Landscape); });
     printer.setPort(pdf("other.pdf").toStdString());
     printer.changeDevice(FilePrinter);
-    EXPECT_EQ(printer.orientation(), QPageLayout::Portrait);
+    EXPECT_EQ(printer.device().pageLayout().orientation(), QPageLayout::Portrait);
     EXPECT_EQ(printer.port(), pdf().toStdString());
     EXPECT_TRUE(printer.isPrinting());
 }

@@ -1,5 +1,6 @@
 // Pages that are too large to lay out are shown as text.
 
+#include "platform/help/HelpSearch.h"
 #include "platform/help/PageLimits.h"
 #include "tests/platform/help/HelpTest.h"
 
@@ -69,6 +70,14 @@ TEST_F(LargePages, OfTablesInTablesInTables)
     expectItsLayout(QByteArray("<table><tr><td>x").repeated(6));
 }
 
+TEST_F(LargePages, WithHalfACharacter)
+{
+    const QString cells = "<td rowspan=10001>x</td>";
+    const QString page =
+        QChar(QChar::ByteOrderMark) + QString("<table><tr>") + cells + QChar(0xd800) + "<p>the end";
+    expectItsTextAlone({reinterpret_cast<const char*>(page.utf16()), page.size() * qsizetype{sizeof(QChar)}});
+}
+
 TEST_F(LargePages, KeepTheirWords)
 {
     const QString text = WithinLimits(QString("<p>70 &deg;</p>").repeated(20'000) + "a < b");
@@ -84,7 +93,7 @@ void readAndLayOut(const QByteArray& bytes)
 {
     const HelpBook book(QList<ChmMember>{{"a.html", bytes}});
     ReadSitemap(bytes);
-    HelpSearch(std::make_shared<const HelpBook>(book)).find({"air"});
+    FindPages(book, {"air"});
     QTextDocument document;
     document.setDefaultStyleSheet(bytes);
     document.setHtml(book.page("a.html"));
