@@ -37,16 +37,16 @@ void AirPropertiesCalc::afterResults()
     KeepLastRun(Calculator::AirProperties, {{"air", air}});
 }
 
-AirPropertiesTexts AirPropertiesCalc::texts() const
+AirBlock AirPropertiesCalc::texts() const
 {
-    return {.txtTdb = txtTdb.text(),
-            .txtTwb = txtTwb.text(),
-            .txttd = txttd.text(),
-            .txtRH = txtRH.text(),
-            .txtW = txtW.text(),
-            .txtGrains = txtGrains.text(),
-            .txtSpVol = txtSpVol.text(),
-            .txth = txth.text()};
+    return {.Tdb = txtTdb.text(),
+            .Twb = txtTwb.text(),
+            .td = txttd.text(),
+            .RH = txtRH.text(),
+            .W = txtW.text(),
+            .Grains = txtGrains.text(),
+            .SpVol = txtSpVol.text(),
+            .h = txth.text()};
 }
 
 void AirPropertiesCalc::mnuPrintDialog_Click() { PrintAirProperties(*this, texts()); }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reports/AirPropertiesReport.h"
+#include "reports/Reports.h"
 #include "screens/AirPanel.h"
 
 /// The air properties calculator: just the air-state panel.
@@ -18,7 +18,7 @@ private:
 
     void mnuPrintDialog_Click() override;
     void mnuSave_Click() override;
-    AirPropertiesTexts texts() const;
+    AirBlock texts() const;
 
     Frame Frame4{*this, "Frame4"};
 };

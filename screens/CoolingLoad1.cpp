@@ -3,7 +3,7 @@
 #include "core/CoolingLoads.h"
 #include "core/MainMod.h"
 #include "platform/forms/Forms.h"
-#include "reports/CoolingReport.h"
+#include "reports/Reports.h"
 #include "screens/CoolingLoad2.h"
 #include "screens/CoolingLoad3.h"
 #include "screens/Rows.h"

@@ -3,7 +3,7 @@
 #include "core/HeatingLoads.h"
 #include "core/MainMod.h"
 #include "platform/forms/Forms.h"
-#include "reports/HeatingReport.h"
+#include "reports/Reports.h"
 #include "screens/HeatingLoad2.h"
 #include "screens/Rows.h"
 #include "screens/cfmForm.h"

@@ -2,7 +2,7 @@
 
 #include "core/MainMod.h"
 #include "platform/forms/Forms.h"
-#include "reports/HumidityReport.h"
+#include "reports/Reports.h"
 #include "screens/Rows.h"
 #include "screens/Shell.h"
 #include "screens/humid2.h"

@@ -2,7 +2,7 @@
 
 #include "core/MainMod.h"
 #include "platform/forms/Forms.h"
-#include "reports/MixedAirReport.h"
+#include "reports/Reports.h"
 #include "screens/Rows.h"
 #include "screens/cfmForm.h"
 

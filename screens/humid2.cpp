@@ -111,20 +111,13 @@ void humid2::showMoisture()
 
 HumidityTexts humid2::texts() const
 {
-    return {.txtVol = txtVol.text(),
-            .txtAC = txtAC.text(),
-            .txtOSA = txtOSA.text(),
-            .txtMassPerHour = txtMassPerHour.text(),
-            .txtMassPerDay = txtMassPerDay.text(),
-            .txtFlowPerHour = txtFlowPerHour.text(),
-            .txtFlowPerDay = txtFlowPerDay.text(),
-            .lblSpaceVol = lblSpaceVol.caption(),
-            .lblAC = lblAC.caption(),
-            .lblOSAFlow2 = lblOSAFlow2.caption(),
-            .lblMassPerHour = lblMassPerHour.caption(),
-            .lblMassPerDay = lblMassPerDay.caption(),
-            .lblFlowPerHour = lblFlowPerHour.caption(),
-            .lblFlowPerDay = lblFlowPerDay.caption()};
+    return {.spaceVolume = {txtVol.text(), lblSpaceVol.caption()},
+            .airChanges = {txtAC.text(), lblAC.caption()},
+            .outsideAir = {txtOSA.text(), lblOSAFlow2.caption()},
+            .massPerHour = {txtMassPerHour.text(), lblMassPerHour.caption()},
+            .massPerDay = {txtMassPerDay.text(), lblMassPerDay.caption()},
+            .flowPerHour = {txtFlowPerHour.text(), lblFlowPerHour.caption()},
+            .flowPerDay = {txtFlowPerDay.text(), lblFlowPerDay.caption()}};
 }
 
 void humid2::btnOK_Click() { Hide(); }

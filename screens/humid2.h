@@ -6,7 +6,7 @@
 #include "platform/forms/Label.h"
 #include "platform/forms/Menu.h"
 #include "platform/forms/TextField.h"
-#include "reports/HumidityReport.h"
+#include "reports/Reports.h"
 
 /// The second screen of the humidification calculator: the desired air, its quantity and the water to add.
 class humid2 : public forms::Form
