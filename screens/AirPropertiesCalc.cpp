@@ -1,13 +1,11 @@
 #include "screens/AirPropertiesCalc.h"
 
-#include "core/MainMod.h"
 #include "platform/Desktop.h"
 
 using namespace forms;
 
 AirPropertiesCalc::AirPropertiesCalc() : AirPanel("AirPropertiesCalc", airPropertiesCalc)
 {
-    setCaption("Air Properties Calculator");
     layOut();
     buildMenus();
 }
@@ -48,6 +46,3 @@ AirBlock AirPropertiesCalc::texts() const
             .SpVol = txtSpVol.text(),
             .h = txth.text()};
 }
-
-void AirPropertiesCalc::mnuPrintDialog_Click() { PrintAirProperties(*this, texts()); }
-void AirPropertiesCalc::mnuSave_Click() { SaveAirProperties(*this, texts()); }

@@ -16,8 +16,8 @@ protected:
 private:
     void layOut();
 
-    void mnuPrintDialog_Click() override;
-    void mnuSave_Click() override;
+    void mnuPrintDialog_Click() override { PrintAirProperties(*this, texts()); }
+    void mnuSave_Click() override { SaveAirProperties(*this, texts()); }
     AirBlock texts() const;
 
     Frame Frame4{*this, "Frame4"};
