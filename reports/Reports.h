@@ -5,9 +5,9 @@
 
 #include <string>
 
-/// The reports of the calculators, each with its print and save commands. A report is written from the
-/// current snapshots, even if the calculation is incomplete.
-/// @throws RunTimeError as WriteAirBlock
+// The reports of the calculators, each with its print and save commands. A report is written from the
+// current snapshots, even if the calculation is incomplete.
+// @throws RunTimeError as WriteAirBlock
 
 // Intentional: printing divides RH by 100 in single, saving in double. The reports differ only if a value is
 // right at a rounding boundary.

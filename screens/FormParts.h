@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-/// What the forms are made of: controls, layouts, and the helpers below.
+// What the forms are made of: controls, layouts, and the helpers below.
 
 /// One row of a frame: a caption, its field and the unit beside it.
 struct Row
