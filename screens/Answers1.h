@@ -12,17 +12,17 @@
 /// A quantity of the mixed air table, as the table shows it in one unit system.
 struct ShownQuantity
 {
-    const char* unit;
-    const char* picture; ///< null if the unit system doesn't have the quantity
+    const char* unit = nullptr;
+    const char* picture = nullptr; ///< null if the unit system doesn't have the quantity
     int factor = 1;
 };
 
 struct TableQuantity
 {
-    const char* captionName;
-    const char* caption;
-    const char* cellsName; ///< without the index; with "Tail", the name of the unit
-    Single AirSnapshot::*value;
+    const char* captionName = nullptr;
+    const char* caption = nullptr;
+    const char* cellsName = nullptr; ///< without the index; with "Tail", the name of the unit
+    Single AirSnapshot::*value = nullptr;
     ShownQuantity english;
     ShownQuantity metric;
 

@@ -49,13 +49,13 @@ using PanelButtons = std::array<const char*, 3>;
 /// of them share is the default.
 struct PanelRules
 {
-    const char* captionEnglish;
-    const char* captionMetric;
+    const char* captionEnglish = nullptr;
+    const char* captionMetric = nullptr;
     /// The unit beside the humidity ratio in Metric.
     const char* metricHumidityUnit = " g moisture/kg dry air";
 
     PanelLabels labels = {};
-    HelpEntry helpEntry; ///< in the help menu
+    HelpEntry helpEntry = {}; ///< in the help menu
     const char* searchCaption = "&Search for Help On";
     const char* saveCaption = "&Save Results to File";
     const char* fileSeparator = "mnuFiledash2"; ///< the name of the separator before Exit
