@@ -36,3 +36,9 @@ void WriteAirBlock(ReportWriter& report, const AirSnapshot& air)
                                    .h = air.h,
                                    .shownW = IsMetric() ? GramsPerKilogram : AsItIs});
 }
+
+void WriteAirSection(ReportWriter& report, std::string_view heading, const AirSnapshot& air)
+{
+    report.underlinedHeading(heading);
+    WriteAirBlock(report, air);
+}

@@ -29,3 +29,4 @@ void WriteAirBlock(ReportWriter& report, const AirBlock& air);
 
 /// @throws RunTimeError overflow if the humidity ratio in g/kg exceeds the largest single
 void WriteAirBlock(ReportWriter& report, const AirSnapshot& air);
+void WriteAirSection(ReportWriter& report, std::string_view heading, const AirSnapshot& air);

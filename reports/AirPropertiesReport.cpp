@@ -1,40 +1,26 @@
-#include "reports/AirPropertiesReport.h"
-
-#include "reports/PrintFrame.h"
-#include "reports/SaveFrame.h"
+#include "reports/Reports.h"
 
 using namespace forms;
 
-TaggedNumber PrintedFraction(const TaggedNumber& txtRH) { return RoundToSingle(txtRH.asSingle() / 100.0); }
-TaggedNumber SavedFraction(const TaggedNumber& txtRH) { return txtRH.asDouble() / 100.0; }
+TaggedNumber PrintedFraction(const TaggedNumber& RH) { return RoundToSingle(RH.asSingle() / 100.0); }
+TaggedNumber SavedFraction(const TaggedNumber& RH) { return RH.asDouble() / 100.0; }
 
-void WriteAirPropertiesReport(ReportWriter& report, const AirPropertiesTexts& fields,
-                              AirBlock::Conversion fractionOf)
+void WriteAirPropertiesReport(ReportWriter& report, AirBlock fields, AirBlock::Conversion fractionOf)
 {
-    report.blankLines(2);
-    report.dateLine();
-    report.blankLines(2);
-    report.heading("Calculated Psychrometric Properties");
-    report.rule();
-    WriteAirBlock(report, AirBlock{.Tdb = fields.txtTdb,
-                                   .Twb = fields.txtTwb,
-                                   .td = fields.txttd,
-                                   .RH = fields.txtRH,
-                                   .W = fields.txtW,
-                                   .Grains = fields.txtGrains,
-                                   .SpVol = fields.txtSpVol,
-                                   .h = fields.txth,
-                                   .fractionOf = fractionOf});
+    report.dateAmidBlankLines();
+    report.underlinedHeading("Calculated Psychrometric Properties");
+    fields.fractionOf = fractionOf;
+    WriteAirBlock(report, fields);
 }
 
-void PrintAirProperties(const Form& owner, const AirPropertiesTexts& fields)
+void PrintAirProperties(const Form& owner, const AirBlock& fields)
 {
     PrintReport(owner, "Airprop.txt", [&fields](ReportWriter& report) {
         WriteAirPropertiesReport(report, fields, PrintedFraction);
     });
 }
 
-void SaveAirProperties(const Form& owner, const AirPropertiesTexts& fields)
+void SaveAirProperties(const Form& owner, const AirBlock& fields)
 {
     SaveReport(owner, "Save Data to File",
                [&fields](ReportWriter& report) { WriteAirPropertiesReport(report, fields, SavedFraction); });

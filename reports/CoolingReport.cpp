@@ -1,24 +1,12 @@
-#include "reports/CoolingReport.h"
+#include "reports/Reports.h"
 
 #include "core/CoolingLoads.h"
 #include "core/NumberPicture.h"
 #include "core/UnitTables.h"
-#include "reports/AirBlock.h"
-#include "reports/PrintFrame.h"
-#include "reports/SaveFrame.h"
 
 using namespace forms;
 
 namespace {
-
-void BeginSection(ReportWriter& report, std::string_view heading)
-{
-    report.blankLines(2);
-    report.dateLine();
-    report.blankLines(2);
-    report.heading(heading);
-    report.rule();
-}
 
 void WriteSummaryLine(ReportWriter& report, std::string_view label, const TaggedNumber& value,
                       const UnitTable& unit)
@@ -30,11 +18,12 @@ void WriteSummaryLine(ReportWriter& report, std::string_view label, const Tagged
 
 void WriteCoolingReport(ReportWriter& report)
 {
-    BeginSection(report, "Cooling Entering Air Properties");
-    WriteAirBlock(report, CoolingEnteringAir);
-    BeginSection(report, "Cooling Leaving Air Properties");
-    WriteAirBlock(report, CoolingLeavingAir);
-    BeginSection(report, "Cooling Load Summary");
+    report.dateAmidBlankLines();
+    WriteAirSection(report, "Cooling Entering Air Properties", CoolingEnteringAir);
+    report.dateAmidBlankLines();
+    WriteAirSection(report, "Cooling Leaving Air Properties", CoolingLeavingAir);
+    report.dateAmidBlankLines();
+    report.underlinedHeading("Cooling Load Summary");
     WriteSummaryLine(report, "Air Flow Rate = ", CoolingEnteringAir.AirVolume, AirVolumeUnit);
     WriteSummaryLine(report, "Sensible Cooling = ", SensibleLoad, EnergyUnit);
     WriteSummaryLine(report, "Latent Cooling = ", LatentLoad, EnergyUnit);

@@ -1,9 +1,6 @@
-#include "reports/HumidityReport.h"
+#include "reports/Reports.h"
 
 #include "core/NumberPicture.h"
-#include "reports/AirBlock.h"
-#include "reports/PrintFrame.h"
-#include "reports/SaveFrame.h"
 
 using namespace forms;
 
@@ -19,48 +16,31 @@ struct SpacePictures
 constexpr SpacePictures OnPaper{.volume = "#,##0", .airChanges = "#,##0.0", .outsideAir = "#,##0"};
 constexpr SpacePictures InFile{.volume = "#,##0.#", .airChanges = "#,##0.0#", .outsideAir = "#,##0.#"};
 
-void WriteAir(ReportWriter& report, std::string_view heading, const AirSnapshot& air)
+void WriteSpaceLine(ReportWriter& report, std::string_view label, const FieldText& text,
+                    std::string_view picture)
 {
-    report.heading(heading);
-    report.rule();
-    WriteAirBlock(report, air);
-}
-
-void WriteSpace(ReportWriter& report, const HumidityTexts& texts, const SpacePictures& pictures)
-{
-    report.labelValueAndUnit("Volume of Space = ", FormatNumber(texts.txtVol, pictures.volume),
-                             texts.lblSpaceVol);
-    report.labelValueAndUnit("Air Changes = ", FormatNumber(texts.txtAC, pictures.airChanges), texts.lblAC);
-    report.heading("------  OR  -------------------------");
-    report.labelValueAndUnit("Infiltration Rate = ", FormatNumber(texts.txtOSA, pictures.outsideAir),
-                             texts.lblOSAFlow2);
-    report.rule();
+    report.labelValueAndUnit(label, FormatNumber(text.value, picture), text.unit);
 }
 
 /// @return the texts, for the rest of the report
 HumidityTexts WriteSummary(ReportWriter& report, const ReadHumidityTexts& readTexts,
                            const SpacePictures& pictures)
 {
-    report.heading("Humidity Data Summary");
-    report.rule();
+    report.underlinedHeading("Humidity Data Summary");
     HumidityTexts texts = readTexts();
-    WriteSpace(report, texts, pictures);
+    WriteSpaceLine(report, "Volume of Space = ", texts.spaceVolume, pictures.volume);
+    WriteSpaceLine(report, "Air Changes = ", texts.airChanges, pictures.airChanges);
+    report.heading("------  OR  -------------------------");
+    WriteSpaceLine(report, "Infiltration Rate = ", texts.outsideAir, pictures.outsideAir);
+    report.rule();
     return texts;
-}
-
-void WriteMoistureLine(ReportWriter& report, const std::string& value, const std::string& unit)
-{
-    report.valueAndUnit(FormatNumber(value, "#,##0.###"), unit);
 }
 
 void WriteMoisture(ReportWriter& report, const HumidityTexts& texts)
 {
-    report.heading("Moisture Required");
-    report.rule();
-    WriteMoistureLine(report, texts.txtMassPerHour, texts.lblMassPerHour);
-    WriteMoistureLine(report, texts.txtMassPerDay, texts.lblMassPerDay);
-    WriteMoistureLine(report, texts.txtFlowPerHour, texts.lblFlowPerHour);
-    WriteMoistureLine(report, texts.txtFlowPerDay, texts.lblFlowPerDay);
+    report.underlinedHeading("Moisture Required");
+    for (const FieldText& text : {texts.massPerHour, texts.massPerDay, texts.flowPerHour, texts.flowPerDay})
+        report.valueAndUnit(FormatNumber(text.value, "#,##0.###"), text.unit);
 }
 
 } // namespace
@@ -70,9 +50,9 @@ void WritePrintedHumidityReport(ReportWriter& report, const ReadHumidityTexts& r
     report.emptyColumn4Lines(1);
     report.column4DateLine();
     report.emptyColumn4Lines(1);
-    WriteAir(report, "Humidity Initial Air Properties", HumidOutsideAir);
+    WriteAirSection(report, "Humidity Initial Air Properties", HumidOutsideAir);
     report.emptyColumn4Lines(2);
-    WriteAir(report, "Humidified Air Properties", HumidDesiredAir);
+    WriteAirSection(report, "Humidified Air Properties", HumidDesiredAir);
     report.emptyColumn4Lines(3);
     const HumidityTexts texts = WriteSummary(report, readTexts, OnPaper);
     report.emptyColumn4Lines(2);
@@ -82,9 +62,9 @@ void WritePrintedHumidityReport(ReportWriter& report, const ReadHumidityTexts& r
 void WriteSavedHumidityReport(ReportWriter& report, const ReadHumidityTexts& readTexts)
 {
     report.column4DateLine();
-    WriteAir(report, "Humidity Initial Air Properties", HumidOutsideAir);
+    WriteAirSection(report, "Humidity Initial Air Properties", HumidOutsideAir);
     report.emptyColumn4Lines(1);
-    WriteAir(report, "Humidified Air Properties", HumidDesiredAir);
+    WriteAirSection(report, "Humidified Air Properties", HumidDesiredAir);
     report.emptyColumn4Lines(1);
     const HumidityTexts texts = WriteSummary(report, readTexts, InFile);
     WriteMoisture(report, texts);

@@ -1,10 +1,7 @@
-#include "reports/MixedAirReport.h"
+#include "reports/Reports.h"
 
 #include "core/NumberPicture.h"
 #include "core/UnitTables.h"
-#include "reports/AirBlock.h"
-#include "reports/PrintFrame.h"
-#include "reports/SaveFrame.h"
 
 using namespace forms;
 
@@ -12,11 +9,8 @@ namespace {
 
 void WriteBlock(ReportWriter& report, std::string_view heading, const AirSnapshot& air)
 {
-    report.blankLines(2);
-    report.dateLine();
-    report.blankLines(2);
-    report.heading(heading);
-    report.rule();
+    report.dateAmidBlankLines();
+    report.underlinedHeading(heading);
     report.labelValueAndUnit("Air Flow Rate = ", FormatNumber(air.AirVolume, "#,###"),
                              UnitLabel(AirVolumeUnit));
     WriteAirBlock(report, air);

@@ -1,40 +1,52 @@
 #include "reports/ReportFile.h"
 
 #include "core/RunTimeError.h"
+#include "platform/WorkFolders.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 namespace {
 
-/// @throws RunTimeError for the reason why the file can't be opened
-std::unique_ptr<QFile> Opened(const std::string& path, QIODevice::OpenMode mode, Links links)
+std::string MadeFolder(const std::string& name)
 {
-    auto file = std::make_unique<QFile>(QString::fromStdString(path));
-    if (!path.empty() && OpenRegularFile(*file, mode | QIODevice::Text, links))
-        return file;
-    const QFileInfo tried(QString::fromStdString(path));
-    if (!path.empty() && !tried.dir().exists())
-        Raise(ErrorNumber::PathNotFound);
-    if (!path.empty() && !tried.exists() && !mode.testFlag(QIODevice::WriteOnly))
-        Raise(ErrorNumber::FileNotFound);
-    Raise(ErrorNumber::PathFileAccess);
+    std::string folder = WorkFolder(ReportsBase(), name);
+    if (!FolderExists(folder) && !MakeFolder(folder))
+        Raise(ErrorNumber::PathFileAccess);
+    return folder;
 }
 
 } // namespace
 
+std::string DataFolder() { return MadeFolder("data"); }
+std::string TempFolder() { return MadeFolder("tempdata"); }
+
 void NumberedFile::openForOutput(const std::string& path, Links links)
 {
-    if (isOpen())
-        Raise(ErrorNumber::FileAlreadyOpen);
-    file = Opened(path, QIODevice::WriteOnly | QIODevice::Unbuffered, links);
+    open(path, QIODevice::WriteOnly | QIODevice::Unbuffered, links);
 }
 
 void NumberedFile::openForInput(const std::string& path, Links links)
 {
+    open(path, QIODevice::ReadOnly, links);
+}
+
+void NumberedFile::open(const std::string& path, QIODevice::OpenMode mode, Links links)
+{
     if (isOpen())
         Raise(ErrorNumber::FileAlreadyOpen);
-    file = Opened(path, QIODevice::ReadOnly, links);
+    auto opened = std::make_unique<QFile>(QString::fromStdString(path));
+    const QFileInfo tried(*opened);
+    if (path.empty())
+        Raise(ErrorNumber::PathFileAccess);
+    if (OpenRegularFile(*opened, mode | QIODevice::Text, links))
+        file = std::move(opened);
+    else if (!tried.dir().exists())
+        Raise(ErrorNumber::PathNotFound);
+    else if (!tried.exists() && !mode.testFlag(QIODevice::WriteOnly))
+        Raise(ErrorNumber::FileNotFound);
+    else
+        Raise(ErrorNumber::PathFileAccess);
 }
 
 void NumberedFile::writeLine(const std::string& line)

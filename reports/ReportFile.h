@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Desktop.h"
 #include "platform/RegularFile.h"
 
 #include <memory>
@@ -14,16 +15,13 @@ public:
     /// Creates the file or truncates an existing one.
     /// @throws RunTimeError file already open, path not found, path/file access (also for an empty name)
     void openForOutput(const std::string& path, Links links = Links::Follow);
-
     /// @throws RunTimeError as openForOutput, and file not found
     void openForInput(const std::string& path, Links links = Links::Follow);
 
     /// Writes and flushes the line, so that a full disk fails at the line that does not fit.
     /// @throws RunTimeError path/file access; the file stays open
     void writeLine(const std::string& line);
-
     bool atEnd() const { return file->atEnd(); }
-
     /// @throws RunTimeError path/file access; the file stays open
     std::string readLine();
 
@@ -31,9 +29,20 @@ public:
     bool isOpen() const { return file != nullptr; }
 
 private:
+    void open(const std::string& path, QIODevice::OpenMode mode, Links links);
+
     std::unique_ptr<QFile> file;
 };
 
 /// Intentional: a failure during a report leaves the file open, and no report can be saved or printed until
 /// the program ends.
 inline NumberedFile ReportFile;
+
+/// The parent of the report folders.
+inline std::string (*ReportsBase)() = ApplicationFolder;
+
+/// The folder that the save dialog proposes, and that of the temporary files for printing. Created if
+/// missing.
+/// @throws RunTimeError path/file access
+std::string DataFolder();
+std::string TempFolder();

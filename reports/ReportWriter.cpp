@@ -51,6 +51,19 @@ void ReportWriter::dateLine() { write(Line(DateColumn).put(today()).text()); }
 void ReportWriter::heading(std::string_view text) { write(Line(TextColumn).put(text).text()); }
 void ReportWriter::rule() { heading(std::string(RuleLength, '-')); }
 
+void ReportWriter::dateAmidBlankLines()
+{
+    blankLines(2);
+    dateLine();
+    blankLines(2);
+}
+
+void ReportWriter::underlinedHeading(std::string_view text)
+{
+    heading(text);
+    rule();
+}
+
 void ReportWriter::labelAndValue(std::string_view label, std::string_view value)
 {
     write(Line(TextColumn).put(label).PrintZone().put(value).text());

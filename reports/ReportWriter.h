@@ -23,10 +23,13 @@ public:
     void blankLines(int count);
     /// Today's date at column 40. Reads the date anew for each line.
     void dateLine();
+    /// The date between two blank lines above and two below.
+    void dateAmidBlankLines();
     /// Text at column 2.
     void heading(std::string_view text);
-    /// 37 hyphens under a heading.
+    /// 37 hyphens, for example under a heading.
     void rule();
+    void underlinedHeading(std::string_view text);
     /// A label at column 2, then the value and the unit, each in the next print zone. The zone of an empty
     /// value stays empty.
     void labelAndValue(std::string_view label, std::string_view value);
@@ -42,6 +45,3 @@ private:
     TakeLine write;
     ReadDate today;
 };
-
-/// Writes a report. PrintReport and SaveReport call it.
-using WriteReport = std::function<void(ReportWriter& report)>;

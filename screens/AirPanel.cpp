@@ -1,9 +1,6 @@
 #include "screens/AirPanel.h"
 
-#include "core/MainMod.h"
-#include "core/NumberPicture.h"
-#include "core/NumberText.h"
-#include "screens/Shell.h"
+#include <QWidget>
 
 using namespace forms;
 
@@ -37,14 +34,13 @@ void AirPanel::connectHandlers()
     txth.onKeyPress([this](int& key) { txth_KeyPress(key); });
     txtSpVol.onKeyPress([this](int& key) { txtSpVol_KeyPress(key); });
     btnCALCULATE.onClick([this] { btnCALCULATE_Click(); });
-    bind(PanelButton::btnCALCULATE, btnCALCULATE);
 }
 
 void AirPanel::setEnabled(const PanelButtons& named, bool enabled)
 {
-    for (const PanelButton name : named) {
-        if (name != PanelButton::None)
-            ownButtons.at(name)->setEnabled(enabled);
+    for (const char* const name : named) {
+        if (name != nullptr)
+            control(name)->setEnabled(enabled);
     }
 }
 
@@ -54,12 +50,6 @@ void AirPanel::itemChanged(const char* selector)
     setEnabled(rules.offOnChange, false);
     HumiditySelector = selector;
 }
-
-void AirPanel::txtTwb_Change() { itemChanged("Wetbulb"); }
-void AirPanel::txttd_Change() { itemChanged("Dew Point"); }
-void AirPanel::txtRH_Change() { itemChanged("Rel"); }
-void AirPanel::txtW_Change() { itemChanged("W"); }
-void AirPanel::txtGrains_Change() { itemChanged("Grains"); }
 
 void AirPanel::itemClicked(std::initializer_list<TextField*> othersInOrder, const char* selector)
 {
@@ -71,15 +61,6 @@ void AirPanel::itemClicked(std::initializer_list<TextField*> othersInOrder, cons
     txtSpVol.clear();
     HumiditySelector = selector; // last, because clearing the other fields selects their items
 }
-
-void AirPanel::txtTwb_Click() { itemClicked({&txtGrains, &txttd, &txtRH, &txtW}, "Wetbulb"); }
-void AirPanel::txttd_Click() { itemClicked({&txtGrains, &txtTwb, &txtRH, &txtW}, "Dew Point"); }
-void AirPanel::txtRH_Click() { itemClicked({&txtGrains, &txtTwb, &txttd, &txtW}, "Rel"); }
-void AirPanel::txtW_Click() { itemClicked({&txtRH, &txtTwb, &txtGrains, &txttd}, "W"); }
-void AirPanel::txtGrains_Click() { itemClicked({&txtRH, &txtTwb, &txttd, &txtW}, "Grains"); }
-
-void AirPanel::txtGrains_MouseDown() { HumiditySelector = "Grains"; }
-void AirPanel::txtRH_MouseDown() { HumiditySelector = "Rel"; }
 
 void AirPanel::txtTdb_Click()
 {
@@ -97,13 +78,8 @@ void AirPanel::txtTdb_KeyPress(int& key)
 
 void AirPanel::buildMenus(Menu* ownMenu)
 {
-    mnuFile.add(mnuPrintDialog);
-    mnuFile.add(mnuSave);
-    mnuFile.add(fileSeparator);
-    mnuFile.add(mnuExit);
-    mnuHelp1.add(helpEntry);
-    mnuHelp1.add(mnuHSearch);
-    mnuHelp1.add(mnuAbout);
+    addEntries(mnuFile, mnuPrintDialog, mnuSave, fileSeparator, mnuExit);
+    addEntries(mnuHelp1, helpEntry, mnuHSearch, mnuAbout);
     addToMenuBar(mnuFile);
     addToMenuBar(mnuMain1);
     if (ownMenu != nullptr)
@@ -119,38 +95,17 @@ void AirPanel::buildMenus(Menu* ownMenu)
     mnuAbout.onClick([this] { mnuAbout_Click(); });
 }
 
-// Intentional: the search opens this topic on every calculator.
-void AirPanel::mnuHSearch_Click() { OpenHelp(*this, HelpTopic::AirProperties); }
-void AirPanel::mnuAbout_Click() { ShowAbout(); }
-
 void AirPanel::Form_QueryUnload(CloseReason reason)
 {
-    if (reason == CloseReason::ControlMenu) {
-        Unload();
-        ShowMainForm();
-    }
+    if (reason == CloseReason::ControlMenu)
+        returnToMainMenu();
 }
 
-void AirPanel::Form_Unload()
+void AirPanel::returnToMainMenu()
 {
     Unload();
     ShowMainForm();
 }
-
-void AirPanel::mnuExit_Click()
-{
-    Unload();
-    ShowMainForm();
-}
-
-void AirPanel::mnuMain1_Click()
-{
-    Unload();
-    ShowMainForm();
-}
-
-void AirPanel::txth_KeyPress(int& key) { key = Key::Swallowed; }
-void AirPanel::txtSpVol_KeyPress(int& key) { key = Key::Swallowed; }
 
 void AirPanel::Results2Form()
 {

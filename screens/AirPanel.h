@@ -1,16 +1,9 @@
 #pragma once
 
-#include "platform/forms/Button.h"
-#include "platform/forms/Form.h"
-#include "platform/forms/Frame.h"
-#include "platform/forms/Label.h"
-#include "platform/forms/Layout.h"
-#include "platform/forms/Menu.h"
-#include "platform/forms/TextField.h"
+#include "core/MainMod.h"
+#include "screens/FormParts.h"
 #include "screens/PanelRules.h"
-
-#include <initializer_list>
-#include <map>
+#include "screens/Shell.h"
 
 /// The air-state panel that the calculators share: a dry bulb, the pressure, one of five humidity items, and
 /// a button that solves the complete state and writes it back to the same fields.
@@ -24,16 +17,13 @@ protected:
     AirPanel(const std::string& name, const PanelRules& panelRules);
 
     void Form_QueryUnload(CloseReason reason) override;
-    void Form_Unload() override;
+    void Form_Unload() override { returnToMainMenu(); }
 
     // Intentional: Exit doesn't leave the application. Like Main Menu, it returns to the main menu.
-    virtual void mnuExit_Click();
-    virtual void mnuMain1_Click();
+    virtual void mnuExit_Click() { returnToMainMenu(); }
+    virtual void mnuMain1_Click() { returnToMainMenu(); }
     virtual void mnuPrintDialog_Click() = 0;
     virtual void mnuSave_Click() = 0;
-
-    /// Binds a button name in the rules to a button of the form.
-    void bind(PanelButton name, Button& button) { ownButtons[name] = &button; }
 
     /// Adds the menus to the menu bar, with the form's own menu before Help.
     void buildMenus(Menu* ownMenu = nullptr);
@@ -44,6 +34,8 @@ protected:
     void layOutActions(std::initializer_list<Button*> buttons);
     /// Lays out the panel's frames and, if given, another one under the actions.
     void layOutFrames(forms::Grid& grid, Frame* underActions = nullptr);
+    /// Lays them out below an empty frame, whose caption is an instruction.
+    void layOutFramesBelow(Frame& banner, Frame* underActions = nullptr);
 
     /// Sets all captions for the current unit system, shows the pressure and resets the warnings.
     void RepaintForm();
@@ -108,28 +100,30 @@ private:
     void layOutRows();
     void nameFields();
 
-    void txtTwb_Change();
-    void txttd_Change();
-    void txtRH_Change();
-    void txtW_Change();
-    void txtGrains_Change();
-    void txtTwb_Click();
-    void txttd_Click();
-    void txtRH_Click();
-    void txtW_Click();
-    void txtGrains_Click();
-    void txtGrains_MouseDown();
-    void txtRH_MouseDown();
+    void txtTwb_Change() { itemChanged("Wetbulb"); }
+    void txttd_Change() { itemChanged("Dew Point"); }
+    void txtRH_Change() { itemChanged("Rel"); }
+    void txtW_Change() { itemChanged("W"); }
+    void txtGrains_Change() { itemChanged("Grains"); }
+    void txtTwb_Click() { itemClicked({&txtGrains, &txttd, &txtRH, &txtW}, "Wetbulb"); }
+    void txttd_Click() { itemClicked({&txtGrains, &txtTwb, &txtRH, &txtW}, "Dew Point"); }
+    void txtRH_Click() { itemClicked({&txtGrains, &txtTwb, &txttd, &txtW}, "Rel"); }
+    void txtW_Click() { itemClicked({&txtRH, &txtTwb, &txtGrains, &txttd}, "W"); }
+    void txtGrains_Click() { itemClicked({&txtRH, &txtTwb, &txttd, &txtW}, "Grains"); }
+    void txtGrains_MouseDown() { HumiditySelector = "Grains"; }
+    void txtRH_MouseDown() { HumiditySelector = "Rel"; }
     void txtTdb_Click();
     void txtTdb_KeyPress(int& key);
-    void txth_KeyPress(int& key);
-    void txtSpVol_KeyPress(int& key);
+    void txth_KeyPress(int& key) { key = forms::Key::Swallowed; }
+    void txtSpVol_KeyPress(int& key) { key = forms::Key::Swallowed; }
     void btnCALCULATE_Click();
-    void mnuHSearch_Click();
-    void mnuAbout_Click();
+    // Intentional: the search opens this topic on every calculator.
+    void mnuHSearch_Click() { OpenHelp(*this, HelpTopic::AirProperties); }
+    void mnuAbout_Click() { ShowAbout(); }
 
     void itemChanged(const char* selector);
     void itemClicked(std::initializer_list<TextField*> othersInOrder, const char* selector);
+    void returnToMainMenu();
 
     void calculate();
     void finishCalculation();
@@ -143,6 +137,4 @@ private:
     void solveHumidityRatioItem();
     void solveGrainsItem();
     void setEnabled(const PanelButtons& named, bool enabled);
-
-    std::map<PanelButton, Button*> ownButtons;
 };

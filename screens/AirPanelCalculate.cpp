@@ -1,10 +1,9 @@
 // The calculation of the air-state panel: ranges, clips and their warnings, and the solver for the item.
 
-#include "core/MainMod.h"
-#include "core/NumberText.h"
-#include "core/RunTimeError.h"
 #include "platform/forms/MsgBox.h"
 #include "screens/AirPanel.h"
+
+#include <QWidget>
 
 using namespace forms;
 
@@ -65,8 +64,8 @@ void AirPanel::finishCalculation()
 {
     setEnabled(rules.offAfterwards, false);
     setEnabled(rules.onAfterwards, true);
-    if (rules.focusAfterwards != PanelButton::None)
-        ownButtons.at(rules.focusAfterwards)->takeFocus();
+    if (rules.focusAfterwards != nullptr)
+        control(rules.focusAfterwards)->setFocus(Qt::OtherFocusReason);
 }
 
 void AirPanel::showResults()

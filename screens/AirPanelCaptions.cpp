@@ -1,9 +1,6 @@
 // The appearance of the air-state panel: captions and colors by unit system, rows, and accessible names.
 
-#include "core/MainMod.h"
-#include "core/NumberText.h"
 #include "screens/AirPanel.h"
-#include "screens/Rows.h"
 
 using namespace forms;
 
@@ -12,8 +9,8 @@ void AirPanel::RepaintForm()
     const bool isMetric = IsMetric();
     for (Label* degrees : {&lblTdb2, &lblTwb2, &lblDewPt2})
         degrees->setCaption(isMetric ? " Deg. C" : " Deg. F");
-    setCaption(std::string(isMetric ? rules.captionMetric : rules.captionEnglish));
-    lblW2.setCaption(isMetric ? std::string(rules.metricHumidityUnit) : " lb. water/lb. dry air");
+    setCaption(isMetric ? rules.captionMetric : rules.captionEnglish);
+    lblW2.setCaption(isMetric ? rules.metricHumidityUnit : " lb. water/lb. dry air");
     if (isMetric)
         lblGrains1.setCaption("  ");
     lblGrains2.setCaption(isMetric ? "  " : " grains");
@@ -25,10 +22,7 @@ void AirPanel::RepaintForm()
     txtP.setCaption(PlainText(BaroPressure));
     repaintExtras();
     lblRH2.setCaption(" %");
-    for (Label* warning : {&lblTwb2, &lblRH2, &lblDewPt2, &lblW2, &lblGrains2}) {
-        warning->setBackColour(Colours::Grey);
-        warning->setForeColour(Colours::Black);
-    }
+    colourLabels({&lblTwb2, &lblRH2, &lblDewPt2, &lblW2, &lblGrains2}, Colours::Grey); // no warnings
     nameFields();
 }
 
@@ -41,10 +35,7 @@ void AirPanel::layOutRows()
                            {lblW1, txtW, lblW2},
                            {lblGrains1, txtGrains, lblGrains2}});
     layOutInFrame(Frame3, {{lblEnthalpy1, txth, lblEnthalpy2}, {lblSpVol1, txtSpVol, lblSpVol2}});
-    for (Label* unit : {&lblTdb2, &lblP2, &lblEnthalpy2, &lblSpVol2}) {
-        unit->setBackColour(Colours::Grey);
-        unit->setForeColour(Colours::Black);
-    }
+    colourLabels({&lblTdb2, &lblP2, &lblEnthalpy2, &lblSpVol2}, Colours::Grey);
     txtP.setBoxed();
     for (TextField* field : {&txtTdb, &txtTwb, &txttd, &txtRH, &txtW, &txtGrains, &txth, &txtSpVol})
         field->alignRight();
@@ -60,9 +51,7 @@ void AirPanel::placeScreen()
 
 void AirPanel::layOutActions(std::initializer_list<Button*> buttons)
 {
-    auto* const actions = new Column(Frame5);
-    actions->setContentsMargins(14, 14, 14, 14);
-    actions->setSpacing(12);
+    auto* const actions = new Column(Frame5, {14, 14, 14, 14}, 12);
     for (Button* button : buttons) {
         setLeastHeight(*button, heightOfLines(*button, 2));
         actions->add(*button);
@@ -86,6 +75,20 @@ void AirPanel::layOutFrames(Grid& grid, Frame* underActions)
     grid.addLayout(side, 0, 1, 4, 1);
     grid.setColumnStretch(0, 1);
     grid.setRowStretch(3, 1);
+}
+
+void AirPanel::layOutFramesBelow(Frame& banner, Frame* underActions)
+{
+    banner.showCaptionAlone();
+    auto* const line = new Line;
+    line->setContentsMargins(16, 0, 16, 0);
+    line->add(banner);
+
+    auto* const panel = new Grid;
+    layOutFrames(*panel, underActions);
+    auto* const whole = new Column(*this, {0, 12, 0, 0}, 0);
+    whole->addLayout(line);
+    whole->addLayout(panel, 1);
 }
 
 void AirPanel::nameFields()

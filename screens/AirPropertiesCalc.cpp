@@ -1,13 +1,11 @@
 #include "screens/AirPropertiesCalc.h"
 
-#include "core/MainMod.h"
 #include "platform/Desktop.h"
 
 using namespace forms;
 
 AirPropertiesCalc::AirPropertiesCalc() : AirPanel("AirPropertiesCalc", airPropertiesCalc)
 {
-    setCaption("Air Properties Calculator");
     layOut();
     buildMenus();
 }
@@ -37,17 +35,14 @@ void AirPropertiesCalc::afterResults()
     KeepLastRun(Calculator::AirProperties, {{"air", air}});
 }
 
-AirPropertiesTexts AirPropertiesCalc::texts() const
+AirBlock AirPropertiesCalc::texts() const
 {
-    return {.txtTdb = txtTdb.text(),
-            .txtTwb = txtTwb.text(),
-            .txttd = txttd.text(),
-            .txtRH = txtRH.text(),
-            .txtW = txtW.text(),
-            .txtGrains = txtGrains.text(),
-            .txtSpVol = txtSpVol.text(),
-            .txth = txth.text()};
+    return {.Tdb = txtTdb.text(),
+            .Twb = txtTwb.text(),
+            .td = txttd.text(),
+            .RH = txtRH.text(),
+            .W = txtW.text(),
+            .Grains = txtGrains.text(),
+            .SpVol = txtSpVol.text(),
+            .h = txth.text()};
 }
-
-void AirPropertiesCalc::mnuPrintDialog_Click() { PrintAirProperties(*this, texts()); }
-void AirPropertiesCalc::mnuSave_Click() { SaveAirProperties(*this, texts()); }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reports/AirPropertiesReport.h"
+#include "reports/Reports.h"
 #include "screens/AirPanel.h"
 
 /// The air properties calculator: just the air-state panel.
@@ -16,9 +16,9 @@ protected:
 private:
     void layOut();
 
-    void mnuPrintDialog_Click() override;
-    void mnuSave_Click() override;
-    AirPropertiesTexts texts() const;
+    void mnuPrintDialog_Click() override { PrintAirProperties(*this, texts()); }
+    void mnuSave_Click() override { SaveAirProperties(*this, texts()); }
+    AirBlock texts() const;
 
     Frame Frame4{*this, "Frame4"};
 };

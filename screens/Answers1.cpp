@@ -1,15 +1,46 @@
 #include "screens/Answers1.h"
 
-#include "core/MainMod.h"
 #include "platform/forms/Forms.h"
-#include "reports/MixedAirReport.h"
-#include "screens/Help.h"
 #include "screens/MixedAir.h"
-#include "screens/Shell.h"
 
 using namespace forms;
 
 namespace {
+
+using Air = AirSnapshot;
+
+// The table from the top. Metric has no grains row.
+constexpr TableQuantity quantities[] = {
+    {"Label10", "  Volume", "lblcfm", &Air::AirVolume, {" CFM", "##,##"}, {" m3 / h", "##,##"}},
+    {"Label1", "  Dry Bulb Temp", "lblTdb", &Air::Tdb, {" Deg. F", "##0.0"}, {" Deg. C", "##0.0"}},
+    {"Label2", "   Wet Bulb Temp", "lblTwb", &Air::Twb, {" Deg. F", "##0.0"}, {" Deg. C", "##0.0"}},
+    {"Label16", "   Dew Point Temp", "lbltd", &Air::td, {" Deg. F", "##0.0"}, {" Deg. C", "##0.0"}},
+    {"Label12",
+     "   Relative Humidity",
+     "lblRH",
+     &Air::RH,
+     {" % R.H.", "##0.0", 100},
+     {" % R.H.", "##0.0", 100}},
+    {"Label17",
+     "   Humidity Ratio, W",
+     "lblW",
+     &Air::W,
+     {" lb. water/lb. dry air", "#0.0000"},
+     {" g water/kg dry air", "#0.00", 1000}},
+    {"lblGrainsHead",
+     "   Humidity Ratio, gr",
+     "lblGrains",
+     &Air::Grains,
+     {" grains water/lb. dry air", "##0.0"},
+     {" ", nullptr}},
+    {"lblSpVolHead",
+     "  Specific Volume, v",
+     "lblSpVol",
+     &Air::SpVol,
+     {" ft3 air/lb.", "##0.000"},
+     {" m3/kg dry air", "##0.000"}},
+    {"lblHHead", "  Enthalpy, h", "lblH", &Air::h, {" Btu/lb.", "##0.00"}, {" kJ/kg", "##0.00"}},
+};
 
 constexpr Colour cellColour{0x80, 0xFF, 0xFF};
 constexpr Colour captionColour{0xFF, 0xFF, 0xC0};
@@ -21,16 +52,28 @@ constexpr std::array<const char*, 3> headings{" Outside       Air", " Return    
 constexpr std::array<const char*, 3> streams{"Outside air", "Return air", "Mixed air"};
 constexpr Twips cellWidth = 750;
 constexpr Twips cellHeight = 270;
-constexpr Twips captionLeft = 210;
-constexpr Twips captionWidth = 1800;
-constexpr Twips unitLeft = 4620;
-constexpr Twips unitWidth = 2000;
+constexpr Twips firstRowTop = 735;
+constexpr Twips rowDistance = 420;
+
+void placeText(Label& label, Twips left, Twips top, Twips width, Colour colour, Twips height = cellHeight)
+{
+    label.place(left, top, width, height);
+    colourLabels({&label}, colour);
+    label.setArial();
+}
+
+TaggedNumber valueOf(const TableQuantity& quantity, const AirSnapshot& stream)
+{
+    const TaggedNumber value = stream.*quantity.value;
+    const int factor = quantity.shown().factor;
+    return factor == 1 ? value : value * factor;
+}
 
 } // namespace
 
 Answers1::Answers1() : Form("Answers1", FormKind::Screen)
 {
-    placeTable();
+    placeHeadings();
     buildMenus();
     btnOK.onClick([this] { btnOK_Click(); });
 }
@@ -41,58 +84,54 @@ Answers1::Cells Answers1::makeCells(const std::string& arrayName)
             Label(*this, arrayName + "(2)")};
 }
 
-void Answers1::placeTable()
+Answers1::TableRow::TableRow(Answers1& form, const TableQuantity& itsQuantity)
+    : quantity(itsQuantity),
+      caption(form, quantity.captionName, quantity.caption),
+      cells(form.makeCells(quantity.cellsName)),
+      unit(form, std::string(quantity.cellsName) + "Tail")
+{}
+
+void Answers1::TableRow::hide()
+{
+    caption.setCaption(" ");
+    caption.hide();
+    unit.hide();
+    for (Label& cell : cells)
+        cell.hide();
+}
+
+std::deque<Answers1::TableRow> Answers1::makeRows()
+{
+    std::deque<TableRow> made;
+    for (const TableQuantity& quantity : quantities)
+        made.emplace_back(*this, quantity);
+    return made;
+}
+
+void Answers1::placeHeadings()
 {
     for (std::size_t column = 0; column < columnLeft.size(); ++column) {
         Label& heading = lblHeading[column];
-        heading.place(columnLeft[column], 105, cellWidth, 540);
+        placeText(heading, columnLeft[column], 105, cellWidth, headingColour, 540);
         heading.setCaption(headings[column]);
-        heading.setBackColour(headingColour);
-        heading.setForeColour(Colours::Black);
-        heading.setArial();
         heading.setWrapped();
     }
-    placeRow(Label10, lblcfm, lblcfmTail, 735);
-    placeRow(Label1, lblTdb, lblTdbTail, 1155);
-    placeRow(Label2, lblTwb, lblTwbTail, 1575);
-    placeRow(Label16, lbltd, lbltdTail, 1995);
-    placeRow(Label12, lblRH, lblRHTail, 2415);
-    placeRow(Label17, lblW, lblWTail, 2835);
-    placeRow(lblGrainsHead, lblGrains, lblGrainsTail, 3255);
-    placeRow(lblSpVolHead, lblSpVol, lblSpVolTail, 3675);
-    placeRow(lblHHead, lblH, lblHTail, 4095);
-    btnOK.place(2940, 5040, cellWidth, 360);
 }
 
-void Answers1::placeRow(Label& caption, Cells& cells, Label& unit, Twips top)
+void Answers1::placeRow(TableRow& row, Twips top)
 {
-    caption.place(captionLeft, top, captionWidth, cellHeight);
-    unit.place(unitLeft, top, unitWidth, cellHeight);
-    for (Label* text : {&caption, &unit}) {
-        text->setBackColour(captionColour);
-        text->setForeColour(Colours::Black);
-        text->setArial();
-    }
-    for (std::size_t column = 0; column < cells.size(); ++column) {
-        Label& cell = cells[column];
-        cell.place(columnLeft[column], top, cellWidth, cellHeight);
-        cell.setBackColour(cellColour);
-        cell.setForeColour(Colours::Black);
-        cell.setArial();
-        cell.alignRight();
+    placeText(row.caption, 210, top, 1800, captionColour);
+    placeText(row.unit, 4620, top, 2000, captionColour);
+    for (std::size_t column = 0; column < columnLeft.size(); ++column) {
+        placeText(row.cells[column], columnLeft[column], top, cellWidth, cellColour);
+        row.cells[column].alignRight();
     }
 }
 
 void Answers1::buildMenus()
 {
-    mnuFile.add(mnuPrintResults);
-    mnuFile.add(mnuSave2File);
-    mnuFile.add(mnusep2);
-    mnuFile.add(mnuPrevious);
-    mnuFile.add(mnusep3);
-    mnuFile.add(mnuExit);
-    mnuhelp.add(mnuHContents);
-    mnuhelp.add(mnuAbout);
+    addEntries(mnuFile, mnuPrintResults, mnuSave2File, mnusep2, mnuPrevious, mnusep3, mnuExit);
+    addEntries(mnuhelp, mnuHContents, mnuAbout);
     addToMenuBar(mnuFile);
     addToMenuBar(mnuhelp);
 
@@ -111,34 +150,22 @@ void Answers1::Form_Load()
     RepaintForm();
 }
 
+/// Lays out the rows that the unit system has.
 void Answers1::RepaintForm()
 {
     const bool isMetric = IsMetric();
     setCaption(isMetric ? " Dunmoor  -  Mixed Air Calculation Summary (Metric Units)"
                         : " Dunmoor  -  Mixed Air Calculation Summary (English Units)");
-    lblcfmTail.setCaption(isMetric ? " m3 / h" : " CFM");
-    for (Label* degrees : {&lblTdbTail, &lblTwbTail, &lbltdTail})
-        degrees->setCaption(isMetric ? " Deg. C" : " Deg. F");
-    lblRHTail.setCaption(" % R.H.");
-    lblWTail.setCaption(isMetric ? " g water/kg dry air" : " lb. water/lb. dry air");
-    lblGrainsTail.setCaption(isMetric ? " " : " grains water/lb. dry air");
-    lblSpVolTail.setCaption(isMetric ? " m3/kg dry air" : " ft3 air/lb.");
-    lblHTail.setCaption(isMetric ? " kJ/kg" : " Btu/lb.");
-    if (isMetric)
-        moveUpPastGrains();
-}
-
-/// Metric has no grains row: the rows below it and the button move up.
-void Answers1::moveUpPastGrains()
-{
-    lblGrainsHead.setCaption(" ");
-    lblGrainsHead.hide();
-    lblGrainsTail.hide();
-    for (Label& cell : lblGrains)
-        cell.hide();
-    placeRow(lblSpVolHead, lblSpVol, lblSpVolTail, 3255);
-    placeRow(lblHHead, lblH, lblHTail, 3675);
-    btnOK.place(2940, 4250, cellWidth, 360);
+    Twips top = firstRowTop;
+    for (TableRow& row : rows) {
+        placeRow(row, top);
+        row.unit.setCaption(row.quantity.shown().unit);
+        if (row.quantity.shown().picture != nullptr)
+            top += rowDistance;
+        else
+            row.hide();
+    }
+    btnOK.place(2940, isMetric ? 4250 : 5040, cellWidth, 360);
 }
 
 void Answers1::fill()
@@ -150,37 +177,20 @@ void Answers1::fill()
 
 void Answers1::fillColumn(std::size_t column, const AirSnapshot& stream)
 {
-    const bool isMetric = IsMetric();
-    const auto show = [&](Cells& cells, const Label& caption, const Label& unit, const TaggedNumber& value,
-                          const char* picture) {
-        const std::string text = FormatNumber(value, picture);
-        cells[column].setCaption(text);
-        cells[column].setAccessibleName(streams[column] + (" -" + caption.caption()) + ": " + text +
-                                        unit.caption());
-    };
-    show(lblcfm, Label10, lblcfmTail, stream.AirVolume, "##,##");
-    show(lblTdb, Label1, lblTdbTail, stream.Tdb, "##0.0");
-    show(lblTwb, Label2, lblTwbTail, stream.Twb, "##0.0");
-    show(lbltd, Label16, lbltdTail, stream.td, "##0.0");
-    show(lblRH, Label12, lblRHTail, TaggedNumber(stream.RH) * 100, "##0.0");
-    if (isMetric)
-        show(lblW, Label17, lblWTail, TaggedNumber(stream.W) * 1000, "#0.00");
-    else
-        show(lblW, Label17, lblWTail, stream.W, "#0.0000");
-    lblGrains[column].setEnabled(!isMetric);
-    if (!isMetric)
-        show(lblGrains, lblGrainsHead, lblGrainsTail, stream.Grains, "##0.0");
-    show(lblSpVol, lblSpVolHead, lblSpVolTail, stream.SpVol, "##0.000");
-    show(lblH, lblHHead, lblHTail, stream.h, "##0.00");
+    for (TableRow& row : rows) {
+        Label& cell = row.cells[column];
+        const char* const picture = row.quantity.shown().picture;
+        cell.setEnabled(picture != nullptr);
+        if (picture == nullptr)
+            continue;
+        const std::string text = FormatNumber(valueOf(row.quantity, stream), picture);
+        cell.setCaption(text);
+        cell.setAccessibleName(streams[column] + (" -" + row.caption.caption()) + ": " + text +
+                               row.unit.caption());
+    }
 }
 
-void Answers1::btnOK_Click()
-{
-    Unload();
-    form<MixedAir>().Show();
-}
-
-void Answers1::mnuPrevious_Click()
+void Answers1::returnToCalculator()
 {
     Unload();
     form<MixedAir>().Show();
@@ -188,10 +198,8 @@ void Answers1::mnuPrevious_Click()
 
 void Answers1::Form_QueryUnload(CloseReason reason)
 {
-    if (reason == CloseReason::ControlMenu) {
-        Unload();
-        form<MixedAir>().Show();
-    }
+    if (reason == CloseReason::ControlMenu)
+        returnToCalculator();
 }
 
 // The calculator stays loaded and hidden, and keeps its contents.
@@ -200,9 +208,3 @@ void Answers1::mnuExit_Click()
     Unload();
     ShowMainForm();
 }
-
-void Answers1::mnuPrintResults_Click() { PrintMixedAir(*this); }
-void Answers1::mnuSave2File_Click() { SaveMixedAir(*this); }
-// Intentional: opens the page of the air properties calculator.
-void Answers1::mnuHContents_Click() { OpenHelp(*this, HelpTopic::AirProperties); }
-void Answers1::mnuAbout_Click() { ShowAbout(); }

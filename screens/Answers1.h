@@ -1,13 +1,33 @@
 #pragma once
 
-#include "core/AirSnapshot.h"
-#include "platform/forms/Button.h"
-#include "platform/forms/Form.h"
-#include "platform/forms/Label.h"
-#include "platform/forms/Menu.h"
+#include "core/MainMod.h"
+#include "reports/Reports.h"
+#include "screens/FormParts.h"
+#include "screens/Help.h"
+#include "screens/Shell.h"
 
 #include <array>
-#include <string>
+#include <deque>
+
+/// A quantity of the mixed air table, as the table shows it in one unit system.
+struct ShownQuantity
+{
+    const char* unit = nullptr;
+    const char* picture = nullptr; ///< null if the unit system doesn't have the quantity
+    int factor = 1;
+};
+
+struct TableQuantity
+{
+    const char* captionName = nullptr;
+    const char* caption = nullptr;
+    const char* cellsName = nullptr; ///< without the index; with "Tail", the name of the unit
+    Single AirSnapshot::*value = nullptr;
+    ShownQuantity english;
+    ShownQuantity metric;
+
+    const ShownQuantity& shown() const { return IsMetric() ? metric : english; }
+};
 
 /// The mixed air table: outside air, return air and mixture side by side. MixedAir fills it before showing
 /// it.
@@ -26,50 +46,37 @@ protected:
 private:
     using Cells = std::array<Label, 3>; // outside, return, mixed
 
+    struct TableRow
+    {
+        TableRow(Answers1& form, const TableQuantity& itsQuantity);
+        void hide();
+
+        const TableQuantity& quantity;
+        Label caption;
+        Cells cells;
+        Label unit;
+    };
+
     void RepaintForm();
-    void moveUpPastGrains();
-    void placeTable();
-    void placeRow(Label& caption, Cells& cells, Label& unit, forms::Twips top);
+    void placeHeadings();
+    void placeRow(TableRow& row, forms::Twips top);
     void buildMenus();
     void fillColumn(std::size_t column, const AirSnapshot& stream);
     Cells makeCells(const std::string& arrayName);
+    std::deque<TableRow> makeRows();
+    void returnToCalculator();
 
-    void btnOK_Click();
-    void mnuPrevious_Click();
+    void btnOK_Click() { returnToCalculator(); }
+    void mnuPrevious_Click() { returnToCalculator(); }
     void mnuExit_Click();
-    void mnuPrintResults_Click();
-    void mnuSave2File_Click();
-    void mnuHContents_Click();
-    void mnuAbout_Click();
+    void mnuPrintResults_Click() { PrintMixedAir(*this); }
+    void mnuSave2File_Click() { SaveMixedAir(*this); }
+    // Intentional: opens the page of the air properties calculator.
+    void mnuHContents_Click() { OpenHelp(*this, HelpTopic::AirProperties); }
+    void mnuAbout_Click() { ShowAbout(); }
 
     Cells lblHeading = makeCells("lblHeading");
-    Label Label10{*this, "Label10", "  Volume"};
-    Cells lblcfm = makeCells("lblcfm");
-    Label lblcfmTail{*this, "lblcfmTail"};
-    Label Label1{*this, "Label1", "  Dry Bulb Temp"};
-    Cells lblTdb = makeCells("lblTdb");
-    Label lblTdbTail{*this, "lblTdbTail"};
-    Label Label2{*this, "Label2", "   Wet Bulb Temp"};
-    Cells lblTwb = makeCells("lblTwb");
-    Label lblTwbTail{*this, "lblTwbTail"};
-    Label Label16{*this, "Label16", "   Dew Point Temp"};
-    Cells lbltd = makeCells("lbltd");
-    Label lbltdTail{*this, "lbltdTail"};
-    Label Label12{*this, "Label12", "   Relative Humidity"};
-    Cells lblRH = makeCells("lblRH");
-    Label lblRHTail{*this, "lblRHTail"};
-    Label Label17{*this, "Label17", "   Humidity Ratio, W"};
-    Cells lblW = makeCells("lblW");
-    Label lblWTail{*this, "lblWTail"};
-    Label lblGrainsHead{*this, "lblGrainsHead", "   Humidity Ratio, gr"};
-    Cells lblGrains = makeCells("lblGrains");
-    Label lblGrainsTail{*this, "lblGrainsTail"};
-    Label lblSpVolHead{*this, "lblSpVolHead", "  Specific Volume, v"};
-    Cells lblSpVol = makeCells("lblSpVol");
-    Label lblSpVolTail{*this, "lblSpVolTail"};
-    Label lblHHead{*this, "lblHHead", "  Enthalpy, h"};
-    Cells lblH = makeCells("lblH");
-    Label lblHTail{*this, "lblHTail"};
+    std::deque<TableRow> rows = makeRows();
     Button btnOK{*this, "btnOK", "OK"};
 
     Menu mnuFile{*this, "mnuFile", "&File"};

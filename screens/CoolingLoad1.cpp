@@ -1,19 +1,15 @@
 #include "screens/CoolingLoad1.h"
 
 #include "core/CoolingLoads.h"
-#include "core/MainMod.h"
 #include "platform/forms/Forms.h"
-#include "reports/CoolingReport.h"
 #include "screens/CoolingLoad2.h"
 #include "screens/CoolingLoad3.h"
-#include "screens/Rows.h"
 #include "screens/cfmForm.h"
 
 using namespace forms;
 
 CoolingLoad1::CoolingLoad1() : AirPanel("CoolingLoad1", coolingLoad1)
 {
-    setCaption("Cooling Load Calculation (Adiabatic)");
     layOut();
     buildMenus();
     helpEntry.setShortcut("F1");
@@ -21,19 +17,14 @@ CoolingLoad1::CoolingLoad1() : AirPanel("CoolingLoad1", coolingLoad1)
     btnSaveEA.onClick([this] { btnSaveEA_Click(); });
     btnSetLA.onClick([this] { btnSetLA_Click(); });
     btnCalcLoad.onClick([this] { btnCalcLoad_Click(); });
-    bind(PanelButton::btnSaveEA, btnSaveEA);
-    bind(PanelButton::btnSetLA, btnSetLA);
-    bind(PanelButton::btnCalcLoad, btnCalcLoad);
 }
 
 void CoolingLoad1::layOut()
 {
     for (Frame* emphasised : {&Frame6, &Frame2, &Frame1})
         emphasised->setBold();
-    auto* const panel = new Grid;
     layOutActions({&btnCALCULATE, &btnSaveEA, &btnSetLA, &btnCalcLoad});
-    layOutFrames(*panel);
-    layOutBelowBanner(*this, Frame6, *panel);
+    layOutFramesBelow(Frame6);
 }
 
 // Intentional: the state isn't cleared, so this screen starts with that of the last one.
@@ -118,6 +109,3 @@ void CoolingLoad1::btnCalcLoad_Click()
     summary.txtBTU[0].setText(FormatNumber(TotalLoad, "#,###.#"));
     summary.ShowModal();
 }
-
-void CoolingLoad1::mnuPrintDialog_Click() { PrintCooling(*this); }
-void CoolingLoad1::mnuSave_Click() { SaveCooling(*this); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reports/Reports.h"
 #include "screens/AirPanel.h"
 
 /// The cooling coil calculator. Only the enabled buttons record the current step: calculate the entering air,
@@ -18,8 +19,8 @@ private:
     void btnSaveEA_Click();
     void btnSetLA_Click();
     void btnCalcLoad_Click();
-    void mnuPrintDialog_Click() override;
-    void mnuSave_Click() override;
+    void mnuPrintDialog_Click() override { PrintCooling(*this); }
+    void mnuSave_Click() override { SaveCooling(*this); }
 
     void showLeavingEntry();
     void keepLeavingAir();

@@ -1,9 +1,5 @@
 #include "screens/CoolingLoad2.h"
 
-#include "core/CoolingLoads.h"
-#include "core/MainMod.h"
-#include "screens/Rows.h"
-
 using namespace forms;
 
 CoolingLoad2::CoolingLoad2() : Form("CoolingLoad2", FormKind::Dialog)
@@ -20,17 +16,10 @@ void CoolingLoad2::layOut()
 {
     Label1.setWrapped();
     setLeastHeight(Label1, heightOfLines(Label1, 2));
-    auto* const grid = new Grid(*this);
-    grid->setContentsMargins(20, 20, 20, 20);
-    grid->setVerticalSpacing(12);
-    grid->setHorizontalSpacing(12);
+    auto* const grid = new Grid(*this, {20, 20, 20, 20}, 12);
     grid->add(Label1, 0, 0, 1, 3);
-    grid->add(Label2, 1, 0);
-    grid->add(txtLATdb, 1, 1);
-    grid->add(Label3, 1, 2);
-    grid->add(Label4, 2, 0);
-    grid->add(txtLATwb, 2, 1);
-    grid->add(Label5, 2, 2);
+    addCells(*grid, 1, {&Label2, &txtLATdb, &Label3});
+    addCells(*grid, 2, {&Label4, &txtLATwb, &Label5});
     grid->setColumnMinimumWidth(1, widthOfCharacters(Label1, 16));
     grid->setColumnMinimumWidth(2, widthOfCharacters(Label1, 20));
     grid->setRowMinimumHeight(3, 8);
@@ -79,18 +68,22 @@ void CoolingLoad2::txtLATdb_KeyPress(int& key)
         btnOK.takeFocus();
 }
 
+void CoolingLoad2::noteEntry(Boolean16 accepted, Boolean16 hasWetBulb)
+{
+    LeavingAirAccepted = accepted;
+    LeavingWetBulbGiven = hasWetBulb;
+}
+
 void CoolingLoad2::refuse(const char* message)
 {
     Label1.setCaption(message);
-    LeavingAirAccepted = False16;
-    LeavingWetBulbGiven = False16;
+    noteEntry(False16, False16);
 }
 
 void CoolingLoad2::btnOK_Click()
 {
     if (txtLATdb.isEmpty()) {
-        LeavingAirAccepted = False16;
-        LeavingWetBulbGiven = False16;
+        noteEntry(False16, False16);
         return;
     }
     const Single d = ParseSingle(txtLATdb.text());
@@ -111,34 +104,35 @@ void CoolingLoad2::btnOK_Click()
     // Intentional: below the dew point, nothing happens at -40 or less.
 }
 
-void CoolingLoad2::acceptDry(Single dryBulb)
+/// Keeps the temperature and the pressure of the leaving air.
+void CoolingLoad2::keepKnown(Single dryBulb)
 {
     StatePoint.Tdb = dryBulb;
-    CoolingLeavingAir.Tdb = StatePoint.Tdb;
-    StatePoint.W = CoolingEnteringAir.W;
-    CoolingLeavingAir.W = CoolingEnteringAir.W;
+    CoolingLeavingAir.Tdb = dryBulb;
     StatePoint.P = CoolingEnteringAir.P;
     CoolingLeavingAir.P = CoolingEnteringAir.P;
-    LeavingAirAccepted = True16;
-    LeavingWetBulbGiven = False16;
+}
+
+void CoolingLoad2::acceptDry(Single dryBulb)
+{
+    keepKnown(dryBulb);
+    StatePoint.W = CoolingEnteringAir.W;
+    CoolingLeavingAir.W = CoolingEnteringAir.W;
+    noteEntry(True16, False16);
     Unload();
 }
 
 void CoolingLoad2::acceptWet(Single dryBulb, Single wetBulb, Single (*toAbsolute)(Single))
 {
-    StatePoint.Tdb = dryBulb;
+    keepKnown(dryBulb);
     StatePoint.Twb = wetBulb;
     CoolingLeavingAir.Twb = wetBulb;
-    CoolingLeavingAir.Tdb = dryBulb;
-    StatePoint.P = CoolingEnteringAir.P;
-    CoolingLeavingAir.P = CoolingEnteringAir.P;
     StatePoint.PwsWet = SaturationPressure(toAbsolute(wetBulb));
     StatePoint.Pws = SaturationPressure(toAbsolute(dryBulb));
     StatePoint.WsWet = HumidityRatioFromVaporPressure(StatePoint.PwsWet.asSingle(), StatePoint.P.asSingle());
     StatePoint.W = HumidityRatioFromWetBulb(wetBulb, dryBulb, StatePoint.WsWet);
     CoolingLeavingAir.W = StatePoint.W.asSingle();
-    LeavingAirAccepted = True16;
-    LeavingWetBulbGiven = True16;
+    noteEntry(True16, True16);
     Unload();
 }
 

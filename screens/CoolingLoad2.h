@@ -1,10 +1,8 @@
 #pragma once
 
-#include "core/Single.h"
-#include "platform/forms/Button.h"
-#include "platform/forms/Form.h"
-#include "platform/forms/Label.h"
-#include "platform/forms/TextField.h"
+#include "core/CoolingLoads.h"
+#include "core/MainMod.h"
+#include "screens/FormParts.h"
 
 /// The dialog that asks for the air leaving a cooling coil. Compared with the entering air, it refuses the
 /// entry or accepts it as dry or wet, and stores the result for the calculator.
@@ -26,7 +24,9 @@ private:
     void btnOK_Click();
     void btnCancel_Click();
 
+    static void noteEntry(Boolean16 accepted, Boolean16 hasWetBulb);
     void refuse(const char* message);
+    static void keepKnown(Single dryBulb);
     void acceptDry(Single dryBulb);
     void acceptWet(Single dryBulb, Single wetBulb, Single (*toAbsolute)(Single));
 

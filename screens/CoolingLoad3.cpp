@@ -3,13 +3,11 @@
 #include "core/MainMod.h"
 #include "platform/forms/Forms.h"
 #include "screens/CoolingLoad1.h"
-#include "screens/Rows.h"
 
 using namespace forms;
 
 CoolingLoad3::CoolingLoad3() : Form("CoolingLoad3", FormKind::Dialog)
 {
-    setCaption("Dunmoor  -  Cooling Load Calculation");
     layOut();
     Command1.onClick([this] { Command1_Click(); });
 }
@@ -24,10 +22,7 @@ void CoolingLoad3::layOut()
         Unit,
         Factor
     };
-    auto* const grid = new Grid(*this);
-    grid->setContentsMargins(24, 24, 24, 20);
-    grid->setVerticalSpacing(12);
-    grid->setHorizontalSpacing(12);
+    auto* const grid = new Grid(*this, {24, 24, 24, 20}, 12);
     const auto addRow = [grid](int row, Label& before, Place column, TextField& field, Label& unit) {
         before.alignRight();
         field.alignRight();

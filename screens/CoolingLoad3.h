@@ -1,13 +1,9 @@
 #pragma once
 
-#include "platform/forms/Button.h"
-#include "platform/forms/Form.h"
-#include "platform/forms/Label.h"
 #include "platform/forms/Rule.h"
-#include "platform/forms/TextField.h"
+#include "screens/FormParts.h"
 
 #include <array>
-#include <initializer_list>
 
 /// The summary of the cooling loads: sensible plus latent equals total. The calculator fills the load fields
 /// before showing it; editing them has no effect elsewhere.

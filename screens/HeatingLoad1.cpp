@@ -1,44 +1,31 @@
 #include "screens/HeatingLoad1.h"
 
 #include "core/HeatingLoads.h"
-#include "core/MainMod.h"
 #include "platform/forms/Forms.h"
-#include "reports/HeatingReport.h"
 #include "screens/HeatingLoad2.h"
-#include "screens/Rows.h"
 #include "screens/cfmForm.h"
 
 using namespace forms;
 
 HeatingLoad1::HeatingLoad1() : AirPanel("HeatingLoad1", heatingLoad1)
 {
-    setCaption("Heating Coil Load Calculation");
     layOut();
     buildMenus();
     btnSaveEnteringAir.onClick([this] { btnSaveEnteringAir_Click(); });
     btnInputLeavingAir.onClick([this] { btnInputLeavingAir_Click(); });
-    bind(PanelButton::btnSaveEnteringAir, btnSaveEnteringAir);
-    bind(PanelButton::btnInputLeavingAir, btnInputLeavingAir);
     txtAirVolume.onChange([this] { txtAirVolume_Change(); });
     txtHeatLoad.onKeyPress([this](int& key) { txtHeatLoad_KeyPress(key); });
 }
 
 void HeatingLoad1::layOut()
 {
-    auto* const panel = new Grid;
     layOutActions({&btnCALCULATE, &btnSaveEnteringAir, &btnInputLeavingAir});
     layOutPairs(Frame4, {{txtAirVolume, lblAirVolume}, {txtHeatLoad, lblHeatLoad}});
-    layOutFrames(*panel, &Frame4);
-    layOutBelowBanner(*this, Frame6, *panel);
-    for (TextField* field : {&txtAirVolume, &txtHeatLoad}) {
-        field->setBackColour(Colours::LightCyan);
-        field->setForeColour(Colours::Black);
-        field->leaveTabOrder();
-    }
-    for (TextField* field : {&txth, &txtSpVol}) {
-        field->setBackColour(Colours::LightYellow);
-        field->setForeColour(Colours::Black);
-    }
+    layOutFramesBelow(Frame6, &Frame4);
+    colourEntries({&txtAirVolume, &txtHeatLoad}, Colours::LightCyan);
+    colourEntries({&txth, &txtSpVol}, Colours::LightYellow);
+    txtAirVolume.leaveTabOrder();
+    txtHeatLoad.leaveTabOrder();
 }
 
 void HeatingLoad1::Form_Load()
@@ -72,8 +59,6 @@ void HeatingLoad1::txtAirVolume_Change()
     AirVolume = txtAirVolume.text();
     MixedOutsideAir.AirVolume = AirVolume.asSingle();
 }
-
-void HeatingLoad1::txtHeatLoad_KeyPress(int& key) { key = Key::Swallowed; }
 
 // Intentional: continues even if the close box closed the dialog; Metric then divides the load again.
 void HeatingLoad1::btnInputLeavingAir_Click()
@@ -112,6 +97,3 @@ void HeatingLoad1::showLeavingEntry(Single tdb, Single w)
     txtTdb.setText(PlainText(tdb));
     txtW.setText(PlainText(w)); // intentional: kg/kg in Metric, although the next calculation reads g/kg
 }
-
-void HeatingLoad1::mnuPrintDialog_Click() { PrintHeating(*this); }
-void HeatingLoad1::mnuSave_Click() { SaveHeating(*this); }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Single.h"
+#include "reports/Reports.h"
 #include "screens/AirPanel.h"
 
 /// The heating coil calculator: the entering air with its volume, then the leaving temperature. The coil adds
@@ -22,9 +22,9 @@ private:
     void btnSaveEnteringAir_Click();
     void btnInputLeavingAir_Click();
     void txtAirVolume_Change();
-    void txtHeatLoad_KeyPress(int& key);
-    void mnuPrintDialog_Click() override;
-    void mnuSave_Click() override;
+    void txtHeatLoad_KeyPress(int& key) { key = forms::Key::Swallowed; }
+    void mnuPrintDialog_Click() override { PrintHeating(*this); }
+    void mnuSave_Click() override { SaveHeating(*this); }
 
     void showLoad();
 

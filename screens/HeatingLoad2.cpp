@@ -4,7 +4,6 @@
 #include "core/MainMod.h"
 #include "platform/forms/Forms.h"
 #include "screens/HeatingLoad1.h"
-#include "screens/Rows.h"
 
 using namespace forms;
 
@@ -17,20 +16,14 @@ HeatingLoad2::HeatingLoad2() : Form("HeatingLoad2", FormKind::Dialog)
 
 void HeatingLoad2::layOut()
 {
-    auto* const grid = new Grid(*this);
-    grid->setContentsMargins(24, 24, 24, 20);
+    auto* const grid = new Grid(*this, {24, 24, 24, 20}, 12);
     grid->setVerticalSpacing(10);
-    grid->setHorizontalSpacing(12);
     grid->add(Label1, 0, 0, 1, 3);
-    grid->add(Label3, 1, 0);
-    grid->add(txtHeatLAT, 1, 1);
-    grid->add(Label2, 1, 2);
+    addCells(*grid, 1, {&Label3, &txtHeatLAT, &Label2});
     grid->setColumnMinimumWidth(1, widthOfCharacters(Label1, 14));
     grid->setRowMinimumHeight(2, 12);
     grid->add(btnOK, 3, 2);
-    txtHeatLAT.alignRight();
-    txtHeatLAT.setBackColour(Colours::LightYellow);
-    txtHeatLAT.setForeColour(Colours::Black);
+    colourEntries({&txtHeatLAT}, Colours::LightYellow);
     Label3.describe(txtHeatLAT);
     nameWithUnit(txtHeatLAT, "Leaving air temperature", IsMetric() ? "Deg. C" : "Deg. F");
 }

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "platform/forms/Button.h"
-#include "platform/forms/Form.h"
-#include "platform/forms/Label.h"
-#include "platform/forms/TextField.h"
+#include "screens/FormParts.h"
 
 /// The dialog that asks for the temperature of the air leaving a heating coil and calculates the load.
 class HeatingLoad2 : public forms::Form

@@ -1,8 +1,6 @@
 #pragma once
 
-namespace forms {
-class Form;
-} // namespace forms
+#include "platform/help/HtmlHelp.h"
 
 /// The numbered topics of the help file.
 enum class HelpTopic
@@ -17,4 +15,7 @@ enum class HelpTopic
 
 /// Opens the help file at a topic. The file is found by its name in the current directory, which is the
 /// application's folder once the air properties calculator has been opened.
-void OpenHelp(forms::Form& form, HelpTopic topic);
+inline void OpenHelp(forms::Form& form, HelpTopic topic)
+{
+    HtmlHelpA(form, "dunmoor.chm", HH_HELP_CONTEXT, static_cast<int>(topic));
+}

@@ -1,29 +1,18 @@
 #include "screens/Humid1.h"
 
-#include "core/MainMod.h"
-#include "platform/forms/Forms.h"
-#include "reports/HumidityReport.h"
-#include "screens/Rows.h"
-#include "screens/Shell.h"
-#include "screens/humid2.h"
-
 using namespace forms;
 
 Humid1::Humid1() : AirPanel("Humid1", humid1)
 {
-    setCaption("Humidifier Calculation");
     layOut();
     buildMenus();
     btnHumidityDesired.onClick([this] { btnHumidityDesired_Click(); });
-    bind(PanelButton::btnHumidityDesired, btnHumidityDesired);
 }
 
 void Humid1::layOut()
 {
-    auto* const panel = new Grid;
     layOutActions({&btnCALCULATE, &btnHumidityDesired});
-    layOutFrames(*panel);
-    layOutBelowBanner(*this, Frame6, *panel);
+    layOutFramesBelow(Frame6);
 }
 
 void Humid1::Form_Load()
@@ -36,12 +25,7 @@ void Humid1::Form_Load()
     form<humid2>();
 }
 
-void Humid1::afterResults() { SaveOutsideAir(); }
-
-/// Saves all fields except the air volume, which this calculator never sets.
-void Humid1::SaveOutsideAir() { HumidOutsideAir = AirSnapshot::of(StatePoint, HumidOutsideAir.AirVolume); }
-
-void Humid1::btnHumidityDesired_Click() { form<humid2>().ShowModal(); }
+void Humid1::afterResults() { HumidOutsideAir = AirSnapshot::of(StatePoint, HumidOutsideAir.AirVolume); }
 
 // The close box unloads the two forms in the opposite order of the menus.
 void Humid1::Form_QueryUnload(CloseReason reason)
@@ -53,26 +37,9 @@ void Humid1::Form_QueryUnload(CloseReason reason)
     }
 }
 
-void Humid1::mnuExit_Click()
+void Humid1::leave()
 {
     Unload();
     form<humid2>().Unload();
     ShowMainForm();
-}
-
-void Humid1::mnuMain1_Click()
-{
-    Unload();
-    form<humid2>().Unload();
-    ShowMainForm();
-}
-
-void Humid1::mnuPrintDialog_Click()
-{
-    PrintHumidity(*this, [] { return form<humid2>().texts(); });
-}
-
-void Humid1::mnuSave_Click()
-{
-    SaveHumidity(*this, [] { return form<humid2>().texts(); });
 }

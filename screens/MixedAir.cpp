@@ -1,25 +1,18 @@
 #include "screens/MixedAir.h"
 
-#include "core/MainMod.h"
 #include "platform/forms/Forms.h"
-#include "reports/MixedAirReport.h"
-#include "screens/Rows.h"
 #include "screens/cfmForm.h"
 
 using namespace forms;
 
 MixedAir::MixedAir() : AirPanel("MixedAir", mixedAir)
 {
-    setCaption("Mixed Air Calculation");
     layOut();
     buildReviewMenu();
     buildMenus(&mnuReview);
     btnSaveOSA.onClick([this] { btnSaveOSA_Click(); });
     btnRA.onClick([this] { btnRA_Click(); });
     btnMixedAir.onClick([this] { btnMixedAir_Click(); });
-    bind(PanelButton::btnSaveOSA, btnSaveOSA);
-    bind(PanelButton::btnRA, btnRA);
-    bind(PanelButton::btnMixedAir, btnMixedAir);
     txtcfm1.onChange([this] { txtcfm1_Change(); });
     txtCFM.onKeyPress([this](int& key) { txtCFM_KeyPress(key); });
 }
@@ -34,9 +27,7 @@ void MixedAir::layOut()
 
 void MixedAir::buildReviewMenu()
 {
-    mnuReview.add(mnuReviewOutsideAir);
-    mnuReview.add(mnuReviewReturnAir);
-    mnuReview.add(mnuReviewMixedAir);
+    addEntries(mnuReview, mnuReviewOutsideAir, mnuReviewReturnAir, mnuReviewMixedAir);
     mnuReviewOutsideAir.onClick([this] { mnuReviewOutsideAir_Click(); });
     mnuReviewReturnAir.onClick([this] { mnuReviewReturnAir_Click(); });
     mnuReview.hide();
@@ -52,12 +43,17 @@ void MixedAir::Form_Load()
     form<cfmForm>();
     for (Button* button : {&btnCALCULATE, &btnRA, &btnSaveOSA, &btnMixedAir})
         button->disable();
-    for (Label* label : {&lblcfm1, &lblcfm2, &lblcfm3})
-        label->hide();
-    for (TextField* field : {&txtcfm1, &txtcfm2, &txtCFM})
-        field->hide();
+    setVolumesVisible(false);
     for (TextField* field : {&txtTdb, &txtTwb, &txttd, &txtRH, &txtW, &txtGrains, &txtSpVol, &txth})
         field->clear();
+}
+
+void MixedAir::setVolumesVisible(bool visible)
+{
+    for (Label* label : {&lblcfm1, &lblcfm2, &lblcfm3})
+        label->setVisible(visible);
+    for (TextField* field : {&txtcfm1, &txtcfm2, &txtCFM})
+        field->setVisible(visible);
 }
 
 void MixedAir::repaintExtras()
@@ -82,8 +78,3 @@ void MixedAir::txtcfm1_Change()
     AirVolume = txtcfm1.text();
     MixedOutsideAir.AirVolume = AirVolume.asSingle();
 }
-
-void MixedAir::txtCFM_KeyPress(int& key) { key = Key::Swallowed; }
-
-void MixedAir::mnuPrintDialog_Click() { PrintMixedAir(*this); }
-void MixedAir::mnuSave_Click() { SaveMixedAir(*this); }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "core/AirSnapshot.h"
-#include "platform/forms/Menu.h"
+#include "reports/Reports.h"
 #include "screens/AirPanel.h"
 
 /// The mixed air calculator: two streams of air, each saved with its volume, and their adiabatic mixture.
@@ -23,12 +22,13 @@ private:
     void btnRA_Click();
     void btnMixedAir_Click();
     void txtcfm1_Change();
-    void txtCFM_KeyPress(int& key);
+    void txtCFM_KeyPress(int& key) { key = forms::Key::Swallowed; }
     void mnuReviewOutsideAir_Click();
     void mnuReviewReturnAir_Click();
-    void mnuPrintDialog_Click() override;
-    void mnuSave_Click() override;
+    void mnuPrintDialog_Click() override { PrintMixedAir(*this); }
+    void mnuSave_Click() override { SaveMixedAir(*this); }
 
+    void setVolumesVisible(bool visible);
     void mix();
     void showAnswers();
     void offerReview(MenuCommand& stream);

@@ -1,6 +1,5 @@
 // The streams of the mixed air calculator: saving them with their volumes, mixing and reviewing them.
 
-#include "core/MainMod.h"
 #include "core/Mixing.h"
 #include "platform/forms/Forms.h"
 #include "platform/forms/MsgBox.h"
@@ -47,10 +46,7 @@ void MixedAir::btnSaveOSA_Click()
     MixedOutsideAir.AirVolume = AirVolume.asSingle();
     keepState(MixedOutsideAir);
     offerReview(mnuReviewOutsideAir);
-    for (Label* label : {&lblcfm1, &lblcfm2, &lblcfm3})
-        label->show();
-    for (TextField* field : {&txtcfm1, &txtcfm2, &txtCFM})
-        field->show();
+    setVolumesVisible(true);
     btnMixedAir.enable();
 }
 

@@ -1,8 +1,6 @@
 #include "screens/cfmForm.h"
 
 #include "core/MainMod.h"
-#include "screens/Help.h"
-#include "screens/Rows.h"
 
 using namespace forms;
 
@@ -20,13 +18,10 @@ cfmForm::cfmForm() : Form("cfmForm", FormKind::Dialog)
 
 void cfmForm::layOut()
 {
-    auto* const grid = new Grid(*this);
-    grid->setContentsMargins(20, 20, 20, 20);
+    auto* const grid = new Grid(*this, {20, 20, 20, 20}, 12);
     grid->setVerticalSpacing(14);
-    grid->setHorizontalSpacing(12);
     grid->add(Label1, 0, 0, 1, 2);
-    grid->add(txtCFMinput, 1, 0);
-    grid->add(label2, 1, 1);
+    addCells(*grid, 1, {&txtCFMinput, &label2});
     grid->setColumnMinimumWidth(0, widthOfCharacters(label2, 18));
     grid->setColumnMinimumWidth(1, widthOfCharacters(label2, 24));
     grid->setRowMinimumHeight(2, 8);
@@ -64,6 +59,3 @@ void cfmForm::btnCancel_Click()
     AirVolume = 0;
     Hide();
 }
-
-// Intentional: opens the cooling topic for every calculator.
-void cfmForm::mnuSearch_Click() { OpenHelp(*this, HelpTopic::Cooling); }

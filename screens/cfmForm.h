@@ -1,10 +1,7 @@
 #pragma once
 
-#include "platform/forms/Button.h"
-#include "platform/forms/Form.h"
-#include "platform/forms/Label.h"
-#include "platform/forms/Menu.h"
-#include "platform/forms/TextField.h"
+#include "screens/FormParts.h"
+#include "screens/Help.h"
 
 /// The dialog that asks for an air volume and stores it in AirVolume: the text as typed, which its readers
 /// convert, or the integer 0. Its buttons only hide it, so it offers the same text next time.
@@ -22,7 +19,8 @@ private:
 
     void btnOK_Click();
     void btnCancel_Click();
-    void mnuSearch_Click();
+    // Intentional: opens the cooling topic for every calculator.
+    void mnuSearch_Click() { OpenHelp(*this, HelpTopic::Cooling); }
 
     Label Label1{*this, "Label1", "Enter the Air Volume:"};
     TextField txtCFMinput{*this, "txtCFMinput"};

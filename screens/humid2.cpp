@@ -2,14 +2,11 @@
 
 #include "core/Humidification.h"
 #include "core/MainMod.h"
-#include "screens/Help.h"
-#include "screens/Shell.h"
 
 using namespace forms;
 
 humid2::humid2() : Form("humid2", FormKind::Screen)
 {
-    setCaption("Humidity Inputs");
     layOut();
     buildMenus();
     btnCalcHumid.onClick([this] { btnCalcHumid_Click(); });
@@ -18,13 +15,8 @@ humid2::humid2() : Form("humid2", FormKind::Screen)
 
 void humid2::buildMenus()
 {
-    mnuFile.add(mnuPrint);
-    mnuFile.add(mnuSave);
-    mnuFile.add(mnuSpacer);
-    mnuFile.add(mnuExit);
-    mnuHelp.add(mnuHumid2Help);
-    mnuHelp.add(mnuSearch);
-    mnuHelp.add(mnuAbout);
+    addEntries(mnuFile, mnuPrint, mnuSave, mnuSpacer, mnuExit);
+    addEntries(mnuHelp, mnuHumid2Help, mnuSearch, mnuAbout);
     addToMenuBar(mnuFile);
     addToMenuBar(mnuMain);
     addToMenuBar(mnuHelp);
@@ -111,25 +103,14 @@ void humid2::showMoisture()
 
 HumidityTexts humid2::texts() const
 {
-    return {.txtVol = txtVol.text(),
-            .txtAC = txtAC.text(),
-            .txtOSA = txtOSA.text(),
-            .txtMassPerHour = txtMassPerHour.text(),
-            .txtMassPerDay = txtMassPerDay.text(),
-            .txtFlowPerHour = txtFlowPerHour.text(),
-            .txtFlowPerDay = txtFlowPerDay.text(),
-            .lblSpaceVol = lblSpaceVol.caption(),
-            .lblAC = lblAC.caption(),
-            .lblOSAFlow2 = lblOSAFlow2.caption(),
-            .lblMassPerHour = lblMassPerHour.caption(),
-            .lblMassPerDay = lblMassPerDay.caption(),
-            .lblFlowPerHour = lblFlowPerHour.caption(),
-            .lblFlowPerDay = lblFlowPerDay.caption()};
+    return {.spaceVolume = {txtVol.text(), lblSpaceVol.caption()},
+            .airChanges = {txtAC.text(), lblAC.caption()},
+            .outsideAir = {txtOSA.text(), lblOSAFlow2.caption()},
+            .massPerHour = {txtMassPerHour.text(), lblMassPerHour.caption()},
+            .massPerDay = {txtMassPerDay.text(), lblMassPerDay.caption()},
+            .flowPerHour = {txtFlowPerHour.text(), lblFlowPerHour.caption()},
+            .flowPerDay = {txtFlowPerDay.text(), lblFlowPerDay.caption()}};
 }
-
-void humid2::btnOK_Click() { Hide(); }
-void humid2::mnuExit_Click() { Unload(); }
-void humid2::mnuMain_Click() { Unload(); } // intentional: returns to the outside air, despite its caption
 
 void humid2::mnuPrint_Click()
 {
@@ -140,8 +121,3 @@ void humid2::mnuSave_Click()
 {
     SaveHumidity(*this, [this] { return texts(); });
 }
-
-void humid2::mnuHumid2Help_Click() { OpenHelp(*this, HelpTopic::Humidification); }
-// Intentional: the search opens this topic on every calculator.
-void humid2::mnuSearch_Click() { OpenHelp(*this, HelpTopic::AirProperties); }
-void humid2::mnuAbout_Click() { ShowAbout(); }

@@ -1,12 +1,9 @@
 #pragma once
 
-#include "platform/forms/Button.h"
-#include "platform/forms/Form.h"
-#include "platform/forms/Frame.h"
-#include "platform/forms/Label.h"
-#include "platform/forms/Menu.h"
-#include "platform/forms/TextField.h"
-#include "reports/HumidityReport.h"
+#include "reports/Reports.h"
+#include "screens/FormParts.h"
+#include "screens/Help.h"
+#include "screens/Shell.h"
 
 /// The second screen of the humidification calculator: the desired air, its quantity and the water to add.
 class humid2 : public forms::Form
@@ -32,14 +29,15 @@ private:
     void nameFields();
 
     void btnCalcHumid_Click();
-    void btnOK_Click();
+    void btnOK_Click() { Hide(); }
     void mnuPrint_Click();
     void mnuSave_Click();
-    void mnuExit_Click();
-    void mnuMain_Click();
-    void mnuHumid2Help_Click();
-    void mnuSearch_Click();
-    void mnuAbout_Click();
+    void mnuExit_Click() { Unload(); }
+    void mnuMain_Click() { Unload(); } // intentional: returns to the outside air, despite its caption
+    void mnuHumid2Help_Click() { OpenHelp(*this, HelpTopic::Humidification); }
+    // Intentional: the search opens this topic on every calculator.
+    void mnuSearch_Click() { OpenHelp(*this, HelpTopic::AirProperties); }
+    void mnuAbout_Click() { ShowAbout(); }
 
     void solveDesiredAir();
     void showMoisture();

@@ -1,6 +1,5 @@
 // The appearance of the second humidification screen: frames, colors, tab order and accessible names.
 
-#include "screens/Rows.h"
 #include "screens/humid2.h"
 
 #include <algorithm>
@@ -14,14 +13,7 @@ constexpr int roomBesideButtonText = 28;
 
 int entryHeight(const Control& control) { return heightOfLines(control, 2); }
 
-Grid& gridIn(Frame& frame)
-{
-    auto* const grid = new Grid(frame);
-    grid->setContentsMargins(16, 14, 16, 14);
-    grid->setHorizontalSpacing(10);
-    grid->setVerticalSpacing(10);
-    return *grid;
-}
+Grid& gridIn(Frame& frame) { return *new Grid(frame, {16, 14, 16, 14}, 10); }
 
 /// A grid of captions, fields and units. The columns of the two entry frames line up.
 Grid& entryGridIn(Frame& frame, int captionWidth)
@@ -50,9 +42,7 @@ void humid2::layOut()
     giveRoom(btnCalcHumid);
     giveRoom(btnOK);
 
-    auto* const whole = new Column(*this);
-    whole->setContentsMargins(16, 16, 16, 16);
-    whole->setSpacing(16);
+    auto* const whole = new Column(*this, {16, 16, 16, 16}, 16);
     whole->add(Frame2);
     whole->add(Frame1);
     whole->addLayout(buttonRow({&btnCalcHumid}, {&btnOK}));
@@ -76,8 +66,7 @@ void humid2::layOutDesired()
     Grid& grid = entryGridIn(Frame2, captionWidth());
     addRow(grid, 0, {Label13, txtDesT, lblT});
     addRow(grid, 1, {Label1, txtDesH, lblRH});
-    for (TextField* field : {&txtDesT, &txtDesH})
-        colourEntry(*field, Colours::LightCyan);
+    colourEntries({&txtDesT, &txtDesH}, Colours::LightCyan);
 }
 
 void humid2::layOutQuantities()
@@ -89,8 +78,7 @@ void humid2::layOutQuantities()
     addRow(grid, 3, {Label3, txtAC, lblAC});
     grid.add(Label16, 4, 0, 1, 3);
     addRow(grid, 5, {lblOSAFlow1, txtOSA, lblOSAFlow2});
-    for (TextField* field : {&txtVol, &txtAC, &txtOSA})
-        colourEntry(*field, Colours::LightGreen);
+    colourEntries({&txtVol, &txtAC, &txtOSA}, Colours::LightGreen);
 }
 
 void humid2::layOutMoisture()
@@ -100,7 +88,7 @@ void humid2::layOutMoisture()
         setFixedHeight(field, entryHeight(field));
         grid.add(field, row, column);
         grid.add(unit, row, column + 1);
-        colourEntry(field, Colours::LightYellow);
+        colourEntries({&field}, Colours::LightYellow);
         field.leaveTabOrder();
     };
     add(0, 0, txtMassPerHour, lblMassPerHour);

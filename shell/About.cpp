@@ -1,7 +1,6 @@
 #include "shell/About.h"
 
 #include "platform/Launch.h"
-#include "screens/Rows.h"
 
 #include <QCoreApplication>
 
@@ -19,7 +18,6 @@ std::string applicationTitle() { return QCoreApplication::applicationName().toSt
 
 About::About() : Form("About", FormKind::Dialog)
 {
-    setCaption("About Dunmoor");
     layOut();
     btnEMAIL.onClick([this] { btnEMAIL_Click(); });
     btnURL.onClick([this] { btnURL_Click(); });
@@ -34,13 +32,11 @@ void About::layOut()
     btnEMAIL.setToolTip("support@dunmoor.example");
     btnURL.setToolTip(webAddress);
 
-    auto* const column = new Column(*this);
-    column->setContentsMargins(28, 24, 28, 20);
-    column->setSpacing(8);
-    for (Label* line : {&lblTitle, &lblVersion, &lblCopyright, &lblCompany, &lblDescription})
+    auto* const column = new Column(*this, {28, 24, 28, 20}, 8);
+    for (const Control* line :
+         std::initializer_list<const Control*>{&lblTitle, &lblVersion, &lblCopyright, &lblCompany,
+                                               &lblDescription, &lblMoreDescription, &Line1})
         column->add(*line);
-    column->add(lblMoreDescription);
-    column->add(Line1);
     column->addSpacing(8);
     column->addLayout(buttonRow({&btnEMAIL, &btnURL}, {&cmdOK}));
 }
@@ -56,8 +52,6 @@ void About::Form_Load()
     placeInTheMiddle(2);
 }
 
-void About::Form_Activate() { cmdOK.takeFocus(); }
-
 void About::btnEMAIL_Click()
 {
     shellResult = ShellExecuteA(*this, "open", supportAddress, "", linkFolder, SW_SHOWNORMAL);
@@ -67,5 +61,3 @@ void About::btnURL_Click()
 {
     shellResult = ShellExecuteA(*this, "open", webAddress, "", linkFolder, SW_SHOWNORMAL);
 }
-
-void About::cmdOK_Click() { Unload(); }

@@ -1,13 +1,8 @@
 #pragma once
 
 #include "platform/Registry.h"
-#include "platform/forms/Button.h"
-#include "platform/forms/Form.h"
-#include "platform/forms/Label.h"
 #include "platform/forms/Rule.h"
-
-#include <cstdint>
-#include <string>
+#include "screens/FormParts.h"
 
 /// The about box: the program, its makers and how to contact them.
 class About : public forms::Form
@@ -26,14 +21,14 @@ public:
 
 protected:
     void Form_Load() override;
-    void Form_Activate() override;
+    void Form_Activate() override { cmdOK.takeFocus(); }
 
 private:
     void layOut();
 
     void btnEMAIL_Click();
     void btnURL_Click();
-    void cmdOK_Click();
+    void cmdOK_Click() { Unload(); }
 
     int shellResult = 0; ///< of the last link; never read
 

@@ -3,14 +3,11 @@
 #include "chart/ChartPicture.h"
 #include "core/MainMod.h"
 #include "platform/forms/Forms.h"
-#include "platform/forms/Layout.h"
 #include "screens/AirPropertiesCalc.h"
 #include "screens/CoolingLoad1.h"
 #include "screens/HeatingLoad1.h"
-#include "screens/Help.h"
 #include "screens/Humid1.h"
 #include "screens/MixedAir.h"
-#include "screens/Shell.h"
 #include "shell/About.h"
 #include "shell/Settings.h"
 #include "shell/Store.h"
@@ -68,9 +65,8 @@ void MainForm::layOut()
 
 void MainForm::buildMenus()
 {
-    mnuFile.add(mnuExit);
-    mnuHelp.add(mnuHSearch);
-    mnuHelp.add(mnuAbout);
+    addEntries(mnuFile, mnuExit);
+    addEntries(mnuHelp, mnuHSearch, mnuAbout);
     addToMenuBar(mnuFile);
     addToMenuBar(mnuOptions);
     addToMenuBar(mnuHelp);
@@ -92,17 +88,10 @@ void MainForm::Form_Load()
     FillUnitTables();
 }
 
-void MainForm::Form_Activate()
-{
-    // Nothing to do on return to the menu.
-}
-
 void MainForm::Form_QueryUnload(CloseReason reason)
 {
-    if (reason == CloseReason::ControlMenu) {
-        Unload();
-        endProcess();
-    }
+    if (reason == CloseReason::ControlMenu)
+        leave();
 }
 
 void MainForm::Form_Unload()
@@ -125,14 +114,11 @@ void MainForm::btnCooling_Click() { open<CoolingLoad1>(); }
 void MainForm::btnHeating_Click() { open<HeatingLoad1>(); }
 void MainForm::btnHumidity_Click() { open<Humid1>(); }
 
-void MainForm::mnuExit_Click()
+void MainForm::leave()
 {
     Unload();
     endProcess();
 }
-
-void MainForm::mnuHSearch_Click() { OpenHelp(*this, HelpTopic::MainPage); }
-void MainForm::mnuAbout_Click() { ShowAbout(); }
 
 void MainForm::mnuOptions_Click()
 {

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "platform/forms/Button.h"
-#include "platform/forms/Form.h"
-#include "platform/forms/Label.h"
-#include "platform/forms/Menu.h"
 #include "platform/forms/Picture.h"
+#include "screens/FormParts.h"
+#include "screens/Help.h"
+#include "screens/Shell.h"
 
 /// The main menu, with one button for each of the five calculators. Only this form ends the process.
 class MainForm : public forms::Form
@@ -14,7 +13,6 @@ public:
 
 protected:
     void Form_Load() override;
-    void Form_Activate() override;
     void Form_QueryUnload(CloseReason reason) override;
     void Form_Unload() override;
 
@@ -24,16 +22,17 @@ private:
 
     template <class Calculator>
     void open();
+    void leave();
 
     void btnAirCalc_Click();
     void btnMixedAir_Click();
     void btnCooling_Click();
     void btnHeating_Click();
     void btnHumidity_Click();
-    void mnuExit_Click();
+    void mnuExit_Click() { leave(); }
     void mnuOptions_Click();
-    void mnuHSearch_Click();
-    void mnuAbout_Click();
+    void mnuHSearch_Click() { OpenHelp(*this, HelpTopic::MainPage); }
+    void mnuAbout_Click() { ShowAbout(); }
 
     Label lblProductName{*this, "lblProductName", "Dunmoor"};
     Label lblProduct{*this, "lblProduct", "Psychrometric Calculator"};

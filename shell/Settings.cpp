@@ -2,7 +2,6 @@
 
 #include "core/MainMod.h"
 #include "platform/forms/MsgBox.h"
-#include "screens/Rows.h"
 #include "shell/Store.h"
 
 using namespace forms;
@@ -77,15 +76,10 @@ Settings::Settings() : Form("Settings", FormKind::Dialog)
 
 void Settings::layOut()
 {
-    auto* const grid = new Grid(*this);
-    grid->setContentsMargins(20, 20, 20, 20);
+    auto* const grid = new Grid(*this, {20, 20, 20, 20}, 12);
     grid->setVerticalSpacing(14);
-    grid->setHorizontalSpacing(12);
-    grid->add(lblUnits, 0, 0);
-    grid->add(Combo1, 0, 1);
-    grid->add(lblBP, 1, 0);
-    grid->add(txtBP, 1, 1);
-    grid->add(Label1, 1, 2);
+    addCells(*grid, 0, {&lblUnits, &Combo1});
+    addCells(*grid, 1, {&lblBP, &txtBP, &Label1});
     grid->setColumnMinimumWidth(2, widthOfCharacters(Label1, 6));
     grid->setColumnStretch(1, 1);
     grid->setRowMinimumHeight(2, 12);
@@ -112,10 +106,8 @@ void Settings::Combo1_Click()
     const UnitChoice& choice = Combo1.text() == english.entry ? english : metric;
     Label1.setCaption(choice.unit);
     txtBP.setText(StoredText(choice.readFrom, choice.missing));
-    nameField();
+    nameWithUnit(txtBP, "Barometric pressure", Label1.caption());
 }
-
-void Settings::nameField() { nameWithUnit(txtBP, "Barometric pressure", Label1.caption()); }
 
 void Settings::btnOK_Click()
 {
@@ -146,5 +138,3 @@ void Settings::btnDefault_Click()
     }
     txtBP.setText(PlainText(BaroPressure));
 }
-
-void Settings::btnCancel_Click() { Unload(); }

@@ -1,10 +1,7 @@
 #pragma once
 
-#include "platform/forms/Button.h"
 #include "platform/forms/DropDownList.h"
-#include "platform/forms/Form.h"
-#include "platform/forms/Label.h"
-#include "platform/forms/TextField.h"
+#include "screens/FormParts.h"
 
 /// The options: the unit system and the barometric pressure.
 class Settings : public forms::Form
@@ -20,10 +17,8 @@ private:
 
     void Combo1_Click();
     void btnOK_Click();
-    void btnCancel_Click();
+    void btnCancel_Click() { Unload(); }
     void btnDefault_Click();
-
-    void nameField();
 
     Label lblUnits{*this, "lblUnits", "  Units"};
     DropDownList Combo1{*this, "Combo1"};

@@ -21,6 +21,13 @@ void setFixedHeight(const Control& control, int height) { control.widget()->setF
 void setLeastHeight(const Control& control, int height) { control.widget()->setMinimumHeight(height); }
 void setLeastWidth(const Control& control, int width) { control.widget()->setMinimumWidth(width); }
 
+void addCells(Grid& grid, int row, std::initializer_list<const Control*> cells)
+{
+    int column = 0;
+    for (const Control* const cell : cells)
+        grid.add(*cell, row, column++);
+}
+
 void setTabOrder(std::initializer_list<const Control*> controls)
 {
     const Control* before = nullptr;

@@ -21,6 +21,14 @@ public:
     explicit ControlLayout(const Form& form) : ToolkitLayout(form.area()) {}
     explicit ControlLayout(const Frame& frame) : ToolkitLayout(frame.widget()) {}
 
+    /// @param gap  between the cells, in pixels
+    template <class Owner>
+    ControlLayout(const Owner& owner, const QMargins& margins, int gap) : ControlLayout(owner)
+    {
+        ToolkitLayout::setContentsMargins(margins);
+        ToolkitLayout::setSpacing(gap);
+    }
+
     /// @param place  as for the toolkit's addWidget: row, column and spans, or a stretch factor
     template <class... Place>
     void add(const Control& control, Place... place)
@@ -32,6 +40,9 @@ public:
 using Grid = ControlLayout<QGridLayout>;
 using Column = ControlLayout<QVBoxLayout>;
 using Line = ControlLayout<QHBoxLayout>;
+
+/// Adds controls to a row, from its first column.
+void addCells(Grid& grid, int row, std::initializer_list<const Control*> cells);
 
 // Sizes in pixels, based on the control's font.
 int widthOfCharacters(const Control& control, int count);

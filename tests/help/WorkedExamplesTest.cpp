@@ -1,7 +1,7 @@
 // Follows the worked examples of the help on the real forms and compares every figure.
 
 #include "platform/ShortDate.h"
-#include "reports/ReportFolders.h"
+#include "reports/ReportFile.h"
 #include "tests/help/WorkedExample.h"
 #include "tests/support/ProgramTest.h"
 

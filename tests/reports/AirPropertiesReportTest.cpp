@@ -1,4 +1,4 @@
-#include "reports/AirPropertiesReport.h"
+#include "reports/Reports.h"
 #include "tests/platform/Pdf.h"
 #include "tests/reports/Reports.h"
 
@@ -24,14 +24,14 @@ protected:
     }
 
     // 70 degrees Fahrenheit and 50 percent, as the calculator shows them
-    AirPropertiesTexts fields{.txtTdb = "70",
-                              .txtTwb = "58.44",
-                              .txttd = "50.5",
-                              .txtRH = "50.0",
-                              .txtW = "0.0077815",
-                              .txtGrains = "54.47",
-                              .txtSpVol = "13.5140",
-                              .txth = "25.309"};
+    AirBlock fields{.Tdb = "70",
+                    .Twb = "58.44",
+                    .td = "50.5",
+                    .RH = "50.0",
+                    .W = "0.0077815",
+                    .Grains = "54.47",
+                    .SpVol = "13.5140",
+                    .h = "25.309"};
 };
 
 TEST_F(AirPropertiesReport, ListsTheFieldsInEnglish)
@@ -43,27 +43,26 @@ TEST_F(AirPropertiesReport, ListsTheFieldsInEnglish)
 TEST_F(AirPropertiesReport, ListsTheFieldsInMetricWithoutTheGrains)
 {
     inMetric();
-    fields = {.txtTdb = "21.0",
-              .txtTwb = "14.6",
-              .txttd = "10.2",
-              .txtRH = "50",
-              .txtW = "7.73",
-              .txtGrains = "54.1",
-              .txtSpVol = "0.844",
-              .txth = "40.77"};
+    fields = {.Tdb = "21.0",
+              .Twb = "14.6",
+              .td = "10.2",
+              .RH = "50",
+              .W = "7.73",
+              .Grains = "54.1",
+              .SpVol = "0.844",
+              .h = "40.77"};
     EXPECT_EQ(written(), expectedReport("air-properties-metric"));
 }
 
 TEST_F(AirPropertiesReport, LeavesTheValueOfAnEmptyFieldEmpty)
 {
-    fields = AirPropertiesTexts();
-    fields.txtRH = "100.0";
+    fields = {.Tdb = "", .Twb = "", .td = "", .RH = "100.0", .W = "", .Grains = "", .SpVol = "", .h = ""};
     EXPECT_EQ(written(), expectedReport("air-properties-blank"));
 }
 
 TEST_F(AirPropertiesReport, ShowsWhatIsNoNumberAsItStands)
 {
-    fields.txtTwb = "a text";
+    fields.Twb = "a text";
     EXPECT_NE(written().find("\n Wet Bulb Temp =            a text         deg F\n"), std::string::npos);
 }
 
@@ -72,10 +71,10 @@ TEST_F(AirPropertiesReport, StopsBeforeAHumidityThatIsNoNumber)
     const std::string whole = expectedReport("air-properties-english");
     const std::string before = whole.substr(0, whole.find(" Relative"));
     for (const char* text : {"", " ", "a text"}) {
-        fields.txtRH = text;
+        fields.RH = text;
         EXPECT_EQ(written(), before + "(Type mismatch)") << '"' << text << '"';
     }
-    fields.txtRH = "1e39";
+    fields.RH = "1e39";
     EXPECT_EQ(written(PrintedFraction), before + "(Overflow)");
 }
 
@@ -83,7 +82,7 @@ TEST_F(AirPropertiesReport, ReadsTheHumidityAsSingleForThePrinterAndAsDoubleForA
 {
     // 0.25 percent is halfway between 0.2 and 0.3. Divided by 100, it is 0.0025 as a double, to 15 digits,
     // and rounds up. The single, 0.00249999994412065, is below the half.
-    fields.txtRH = "0.25";
+    fields.RH = "0.25";
     EXPECT_EQ(humidityLine(SavedFraction), " Relative Humidity =        0.3%");
     EXPECT_EQ(humidityLine(PrintedFraction), " Relative Humidity =        0.2%");
 }
@@ -100,7 +99,7 @@ TEST_F(AirPropertiesReport, IsSavedToTheFileOfTheUsersChoice)
 
 TEST_F(AirPropertiesReport, IsSavedWithTheHumidityAsDouble)
 {
-    fields.txtRH = "0.25";
+    fields.RH = "0.25";
     dialogs.answer("SaveDialog", saveAs(file("report.txt")));
     SaveAirProperties(form<AnyForm>(), fields);
     EXPECT_NE(bytesOf(file("report.txt")).find("0.3%"), std::string::npos);
@@ -120,7 +119,7 @@ TEST_F(AirPropertiesReport, IsPrintedThroughItsTemporaryFile)
 
 TEST_F(AirPropertiesReport, IsPrintedWithTheHumidityAsSingle)
 {
-    fields.txtRH = "0.25";
+    fields.RH = "0.25";
     dialogs.answer("PrintDialog", printTo(file("report.pdf")));
     PrintAirProperties(form<AnyForm>(), fields);
     EXPECT_NE(bytesOf(base + "/tempdata/Airprop.txt").find("0.2%"), std::string::npos);
@@ -129,12 +128,12 @@ TEST_F(AirPropertiesReport, IsPrintedWithTheHumidityAsSingle)
 TEST_F(AirPropertiesReport, LeavesTheFirstLinesAndBlocksAllLaterReportsWhereTheHumidityIsEmpty)
 {
     const std::string whole = expectedReport("air-properties-english");
-    fields.txtRH = "";
+    fields.RH = "";
     dialogs.answer("SaveDialog", saveAs(file("first.txt")));
     SaveAirProperties(form<AnyForm>(), fields);
     EXPECT_EQ(bytesOf(file("first.txt")), whole.substr(0, whole.find(" Relative")));
 
-    fields.txtRH = "50";
+    fields.RH = "50";
     dialogs.answer("SaveDialog", saveAs(file("second.txt")));
     SaveAirProperties(form<AnyForm>(), fields);
     EXPECT_EQ(bytesOf(file("second.txt")), "(none)");

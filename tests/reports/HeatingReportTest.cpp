@@ -1,6 +1,6 @@
-#include "reports/HeatingReport.h"
 #include "core/HeatingLoads.h"
 #include "platform/Printer.h"
+#include "reports/Reports.h"
 #include "tests/platform/Pdf.h"
 #include "tests/reports/Reports.h"
 

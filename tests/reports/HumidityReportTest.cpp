@@ -1,4 +1,4 @@
-#include "reports/HumidityReport.h"
+#include "reports/Reports.h"
 #include "tests/platform/Pdf.h"
 #include "tests/reports/Reports.h"
 
@@ -31,42 +31,42 @@ protected:
     static void labelInEnglish()
     {
         texts = {};
-        texts.lblSpaceVol = " cubic feet (ft3)";
-        texts.lblAC = " AC";
-        texts.lblOSAFlow2 = " ft3 per min.";
-        texts.lblMassPerHour = " lb. per hr.";
-        texts.lblMassPerDay = " lb. per day";
-        texts.lblFlowPerHour = " gal. per hr.";
-        texts.lblFlowPerDay = " gal. per day";
+        texts.spaceVolume.unit = " cubic feet (ft3)";
+        texts.airChanges.unit = " AC";
+        texts.outsideAir.unit = " ft3 per min.";
+        texts.massPerHour.unit = " lb. per hr.";
+        texts.massPerDay.unit = " lb. per day";
+        texts.flowPerHour.unit = " gal. per hr.";
+        texts.flowPerDay.unit = " gal. per day";
     }
 
     static void labelInMetric()
     {
         inMetric();
         texts = {};
-        texts.lblSpaceVol = " cubic meters";
-        texts.lblAC = "  AC";
-        texts.lblOSAFlow2 = " cubic meters per hour";
-        texts.lblMassPerHour = " kg per hour";
-        texts.lblMassPerDay = " kg per day";
-        texts.lblFlowPerHour = " liters per hour";
-        texts.lblFlowPerDay = " liters per day";
+        texts.spaceVolume.unit = " cubic meters";
+        texts.airChanges.unit = "  AC";
+        texts.outsideAir.unit = " cubic meters per hour";
+        texts.massPerHour.unit = " kg per hour";
+        texts.massPerDay.unit = " kg per day";
+        texts.flowPerHour.unit = " liters per hour";
+        texts.flowPerDay.unit = " liters per day";
     }
 
     static void enterSpace(const char* volume, const char* airChanges, const char* outsideAir)
     {
-        texts.txtVol = volume;
-        texts.txtAC = airChanges;
-        texts.txtOSA = outsideAir;
+        texts.spaceVolume.value = volume;
+        texts.airChanges.value = airChanges;
+        texts.outsideAir.value = outsideAir;
     }
 
     static void showMoisture(const char* massPerHour, const char* massPerDay, const char* flowPerHour,
                              const char* flowPerDay)
     {
-        texts.txtMassPerHour = massPerHour;
-        texts.txtMassPerDay = massPerDay;
-        texts.txtFlowPerHour = flowPerHour;
-        texts.txtFlowPerDay = flowPerDay;
+        texts.massPerHour.value = massPerHour;
+        texts.massPerDay.value = massPerDay;
+        texts.flowPerHour.value = flowPerHour;
+        texts.flowPerDay.value = flowPerDay;
     }
 
     static void solveAirInEnglish()

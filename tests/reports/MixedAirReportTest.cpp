@@ -1,4 +1,4 @@
-#include "reports/MixedAirReport.h"
+#include "reports/Reports.h"
 #include "tests/platform/Pdf.h"
 #include "tests/reports/Reports.h"
 

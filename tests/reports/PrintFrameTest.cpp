@@ -1,5 +1,4 @@
-#include "reports/PrintFrame.h"
-#include "reports/SaveFrame.h"
+#include "reports/Commands.h"
 #include "tests/platform/Pdf.h"
 #include "tests/reports/Reports.h"
 

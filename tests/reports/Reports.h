@@ -1,9 +1,8 @@
 #pragma once
 
 #include "core/MainMod.h"
+#include "reports/Commands.h"
 #include "reports/ReportFile.h"
-#include "reports/ReportFolders.h"
-#include "reports/ReportWriter.h"
 #include "tests/platform/AnyForm.h"
 #include "tests/platform/Dialogs.h"
 

@@ -1,4 +1,4 @@
-#include "reports/SaveFrame.h"
+#include "reports/Commands.h"
 #include "tests/reports/Reports.h"
 #include "tests/support/FullDisk.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reports/ReportFolders.h"
+#include "reports/ReportFile.h"
 #include "tests/platform/Dialogs.h"
 #include "tests/support/ProgramTest.h"
 

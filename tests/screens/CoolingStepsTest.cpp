@@ -1,4 +1,4 @@
-#include "reports/ReportFolders.h"
+#include "reports/ReportFile.h"
 #include "tests/platform/Dialogs.h"
 #include "tests/screens/CoolingFixture.h"
 

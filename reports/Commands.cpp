@@ -1,19 +1,21 @@
-#include "reports/PrintFrame.h"
+#include "reports/Commands.h"
 
 #include "core/RunTimeError.h"
 #include "platform/PrintDialog.h"
+#include "platform/SaveDialog.h"
 #include "reports/ReportFile.h"
-#include "reports/ReportFolders.h"
 
 #include <exception>
 
 using namespace forms;
 
+using namespace std::string_view_literals;
+
 namespace {
 
-void WriteTemporaryFile(const std::string& path, const WriteReport& writeReport)
+void WriteFile(const std::string& path, Links links, const WriteReport& writeReport)
 {
-    ReportFile.openForOutput(path, Links::Refuse);
+    ReportFile.openForOutput(path, links);
     ReportWriter report([](const std::string& line) { ReportFile.writeLine(line); });
     writeReport(report);
     ReportFile.close();
@@ -42,8 +44,19 @@ void PrintReport(const Form& owner, const std::string& temporaryFile, const Writ
         const std::string path = TempFolder() + '/' + temporaryFile;
         if (font)
             CurrentPrinter().setFont(*font);
-        WriteTemporaryFile(path, writeReport);
+        WriteFile(path, Links::Refuse, writeReport);
         PrintFile(path);
+    } catch (const std::exception&) {
+        // Intentional: failures are not reported.
+    }
+}
+
+void SaveReport(const Form& owner, const std::string& title, const WriteReport& writeReport)
+{
+    try {
+        const std::string folder = DataFolder();
+        const std::string path = ShowSaveDialog(owner, "All Files (*.*)\0*.*\0"sv, title, folder);
+        WriteFile(path, Links::Follow, writeReport); // throws on Cancel, which gives an empty path
     } catch (const std::exception&) {
         // Intentional: failures are not reported.
     }

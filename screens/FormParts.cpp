@@ -1,4 +1,4 @@
-#include "screens/Rows.h"
+#include "screens/FormParts.h"
 
 #include <QString>
 
@@ -17,21 +17,17 @@ constexpr double linesPerRow = 2;
 
 void addRow(Grid& grid, int line, const Row& row)
 {
-    int column = 0;
-    for (const Control* const cell :
-         std::initializer_list<const Control*>{&row.caption, &row.field, &row.unit}) {
+    const std::initializer_list<const Control*> cells{&row.caption, &row.field, &row.unit};
+    for (const Control* const cell : cells)
         setFixedHeight(*cell, heightOfLines(*cell, linesPerRow));
-        grid.add(*cell, line, column++);
-    }
+    addCells(grid, line, cells);
     row.caption.describe(row.field);
 }
 
 void layOutInFrame(Frame& frame, const std::vector<Row>& rows)
 {
-    auto* const grid = new Grid(frame);
+    auto* const grid = new Grid(frame, {16, 14, 16, 14}, 10);
     grid->setVerticalSpacing(11);
-    grid->setHorizontalSpacing(10);
-    grid->setContentsMargins(16, 14, 16, 14);
     int line = 0;
     for (const Row& row : rows)
         addRow(*grid, line++, row);
@@ -44,9 +40,7 @@ void layOutInFrame(Frame& frame, const std::vector<Row>& rows)
 
 void layOutPairs(Frame& frame, const std::vector<Pair>& pairs)
 {
-    auto* const grid = new Grid(frame);
-    grid->setVerticalSpacing(6);
-    grid->setContentsMargins(14, 12, 14, 14);
+    auto* const grid = new Grid(frame, {14, 12, 14, 14}, 6);
     int line = 0;
     for (const Pair& pair : pairs) {
         setFixedHeight(pair.field, heightOfLines(pair.field, linesPerRow));
@@ -54,20 +48,6 @@ void layOutPairs(Frame& frame, const std::vector<Pair>& pairs)
         grid->add(pair.unit, line++, 0);
         grid->add(pair.field, line++, 0);
     }
-}
-
-void layOutBelowBanner(const Form& form, Frame& banner, Grid& panel)
-{
-    banner.showCaptionAlone();
-    auto* const line = new Line;
-    line->setContentsMargins(16, 0, 16, 0);
-    line->add(banner);
-
-    auto* const whole = new Column(form);
-    whole->setContentsMargins(0, 12, 0, 0);
-    whole->setSpacing(0);
-    whole->addLayout(line);
-    whole->addLayout(&panel, 1);
 }
 
 Line* buttonRow(std::initializer_list<Button*> left, std::initializer_list<Button*> right)
@@ -82,11 +62,21 @@ Line* buttonRow(std::initializer_list<Button*> left, std::initializer_list<Butto
     return row;
 }
 
-void colourEntry(TextField& field, Colour colour)
+void colourLabels(std::initializer_list<Label*> labels, Colour colour)
 {
-    field.setBackColour(colour);
-    field.setForeColour(Colours::Black);
-    field.alignRight();
+    for (Label* label : labels) {
+        label->setBackColour(colour);
+        label->setForeColour(Colours::Black);
+    }
+}
+
+void colourEntries(std::initializer_list<TextField*> fields, Colour colour)
+{
+    for (TextField* field : fields) {
+        field->setBackColour(colour);
+        field->setForeColour(Colours::Black);
+        field->alignRight();
+    }
 }
 
 void nameWithUnit(Control& field, const std::string& what, const std::string& unit)

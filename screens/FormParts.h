@@ -1,14 +1,18 @@
 #pragma once
 
 #include "platform/forms/Button.h"
+#include "platform/forms/Form.h"
 #include "platform/forms/Frame.h"
 #include "platform/forms/Label.h"
 #include "platform/forms/Layout.h"
+#include "platform/forms/Menu.h"
 #include "platform/forms/TextField.h"
 
 #include <initializer_list>
 #include <string>
 #include <vector>
+
+// What the forms are made of: controls, layouts, and the helpers below.
 
 /// One row of a frame: a caption, its field and the unit beside it.
 struct Row
@@ -34,15 +38,22 @@ void layOutInFrame(forms::Frame& frame, const std::vector<Row>& rows);
 /// Lays out fields in a column, each with its unit.
 void layOutPairs(forms::Frame& frame, const std::vector<Pair>& pairs);
 
-/// Lays out a form as a panel below an empty frame, whose caption is an instruction.
-void layOutBelowBanner(const forms::Form& form, forms::Frame& banner, forms::Grid& panel);
-
 /// The row of buttons at the bottom of a dialog, some at the left edge and some at the right.
 forms::Line* buttonRow(std::initializer_list<forms::Button*> left,
                        std::initializer_list<forms::Button*> right);
 
-/// Gives a field a light background, black text and right alignment.
-void colourEntry(forms::TextField& field, forms::Colour colour);
+/// Adds entries to a menu, from the top.
+template <class... Entries>
+void addEntries(forms::Menu& menu, Entries&... entries)
+{
+    (menu.add(entries), ...);
+}
+
+/// Gives labels a background and black text.
+void colourLabels(std::initializer_list<forms::Label*> labels, forms::Colour colour);
+
+/// Gives fields a light background, black text and right alignment.
+void colourEntries(std::initializer_list<forms::TextField*> fields, forms::Colour colour);
 
 /// Sets a field's accessible name to its meaning and its unit.
 void nameWithUnit(forms::Control& field, const std::string& what, const std::string& unit);
