@@ -94,7 +94,8 @@ QStringList tableRow(const Published& published)
     const double real = published.cells[2].contains("twb=") ? workOutFromWetBulb(published)
                                                             : workOutDryOrSaturated(published);
     const double deviation = real - published.figure().toDouble();
-    QStringList row = published.cells.mid(0, 5);
+    QStringList row = published.cells.mid(0, 3);
+    row << published.figure() + ' ' + published.cells[4];
     if (published.isAbsolute()) {
         const int decimals = published.decimals() + 2;
         row << QString::asprintf("%.*f", decimals, real) << QString::asprintf("%+.*f", decimals, deviation);
@@ -106,19 +107,22 @@ QStringList tableRow(const Published& published)
     return row;
 }
 
+/// The rows of both tables, the Metric ones first, each with its unit system.
 std::vector<QStringList> rowsOfPage()
 {
     const HelpElement page = readHelpPage("numbers.html");
     std::vector<QStringList> rows;
-    for (const HelpElement* table : page.all("table")) {
-        if (table->attributes.value("id") != "deviations")
-            continue;
-        for (const HelpElement* line : table->all("tr")) {
-            QStringList row;
-            for (const HelpElement* cell : line->all("td"))
-                row << cell->words();
-            if (!row.isEmpty())
-                rows.push_back(row);
+    for (const QString system : {"Metric", "English"}) {
+        for (const HelpElement* table : page.all("table")) {
+            if (table->attributes.value("id") != "deviations-" + system.toLower())
+                continue;
+            for (const HelpElement* line : table->all("tr")) {
+                QStringList row{system};
+                for (const HelpElement* cell : line->all("td"))
+                    row << cell->words();
+                if (row.size() > 1)
+                    rows.push_back(row);
+            }
         }
     }
     return rows;
