@@ -1,7 +1,5 @@
 #include "screens/AirPanel.h"
 
-#include <QWidget>
-
 using namespace forms;
 
 AirPanel::AirPanel(const std::string& name, const PanelRules& panelRules)
@@ -9,6 +7,7 @@ AirPanel::AirPanel(const std::string& name, const PanelRules& panelRules)
 {
     connectHandlers();
     layOutRows();
+    helpEntry.setShortcut("F1");
 }
 
 void AirPanel::connectHandlers()
@@ -33,28 +32,19 @@ void AirPanel::connectHandlers()
     }
     txth.onKeyPress([this](int& key) { txth_KeyPress(key); });
     txtSpVol.onKeyPress([this](int& key) { txtSpVol_KeyPress(key); });
-    btnCALCULATE.onClick([this] { btnCALCULATE_Click(); });
-}
-
-void AirPanel::setEnabled(const PanelButtons& named, bool enabled)
-{
-    for (const char* const name : named) {
-        if (name != nullptr)
-            control(name)->setEnabled(enabled);
-    }
 }
 
 void AirPanel::itemChanged(const char* selector)
 {
     btnCALCULATE.enable();
-    setEnabled(rules.offOnChange, false);
+    setEnabled(switched.offOnChange, false);
     HumiditySelector = selector;
 }
 
 void AirPanel::itemClicked(std::initializer_list<TextField*> othersInOrder, const char* selector)
 {
     btnCALCULATE.enable();
-    setEnabled(rules.offOnClick, false);
+    setEnabled(switched.offOnClick, false);
     for (TextField* other : othersInOrder)
         other->clear();
     txth.clear();
@@ -78,21 +68,14 @@ void AirPanel::txtTdb_KeyPress(int& key)
 
 void AirPanel::buildMenus(Menu* ownMenu)
 {
-    addEntries(mnuFile, mnuPrintDialog, mnuSave, fileSeparator, mnuExit);
-    addEntries(mnuHelp1, helpEntry, mnuHSearch, mnuAbout);
-    addToMenuBar(mnuFile);
-    addToMenuBar(mnuMain1);
+    mnuFile.add(mnuPrintDialog, mnuSave, fileSeparator, mnuExit);
+    mnuHelp1.add(helpEntry, mnuHSearch, mnuAbout);
+    addToMenuBar(mnuFile, mnuMain1);
     if (ownMenu != nullptr)
         addToMenuBar(*ownMenu);
     addToMenuBar(mnuHelp1);
 
-    mnuPrintDialog.onClick([this] { mnuPrintDialog_Click(); });
-    mnuSave.onClick([this] { mnuSave_Click(); });
-    mnuExit.onClick([this] { mnuExit_Click(); });
-    mnuMain1.onClick([this] { mnuMain1_Click(); });
     helpEntry.onClick([this] { OpenHelp(*this, rules.helpEntry.topic); });
-    mnuHSearch.onClick([this] { mnuHSearch_Click(); });
-    mnuAbout.onClick([this] { mnuAbout_Click(); });
 }
 
 void AirPanel::Form_QueryUnload(CloseReason reason)

@@ -5,10 +5,12 @@
 #include "screens/PanelRules.h"
 #include "screens/Shell.h"
 
+#include <vector>
+
 /// The air-state panel that the calculators share: a dry bulb, the pressure, one of five humidity items, and
 /// a button that solves the complete state and writes it back to the same fields.
 ///
-/// PanelRules.h describes the differences between the calculators.
+/// PanelRules.h describes the differences between the calculators. Each form sets its own buttons.
 class AirPanel : public forms::Form
 {
     const PanelRules& rules; // first, because the controls get their captions from it
@@ -47,6 +49,18 @@ protected:
     /// Called by RepaintForm for the form's own controls.
     virtual void repaintExtras() {}
 
+    /// The buttons that the panel switches, set by each form.
+    struct Switched
+    {
+        std::vector<Button*> offOnChange = {};      ///< disabled when a humidity field changes
+        std::vector<Button*> offOnClick = {};       ///< disabled by a click on a humidity field
+        std::vector<Button*> offAtCalculation = {}; ///< disabled when a calculation begins
+        std::vector<Button*> offAfterwards = {}; ///< disabled after the solver, even if it refused the input
+        std::vector<Button*> onAfterwards = {};  ///< enabled at the same time
+        Button* focusAfterwards = nullptr;       ///< gets the focus then
+    };
+    Switched switched;
+
     Frame Frame5{*this, "Frame5", rules.actions};
     Frame Frame3{*this, "Frame3"};
     Frame Frame2{*this, "Frame2", rules.dryBulbFrame};
@@ -82,18 +96,18 @@ protected:
     TextField txtSpVol{*this, "txtSpVol"};
     Label lblSpVol2{*this, "lblSpVol2"};
 
-    Button btnCALCULATE{*this, "btnCALCULATE", "Calculate Properties"};
+    Button btnCALCULATE{*this, "btnCALCULATE", "Calculate Properties", [this] { btnCALCULATE_Click(); }};
 
     Menu mnuFile{*this, "mnuFile", "&File"};
-    MenuCommand mnuPrintDialog{*this, "mnuPrintDialog", "&Print Results"};
-    MenuCommand mnuSave{*this, "mnuSave", rules.saveCaption};
+    MenuCommand mnuPrintDialog{*this, "mnuPrintDialog", "&Print Results", [this] { mnuPrintDialog_Click(); }};
+    MenuCommand mnuSave{*this, "mnuSave", rules.saveCaption, [this] { mnuSave_Click(); }};
     MenuSeparator fileSeparator{*this, rules.fileSeparator};
-    MenuCommand mnuExit{*this, "mnuExit", "E&xit"};
-    MenuCommand mnuMain1{*this, "mnuMain1", "&Main Menu"};
+    MenuCommand mnuExit{*this, "mnuExit", "E&xit", [this] { mnuExit_Click(); }};
+    MenuCommand mnuMain1{*this, "mnuMain1", "&Main Menu", [this] { mnuMain1_Click(); }};
     Menu mnuHelp1{*this, "mnuHelp1", "&Help"};
     MenuCommand helpEntry{*this, rules.helpEntry.name, rules.helpEntry.caption};
-    MenuCommand mnuHSearch{*this, "mnuHSearch", rules.searchCaption};
-    MenuCommand mnuAbout{*this, "mnuAbout", "&About Dunmoor"};
+    MenuCommand mnuHSearch{*this, "mnuHSearch", rules.searchCaption, [this] { mnuHSearch_Click(); }};
+    MenuCommand mnuAbout{*this, "mnuAbout", "&About Dunmoor", [this] { mnuAbout_Click(); }};
 
 private:
     void connectHandlers();
@@ -136,5 +150,4 @@ private:
     void solveRelativeHumidityItem();
     void solveHumidityRatioItem();
     void solveGrainsItem();
-    void setEnabled(const PanelButtons& named, bool enabled);
 };

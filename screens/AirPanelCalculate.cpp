@@ -42,7 +42,7 @@ void AirPanel::refuseInput()
 void AirPanel::calculate()
 {
     RepaintForm();
-    setEnabled(rules.offAtCalculation, false);
+    setEnabled(switched.offAtCalculation, false);
     StatePoint.Tdb = ParseSingle(txtTdb.text());
     if (StatePoint.Tdb < lowestTdb || StatePoint.Tdb > highestTdb) {
         btnCALCULATE.disable();
@@ -62,10 +62,10 @@ void AirPanel::calculate()
 /// Also runs after a refused humidity ratio, so that the user can continue with the refused state.
 void AirPanel::finishCalculation()
 {
-    setEnabled(rules.offAfterwards, false);
-    setEnabled(rules.onAfterwards, true);
-    if (rules.focusAfterwards != nullptr)
-        control(rules.focusAfterwards)->setFocus(Qt::OtherFocusReason);
+    setEnabled(switched.offAfterwards, false);
+    setEnabled(switched.onAfterwards, true);
+    if (switched.focusAfterwards != nullptr)
+        switched.focusAfterwards->takeFocus();
 }
 
 void AirPanel::showResults()

@@ -46,6 +46,7 @@ void AirPanel::layOutRows()
 void AirPanel::placeScreen()
 {
     setSize(8000, 6600);
+    keepTogether();
     placeInTheMiddle(4);
 }
 

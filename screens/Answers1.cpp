@@ -75,7 +75,7 @@ Answers1::Answers1() : Form("Answers1", FormKind::Screen)
 {
     placeHeadings();
     buildMenus();
-    btnOK.onClick([this] { btnOK_Click(); });
+    onHelpKey([this] { OpenHelp(*this, HelpTopic::MixedAir); });
 }
 
 Answers1::Cells Answers1::makeCells(const std::string& arrayName)
@@ -115,6 +115,7 @@ void Answers1::placeHeadings()
         placeText(heading, columnLeft[column], 105, cellWidth, headingColour, 540);
         heading.setCaption(headings[column]);
         heading.setWrapped();
+        heading.center();
     }
 }
 
@@ -130,22 +131,15 @@ void Answers1::placeRow(TableRow& row, Twips top)
 
 void Answers1::buildMenus()
 {
-    addEntries(mnuFile, mnuPrintResults, mnuSave2File, mnusep2, mnuPrevious, mnusep3, mnuExit);
-    addEntries(mnuhelp, mnuHContents, mnuAbout);
-    addToMenuBar(mnuFile);
-    addToMenuBar(mnuhelp);
-
-    mnuPrintResults.onClick([this] { mnuPrintResults_Click(); });
-    mnuSave2File.onClick([this] { mnuSave2File_Click(); });
-    mnuPrevious.onClick([this] { mnuPrevious_Click(); });
-    mnuExit.onClick([this] { mnuExit_Click(); });
-    mnuHContents.onClick([this] { mnuHContents_Click(); });
-    mnuAbout.onClick([this] { mnuAbout_Click(); });
+    mnuFile.add(mnuPrintResults, mnuSave2File, mnusep2, mnuPrevious, mnusep3, mnuExit);
+    mnuhelp.add(mnuHContents, mnuAbout);
+    addToMenuBar(mnuFile, mnuhelp);
 }
 
 void Answers1::Form_Load()
 {
     setSize(8000, 6600);
+    keepTogether();
     placeInTheMiddle(4);
     RepaintForm();
 }

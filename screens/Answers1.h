@@ -77,16 +77,18 @@ private:
 
     Cells lblHeading = makeCells("lblHeading");
     std::deque<TableRow> rows = makeRows();
-    Button btnOK{*this, "btnOK", "OK"};
+    Button btnOK{*this, "btnOK", "OK", [this] { btnOK_Click(); }};
 
     Menu mnuFile{*this, "mnuFile", "&File"};
-    MenuCommand mnuPrintResults{*this, "mnuPrintResults", "&Print Results"};
-    MenuCommand mnuSave2File{*this, "mnuSave2File", "&Save Results to File"};
+    MenuCommand mnuPrintResults{*this, "mnuPrintResults", "&Print Results",
+                                [this] { mnuPrintResults_Click(); }};
+    MenuCommand mnuSave2File{*this, "mnuSave2File", "&Save Results to File",
+                             [this] { mnuSave2File_Click(); }};
     MenuSeparator mnusep2{*this, "mnusep2"};
-    MenuCommand mnuPrevious{*this, "mnuPrevious", "&Previous Screen"};
+    MenuCommand mnuPrevious{*this, "mnuPrevious", "&Previous Screen", [this] { mnuPrevious_Click(); }};
     MenuSeparator mnusep3{*this, "mnusep3"};
-    MenuCommand mnuExit{*this, "mnuExit", "E&xit"};
+    MenuCommand mnuExit{*this, "mnuExit", "E&xit", [this] { mnuExit_Click(); }};
     Menu mnuhelp{*this, "mnuhelp", "&Help"};
-    MenuCommand mnuHContents{*this, "mnuHContents", "&Contents"};
-    MenuCommand mnuAbout{*this, "mnuAbout", "&About Dunmoor"};
+    MenuCommand mnuHContents{*this, "mnuHContents", "&Contents", [this] { mnuHContents_Click(); }};
+    MenuCommand mnuAbout{*this, "mnuAbout", "&About Dunmoor", [this] { mnuAbout_Click(); }};
 };

@@ -12,11 +12,12 @@ CoolingLoad1::CoolingLoad1() : AirPanel("CoolingLoad1", coolingLoad1)
 {
     layOut();
     buildMenus();
-    helpEntry.setShortcut("F1");
     setDefaultButton(btnCALCULATE);
-    btnSaveEA.onClick([this] { btnSaveEA_Click(); });
-    btnSetLA.onClick([this] { btnSetLA_Click(); });
-    btnCalcLoad.onClick([this] { btnCalcLoad_Click(); });
+    switched = {.offOnClick = {&btnSaveEA, &btnSetLA, &btnCalcLoad},
+                .offAtCalculation = {&btnSetLA, &btnCalcLoad},
+                .offAfterwards = {&btnCALCULATE},
+                .onAfterwards = {&btnSaveEA},
+                .focusAfterwards = &btnSaveEA};
 }
 
 void CoolingLoad1::layOut()
@@ -31,8 +32,7 @@ void CoolingLoad1::layOut()
 void CoolingLoad1::Form_Load()
 {
     placeScreen();
-    for (Button* button : {&btnCALCULATE, &btnSaveEA, &btnSetLA, &btnCalcLoad})
-        button->disable();
+    setEnabled({&btnCALCULATE, &btnSaveEA, &btnSetLA, &btnCalcLoad}, false);
     LeavingAirAccepted = False16;
     RepaintForm();
 }
@@ -42,8 +42,7 @@ void CoolingLoad1::btnSaveEA_Click()
     form<cfmForm>().ShowModal();
     CoolingEnteringAir = AirSnapshot::of(StatePoint, AirVolume);
     CoolingEnteringAir.td = RoundToScale(StatePoint.td, 10); // the only dew point that is rounded
-    for (Button* button : {&btnCALCULATE, &btnSaveEA, &btnCalcLoad})
-        button->disable();
+    setEnabled({&btnCALCULATE, &btnSaveEA, &btnCalcLoad}, false);
     btnSetLA.enable();
     btnSetLA.takeFocus();
     Frame6.setCaption("Verify Entering Air Conditions ... then click Set Leaving Air");
@@ -93,8 +92,7 @@ void CoolingLoad1::keepLeavingAir()
     Frame6.setCaption("Cooling Coil Leaving Air Conditions:");
     Frame1.setCaption(""); // never restored
     Frame2.setCaption("");
-    for (Button* button : {&btnCALCULATE, &btnSaveEA, &btnSetLA})
-        button->disable();
+    setEnabled({&btnCALCULATE, &btnSaveEA, &btnSetLA}, false);
     btnCalcLoad.enable();
     btnCalcLoad.takeFocus();
 }

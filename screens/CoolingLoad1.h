@@ -26,7 +26,7 @@ private:
     void keepLeavingAir();
 
     Frame Frame6{*this, "Frame6"}; // its caption is the step message
-    Button btnSaveEA{*this, "btnSaveEA", "Save Entering Air"};
-    Button btnSetLA{*this, "btnSetLA", "Set Leaving Air"};
-    Button btnCalcLoad{*this, "btnCalcLoad", "Calculate Load"};
+    Button btnSaveEA{*this, "btnSaveEA", "Save Entering Air", [this] { btnSaveEA_Click(); }};
+    Button btnSetLA{*this, "btnSetLA", "Set Leaving Air", [this] { btnSetLA_Click(); }};
+    Button btnCalcLoad{*this, "btnCalcLoad", "Calculate Load", [this] { btnCalcLoad_Click(); }};
 };

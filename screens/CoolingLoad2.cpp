@@ -1,15 +1,15 @@
 #include "screens/CoolingLoad2.h"
 
+#include "screens/Help.h"
 using namespace forms;
 
 CoolingLoad2::CoolingLoad2() : Form("CoolingLoad2", FormKind::Dialog)
 {
     setCaption("Cooling Leaving Air Temp");
-    layOut();
+    layOut(); // intentional: OK is no default button, and Esc doesn't press Cancel
+    onHelpKey([this] { OpenHelp(*this, HelpTopic::Cooling); });
     txtLATdb.onChange([this] { txtLATdb_Change(); });
     txtLATdb.onKeyPress([this](int& key) { txtLATdb_KeyPress(key); });
-    btnOK.onClick([this] { btnOK_Click(); });
-    btnCancel.onClick([this] { btnCancel_Click(); });
 }
 
 void CoolingLoad2::layOut()

@@ -38,6 +38,6 @@ private:
     Label Label4{*this, "Label4", " L.A.T.(wet bulb):"};
     TextField txtLATwb{*this, "txtLATwb"};
     Label Label5{*this, "Label5"};
-    Button btnOK{*this, "btnOK", "OK"};
-    Button btnCancel{*this, "btnCancel", "CANCEL"};
+    Button btnOK{*this, "btnOK", "OK", [this] { btnOK_Click(); }};
+    Button btnCancel{*this, "btnCancel", "CANCEL", [this] { btnCancel_Click(); }};
 };

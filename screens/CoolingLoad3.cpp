@@ -3,13 +3,16 @@
 #include "core/MainMod.h"
 #include "platform/forms/Forms.h"
 #include "screens/CoolingLoad1.h"
+#include "screens/Help.h"
 
 using namespace forms;
 
 CoolingLoad3::CoolingLoad3() : Form("CoolingLoad3", FormKind::Dialog)
 {
     layOut();
-    Command1.onClick([this] { Command1_Click(); });
+    setDefaultButton(Command1);
+    closeOnEsc();
+    onHelpKey([this] { OpenHelp(*this, HelpTopic::Cooling); });
 }
 
 void CoolingLoad3::layOut()

@@ -35,5 +35,5 @@ private:
     Label Label4{*this, "Label4", "+"};
     Rule Line1{*this, "Line1"};
     Label Label5{*this, "Label5", "="};
-    Button Command1{*this, "Command1", "OK"};
+    Button Command1{*this, "Command1", "OK", [this] { Command1_Click(); }};
 };

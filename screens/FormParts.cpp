@@ -62,6 +62,12 @@ Line* buttonRow(std::initializer_list<Button*> left, std::initializer_list<Butto
     return row;
 }
 
+void setEnabled(const std::vector<Button*>& buttons, bool enabled)
+{
+    for (Button* const button : buttons)
+        button->setEnabled(enabled);
+}
+
 void colourLabels(std::initializer_list<Label*> labels, Colour colour)
 {
     for (Label* label : labels) {

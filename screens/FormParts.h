@@ -42,12 +42,7 @@ void layOutPairs(forms::Frame& frame, const std::vector<Pair>& pairs);
 forms::Line* buttonRow(std::initializer_list<forms::Button*> left,
                        std::initializer_list<forms::Button*> right);
 
-/// Adds entries to a menu, from the top.
-template <class... Entries>
-void addEntries(forms::Menu& menu, Entries&... entries)
-{
-    (menu.add(entries), ...);
-}
+void setEnabled(const std::vector<forms::Button*>& buttons, bool enabled);
 
 /// Gives labels a background and black text.
 void colourLabels(std::initializer_list<forms::Label*> labels, forms::Colour colour);

@@ -11,8 +11,9 @@ HeatingLoad1::HeatingLoad1() : AirPanel("HeatingLoad1", heatingLoad1)
 {
     layOut();
     buildMenus();
-    btnSaveEnteringAir.onClick([this] { btnSaveEnteringAir_Click(); });
-    btnInputLeavingAir.onClick([this] { btnInputLeavingAir_Click(); });
+    switched = {.offOnClick = {&btnSaveEnteringAir, &btnInputLeavingAir},
+                .offAfterwards = {&btnCALCULATE},
+                .onAfterwards = {&btnSaveEnteringAir, &btnInputLeavingAir}};
     txtAirVolume.onChange([this] { txtAirVolume_Change(); });
     txtHeatLoad.onKeyPress([this](int& key) { txtHeatLoad_KeyPress(key); });
 }
@@ -33,8 +34,7 @@ void HeatingLoad1::Form_Load()
     ClearStatePoint();
     placeScreen();
     form<cfmForm>();
-    for (Button* button : {&btnCALCULATE, &btnSaveEnteringAir, &btnInputLeavingAir})
-        button->disable();
+    setEnabled({&btnCALCULATE, &btnSaveEnteringAir, &btnInputLeavingAir}, false);
     RepaintForm();
     nameWithUnit(txtAirVolume, "Air volume", IsMetric() ? "cubic meter per hour" : "CFM");
     nameWithUnit(txtHeatLoad, "Heating load", IsMetric() ? "kW" : "BTU");

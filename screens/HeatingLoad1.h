@@ -29,8 +29,10 @@ private:
     void showLoad();
 
     Frame Frame6{*this, "Frame6", "Set Entering Air Conditions ... then click 'Entering Air'"};
-    Button btnSaveEnteringAir{*this, "btnSaveEnteringAir", "Save Entering Air"};
-    Button btnInputLeavingAir{*this, "btnInputLeavingAir", "Input Leaving Air"};
+    Button btnSaveEnteringAir{*this, "btnSaveEnteringAir", "Save Entering Air",
+                              [this] { btnSaveEnteringAir_Click(); }};
+    Button btnInputLeavingAir{*this, "btnInputLeavingAir", "Input Leaving Air",
+                              [this] { btnInputLeavingAir_Click(); }};
     Frame Frame4{*this, "Frame4"};
     TextField txtAirVolume{*this, "txtAirVolume"};
     Label lblAirVolume{*this, "lblAirVolume"};

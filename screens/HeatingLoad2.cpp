@@ -4,6 +4,7 @@
 #include "core/MainMod.h"
 #include "platform/forms/Forms.h"
 #include "screens/HeatingLoad1.h"
+#include "screens/Help.h"
 
 using namespace forms;
 
@@ -11,7 +12,9 @@ HeatingLoad2::HeatingLoad2() : Form("HeatingLoad2", FormKind::Dialog)
 {
     setCaption("Leaving Air Temp");
     layOut();
-    btnOK.onClick([this] { btnOK_Click(); });
+    setDefaultButton(btnOK);
+    closeOnEsc();
+    onHelpKey([this] { OpenHelp(*this, HelpTopic::Heating); });
 }
 
 void HeatingLoad2::layOut()

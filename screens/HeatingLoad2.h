@@ -20,5 +20,5 @@ private:
     Label Label3{*this, "Label3", " Leaving Air Temperature:"};
     TextField txtHeatLAT{*this, "txtHeatLAT"};
     Label Label2{*this, "Label2", "degrees"}; // in both unit systems
-    Button btnOK{*this, "btnOK", "OK"};
+    Button btnOK{*this, "btnOK", "OK", [this] { btnOK_Click(); }};
 };

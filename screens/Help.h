@@ -19,3 +19,9 @@ inline void OpenHelp(forms::Form& form, HelpTopic topic)
 {
     HtmlHelpA(form, "dunmoor.chm", HH_HELP_CONTEXT, static_cast<int>(topic));
 }
+
+/// Opens the page about the options, which has no number.
+inline void OpenOptionsHelp(forms::Form& form)
+{
+    HtmlHelpA(form, "dunmoor.chm::/options.html", HH_DISPLAY_TOPIC, 0);
+}

@@ -6,7 +6,9 @@ Humid1::Humid1() : AirPanel("Humid1", humid1)
 {
     layOut();
     buildMenus();
-    btnHumidityDesired.onClick([this] { btnHumidityDesired_Click(); });
+    switched = {.offOnClick = {&btnHumidityDesired},
+                .offAfterwards = {&btnCALCULATE},
+                .onAfterwards = {&btnHumidityDesired}};
 }
 
 void Humid1::layOut()

@@ -32,5 +32,6 @@ private:
     static HumidityTexts readTexts() { return forms::form<humid2>().texts(); }
 
     Frame Frame6{*this, "Frame6", "Calculate Outside Air Properties ... then click 'Humidity Desired'"};
-    Button btnHumidityDesired{*this, "btnHumidityDesired", "Humidity Desired "};
+    Button btnHumidityDesired{*this, "btnHumidityDesired", "Humidity Desired ",
+                              [this] { btnHumidityDesired_Click(); }};
 };

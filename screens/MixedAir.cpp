@@ -10,9 +10,9 @@ MixedAir::MixedAir() : AirPanel("MixedAir", mixedAir)
     layOut();
     buildReviewMenu();
     buildMenus(&mnuReview);
-    btnSaveOSA.onClick([this] { btnSaveOSA_Click(); });
-    btnRA.onClick([this] { btnRA_Click(); });
-    btnMixedAir.onClick([this] { btnMixedAir_Click(); });
+    switched = {.offOnChange = {&btnRA, &btnSaveOSA, &btnMixedAir},
+                .offOnClick = {&btnRA, &btnSaveOSA, &btnMixedAir},
+                .onAfterwards = {&btnSaveOSA, &btnRA}};
     txtcfm1.onChange([this] { txtcfm1_Change(); });
     txtCFM.onKeyPress([this](int& key) { txtCFM_KeyPress(key); });
 }
@@ -27,9 +27,7 @@ void MixedAir::layOut()
 
 void MixedAir::buildReviewMenu()
 {
-    addEntries(mnuReview, mnuReviewOutsideAir, mnuReviewReturnAir, mnuReviewMixedAir);
-    mnuReviewOutsideAir.onClick([this] { mnuReviewOutsideAir_Click(); });
-    mnuReviewReturnAir.onClick([this] { mnuReviewReturnAir_Click(); });
+    mnuReview.add(mnuReviewOutsideAir, mnuReviewReturnAir, mnuReviewMixedAir);
     mnuReview.hide();
     mnuReview.disable();
     mnuReviewMixedAir.disable(); // permanently: the mixture has no review
@@ -41,8 +39,7 @@ void MixedAir::Form_Load()
     RepaintForm();
     placeScreen();
     form<cfmForm>();
-    for (Button* button : {&btnCALCULATE, &btnRA, &btnSaveOSA, &btnMixedAir})
-        button->disable();
+    setEnabled({&btnCALCULATE, &btnRA, &btnSaveOSA, &btnMixedAir}, false);
     setVolumesVisible(false);
     for (TextField* field : {&txtTdb, &txtTwb, &txttd, &txtRH, &txtW, &txtGrains, &txtSpVol, &txth})
         field->clear();

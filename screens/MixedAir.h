@@ -34,9 +34,9 @@ private:
     void offerReview(MenuCommand& stream);
     void showStream(const AirSnapshot& stream, TextField& volume);
 
-    Button btnSaveOSA{*this, "btnSaveOSA", "Save Outside Air"};
-    Button btnRA{*this, "btnRA", "Save Return Air"};
-    Button btnMixedAir{*this, "btnMixedAir", "Calculate Mixed Air"};
+    Button btnSaveOSA{*this, "btnSaveOSA", "Save Outside Air", [this] { btnSaveOSA_Click(); }};
+    Button btnRA{*this, "btnRA", "Save Return Air", [this] { btnRA_Click(); }};
+    Button btnMixedAir{*this, "btnMixedAir", "Calculate Mixed Air", [this] { btnMixedAir_Click(); }};
     Frame Frame4{*this, "Frame4", "Air Volumes:"};
     TextField txtcfm1{*this, "txtcfm1"};
     Label lblcfm1{*this, "lblcfm1"};
@@ -46,7 +46,9 @@ private:
     Label lblcfm3{*this, "lblcfm3"};
 
     Menu mnuReview{*this, "mnuReview", "&Review"};
-    MenuCommand mnuReviewOutsideAir{*this, "mnuReviewOutsideAir", "&Outside Air"};
-    MenuCommand mnuReviewReturnAir{*this, "mnuReviewReturnAir", "&Return Air"};
+    MenuCommand mnuReviewOutsideAir{*this, "mnuReviewOutsideAir", "&Outside Air",
+                                    [this] { mnuReviewOutsideAir_Click(); }};
+    MenuCommand mnuReviewReturnAir{*this, "mnuReviewReturnAir", "&Return Air",
+                                   [this] { mnuReviewReturnAir_Click(); }};
     MenuCommand mnuReviewMixedAir{*this, "mnuReviewMixedAir", "&Mixed Air"};
 };

@@ -2,8 +2,6 @@
 
 #include "screens/Help.h"
 
-#include <array>
-
 /// A number that differs between the two unit systems.
 struct ByUnits
 {
@@ -42,9 +40,6 @@ struct PanelLabels
     RowLabel specificVolume = {"lblSpVol1", "specific volume, v"};
 };
 
-/// The names of up to three of the form's buttons.
-using PanelButtons = std::array<const char*, 3>;
-
 /// The differences between the calculators with an air-state panel, one set for each form. A value that most
 /// of them share is the default.
 struct PanelRules
@@ -75,13 +70,6 @@ struct PanelRules
     /// A wet bulb or dew point that is not below the dry bulb is set this far below it.
     ByUnits wetBulbClip = {.english = 0.1, .metric = 0.05};
     ByUnits dewPointClip = {.english = 0.1, .metric = 0.1};
-
-    PanelButtons offOnChange = {};         ///< disabled when a humidity field changes
-    PanelButtons offOnClick = {};          ///< disabled by a click on a humidity field
-    PanelButtons offAtCalculation = {};    ///< disabled when a calculation begins
-    PanelButtons offAfterwards = {};       ///< disabled after the solver, even if it refused the input
-    PanelButtons onAfterwards = {};        ///< enabled at the same time
-    const char* focusAfterwards = nullptr; ///< gets the focus then
 };
 
 inline constexpr PanelRules airPropertiesCalc{
@@ -106,9 +94,6 @@ inline constexpr PanelRules mixedAir{
     .helpEntry = {"mnuHelpMixedAir", "Help for &Mixed Air", HelpTopic::MixedAir},
     .allItemsTellChanges = false,
     .limitsMetricTdb = false, // Metric, too, accepts up to 125 degrees
-    .offOnChange = {"btnRA", "btnSaveOSA", "btnMixedAir"},
-    .offOnClick = {"btnRA", "btnSaveOSA", "btnMixedAir"},
-    .onAfterwards = {"btnSaveOSA", "btnRA"},
 };
 
 inline constexpr PanelRules coolingLoad1{
@@ -131,11 +116,6 @@ inline constexpr PanelRules coolingLoad1{
     .dryBulbFrame = "Enter Entering Air Dry Bulb Temperature:",
     .wetBulbClip = {.english = 0.01, .metric = 0.01},
     .dewPointClip = {.english = 0.01, .metric = 0.01},
-    .offOnClick = {"btnSaveEA", "btnSetLA", "btnCalcLoad"},
-    .offAtCalculation = {"btnSetLA", "btnCalcLoad"},
-    .offAfterwards = {"btnCALCULATE"},
-    .onAfterwards = {"btnSaveEA"},
-    .focusAfterwards = "btnSaveEA",
 };
 
 inline constexpr PanelRules heatingLoad1{
@@ -144,9 +124,6 @@ inline constexpr PanelRules heatingLoad1{
     .helpEntry = {"mnuHelpHeat", "Help for &Heating Loads", HelpTopic::Heating},
     .saveCaption = "&Save Data to File",
     .clickEmptiesTdb = true,
-    .offOnClick = {"btnSaveEnteringAir", "btnInputLeavingAir"},
-    .offAfterwards = {"btnCALCULATE"},
-    .onAfterwards = {"btnSaveEnteringAir", "btnInputLeavingAir"},
 };
 
 inline constexpr PanelRules humid1{
@@ -155,7 +132,4 @@ inline constexpr PanelRules humid1{
     .helpEntry = {"mnuHelpHumidity", "Help for Humidity", HelpTopic::Humidification},
     .actions = "Actions :",
     .dryBulbFrame = "Enter Outside Air Dry Bulb Temperature and Pressure:",
-    .offOnClick = {"btnHumidityDesired"},
-    .offAfterwards = {"btnCALCULATE"},
-    .onAfterwards = {"btnHumidityDesired"},
 };

@@ -10,10 +10,9 @@ cfmForm::cfmForm() : Form("cfmForm", FormKind::Dialog)
     layOut();
     mnuHelp.add(mnuSearch);
     addToMenuBar(mnuHelp);
-    mnuSearch.onClick([this] { mnuSearch_Click(); });
-    btnOK.onClick([this] { btnOK_Click(); });
-    btnCancel.onClick([this] { btnCancel_Click(); });
     setDefaultButton(btnOK);
+    setCancelButton(btnCancel);
+    mnuSearch.setShortcut("F1");
 }
 
 void cfmForm::layOut()
@@ -38,11 +37,11 @@ void cfmForm::Form_Load()
 
 void cfmForm::Form_Activate()
 {
-    txtCFMinput.takeFocus();
     label2.setCaption(IsMetric() ? " cubic meter per hour" : " CFM ");
     if (AirVolumePreset > 0)
         txtCFMinput.setText(PlainText(AirVolumePreset));
     nameWithUnit(txtCFMinput, "Air volume", label2.caption());
+    txtCFMinput.takeFocus(); // last, so that the text is selected
 }
 
 void cfmForm::btnOK_Click()

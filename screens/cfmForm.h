@@ -25,9 +25,9 @@ private:
     Label Label1{*this, "Label1", "Enter the Air Volume:"};
     TextField txtCFMinput{*this, "txtCFMinput"};
     Label label2{*this, "label2"};
-    Button btnOK{*this, "btnOK", "OK"};
-    Button btnCancel{*this, "btnCancel", "Cancel"};
+    Button btnOK{*this, "btnOK", "OK", [this] { btnOK_Click(); }};
+    Button btnCancel{*this, "btnCancel", "Cancel", [this] { btnCancel_Click(); }};
 
     Menu mnuHelp{*this, "mnuHelp", "&Help"};
-    MenuCommand mnuSearch{*this, "mnuSearch", "&Search for Help on ..."};
+    MenuCommand mnuSearch{*this, "mnuSearch", "&Search for Help on ...", [this] { mnuSearch_Click(); }};
 };

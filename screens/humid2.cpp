@@ -9,30 +9,20 @@ humid2::humid2() : Form("humid2", FormKind::Screen)
 {
     layOut();
     buildMenus();
-    btnCalcHumid.onClick([this] { btnCalcHumid_Click(); });
-    btnOK.onClick([this] { btnOK_Click(); });
+    mnuHumid2Help.setShortcut("F1");
 }
 
 void humid2::buildMenus()
 {
-    addEntries(mnuFile, mnuPrint, mnuSave, mnuSpacer, mnuExit);
-    addEntries(mnuHelp, mnuHumid2Help, mnuSearch, mnuAbout);
-    addToMenuBar(mnuFile);
-    addToMenuBar(mnuMain);
-    addToMenuBar(mnuHelp);
-
-    mnuPrint.onClick([this] { mnuPrint_Click(); });
-    mnuSave.onClick([this] { mnuSave_Click(); });
-    mnuExit.onClick([this] { mnuExit_Click(); });
-    mnuMain.onClick([this] { mnuMain_Click(); });
-    mnuHumid2Help.onClick([this] { mnuHumid2Help_Click(); });
-    mnuSearch.onClick([this] { mnuSearch_Click(); });
-    mnuAbout.onClick([this] { mnuAbout_Click(); });
+    mnuFile.add(mnuPrint, mnuSave, mnuSpacer, mnuExit);
+    mnuHelp.add(mnuHumid2Help, mnuSearch, mnuAbout);
+    addToMenuBar(mnuFile, mnuMain, mnuHelp);
 }
 
 void humid2::Form_Load()
 {
     setSize(8000, 6600);
+    keepTogether();
     placeInTheMiddle(4);
     RepaintHumid2();
 }

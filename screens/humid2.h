@@ -74,17 +74,18 @@ private:
     TextField txtFlowPerDay{*this, "txtFlowPerDay"};
     Label lblFlowPerDay{*this, "lblFlowPerDay"};
 
-    Button btnCalcHumid{*this, "btnCalcHumid", "Click Here to Calculate Humidification"};
-    Button btnOK{*this, "btnOK", "Click Here When Done"};
+    Button btnCalcHumid{*this, "btnCalcHumid", "Click Here to Calculate Humidification",
+                        [this] { btnCalcHumid_Click(); }};
+    Button btnOK{*this, "btnOK", "Click Here When Done", [this] { btnOK_Click(); }};
 
     Menu mnuFile{*this, "mnuFile", "&File"};
-    MenuCommand mnuPrint{*this, "mnuPrint", "&Print Results"};
-    MenuCommand mnuSave{*this, "mnuSave", "&Save Results to File"};
+    MenuCommand mnuPrint{*this, "mnuPrint", "&Print Results", [this] { mnuPrint_Click(); }};
+    MenuCommand mnuSave{*this, "mnuSave", "&Save Results to File", [this] { mnuSave_Click(); }};
     MenuSeparator mnuSpacer{*this, "mnuSpacer"};
-    MenuCommand mnuExit{*this, "mnuExit", "E&xit"};
-    MenuCommand mnuMain{*this, "mnuMain", "&Main Menu"};
+    MenuCommand mnuExit{*this, "mnuExit", "E&xit", [this] { mnuExit_Click(); }};
+    MenuCommand mnuMain{*this, "mnuMain", "&Main Menu", [this] { mnuMain_Click(); }};
     Menu mnuHelp{*this, "mnuHelp", "&Help"};
-    MenuCommand mnuHumid2Help{*this, "mnuHumid2Help", "Help for Humidity"};
-    MenuCommand mnuSearch{*this, "mnuSearch", "&Search for Help on ..."};
-    MenuCommand mnuAbout{*this, "mnuAbout", "&About Dunmoor"};
+    MenuCommand mnuHumid2Help{*this, "mnuHumid2Help", "Help for Humidity", [this] { mnuHumid2Help_Click(); }};
+    MenuCommand mnuSearch{*this, "mnuSearch", "&Search for Help on ...", [this] { mnuSearch_Click(); }};
+    MenuCommand mnuAbout{*this, "mnuAbout", "&About Dunmoor", [this] { mnuAbout_Click(); }};
 };

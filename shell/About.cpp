@@ -1,6 +1,7 @@
 #include "shell/About.h"
 
 #include "platform/Launch.h"
+#include "screens/Help.h"
 
 #include <QCoreApplication>
 
@@ -19,10 +20,9 @@ std::string applicationTitle() { return QCoreApplication::applicationName().toSt
 About::About() : Form("About", FormKind::Dialog)
 {
     layOut();
-    btnEMAIL.onClick([this] { btnEMAIL_Click(); });
-    btnURL.onClick([this] { btnURL_Click(); });
-    cmdOK.onClick([this] { cmdOK_Click(); });
     setDefaultButton(cmdOK);
+    closeOnEsc();
+    onHelpKey([this] { OpenHelp(*this, HelpTopic::MainPage); });
 }
 
 void About::layOut()

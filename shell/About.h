@@ -39,7 +39,7 @@ private:
     Label lblDescription{*this, "lblDescription"};
     Label lblMoreDescription{*this, "lblMoreDescription"};
     Rule Line1{*this, "Line1"};
-    Button btnEMAIL{*this, "btnEMAIL", "&E-mail support"};
-    Button btnURL{*this, "btnURL", "&Web site"};
-    Button cmdOK{*this, "cmdOK", "OK"};
+    Button btnEMAIL{*this, "btnEMAIL", "&E-mail support", [this] { btnEMAIL_Click(); }};
+    Button btnURL{*this, "btnURL", "&Web site", [this] { btnURL_Click(); }};
+    Button cmdOK{*this, "cmdOK", "OK", [this] { cmdOK_Click(); }};
 };

@@ -24,11 +24,7 @@ MainForm::MainForm()
     setCaption("Dunmoor");
     layOut();
     buildMenus();
-    btnAirCalc.onClick([this] { btnAirCalc_Click(); });
-    btnMixedAir.onClick([this] { btnMixedAir_Click(); });
-    btnCooling.onClick([this] { btnCooling_Click(); });
-    btnHeating.onClick([this] { btnHeating_Click(); });
-    btnHumidity.onClick([this] { btnHumidity_Click(); });
+    mnuHSearch.setShortcut("F1");
 }
 
 void MainForm::layOut()
@@ -65,16 +61,9 @@ void MainForm::layOut()
 
 void MainForm::buildMenus()
 {
-    addEntries(mnuFile, mnuExit);
-    addEntries(mnuHelp, mnuHSearch, mnuAbout);
-    addToMenuBar(mnuFile);
-    addToMenuBar(mnuOptions);
-    addToMenuBar(mnuHelp);
-
-    mnuExit.onClick([this] { mnuExit_Click(); });
-    mnuOptions.onClick([this] { mnuOptions_Click(); });
-    mnuHSearch.onClick([this] { mnuHSearch_Click(); });
-    mnuAbout.onClick([this] { mnuAbout_Click(); });
+    mnuFile.add(mnuExit);
+    mnuHelp.add(mnuHSearch, mnuAbout);
+    addToMenuBar(mnuFile, mnuOptions, mnuHelp);
 }
 
 void MainForm::Form_Load()

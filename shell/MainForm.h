@@ -36,17 +36,17 @@ private:
 
     Label lblProductName{*this, "lblProductName", "Dunmoor"};
     Label lblProduct{*this, "lblProduct", "Psychrometric Calculator"};
-    Button btnAirCalc{*this, "btnAirCalc", "&Air Properties"};
-    Button btnMixedAir{*this, "btnMixedAir", "&Mixed Air"};
-    Button btnCooling{*this, "btnCooling", "&Cooling Load"};
-    Button btnHeating{*this, "btnHeating", "&Heating Load "};
-    Button btnHumidity{*this, "btnHumidity", "H&umidification"};
+    Button btnAirCalc{*this, "btnAirCalc", "&Air Properties", [this] { btnAirCalc_Click(); }};
+    Button btnMixedAir{*this, "btnMixedAir", "&Mixed Air", [this] { btnMixedAir_Click(); }};
+    Button btnCooling{*this, "btnCooling", "&Cooling Load", [this] { btnCooling_Click(); }};
+    Button btnHeating{*this, "btnHeating", "&Heating Load ", [this] { btnHeating_Click(); }};
+    Button btnHumidity{*this, "btnHumidity", "H&umidification", [this] { btnHumidity_Click(); }};
     Picture Image1;
 
     Menu mnuFile{*this, "mnuFile", "&File"};
-    MenuCommand mnuExit{*this, "mnuExit", "E&xit"};
-    MenuCommand mnuOptions{*this, "mnuOptions", "&Options"};
+    MenuCommand mnuExit{*this, "mnuExit", "E&xit", [this] { mnuExit_Click(); }};
+    MenuCommand mnuOptions{*this, "mnuOptions", "&Options", [this] { mnuOptions_Click(); }};
     Menu mnuHelp{*this, "mnuHelp", "&Help"};
-    MenuCommand mnuHSearch{*this, "mnuHSearch", "&Search for Help on ..."};
-    MenuCommand mnuAbout{*this, "mnuAbout", "&About Dunmoor"};
+    MenuCommand mnuHSearch{*this, "mnuHSearch", "&Search for Help on ...", [this] { mnuHSearch_Click(); }};
+    MenuCommand mnuAbout{*this, "mnuAbout", "&About Dunmoor", [this] { mnuAbout_Click(); }};
 };

@@ -2,6 +2,7 @@
 
 #include "core/MainMod.h"
 #include "platform/forms/MsgBox.h"
+#include "screens/Help.h"
 #include "shell/Store.h"
 
 using namespace forms;
@@ -68,10 +69,10 @@ Settings::Settings() : Form("Settings", FormKind::Dialog)
 {
     setCaption("Options/Settings");
     layOut();
+    setDefaultButton(btnOK);
+    setCancelButton(btnCancel);
+    onHelpKey([this] { OpenOptionsHelp(*this); });
     Combo1.onClick([this] { Combo1_Click(); });
-    btnOK.onClick([this] { btnOK_Click(); });
-    btnCancel.onClick([this] { btnCancel_Click(); });
-    btnDefault.onClick([this] { btnDefault_Click(); });
 }
 
 void Settings::layOut()

@@ -25,7 +25,7 @@ private:
     Label lblBP{*this, "lblBP", "  Barometric Pressure"};
     TextField txtBP{*this, "txtBP"};
     Label Label1{*this, "Label1"};
-    Button btnOK{*this, "btnOK", "OK"};
-    Button btnCancel{*this, "btnCancel", "Cancel"};
-    Button btnDefault{*this, "btnDefault", "Use Default Settings"};
+    Button btnOK{*this, "btnOK", "OK", [this] { btnOK_Click(); }};
+    Button btnCancel{*this, "btnCancel", "Cancel", [this] { btnCancel_Click(); }};
+    Button btnDefault{*this, "btnDefault", "Use Default Settings", [this] { btnDefault_Click(); }};
 };

@@ -31,8 +31,8 @@ QPushButton* asButton(const Button* button) { return static_cast<QPushButton*>(b
 
 } // namespace
 
-Button::Button(Form& owner, const std::string& name, const std::string& caption)
-    : Control(owner, new PushButton(owner.area()), name)
+Button::Button(Form& owner, const std::string& name, const std::string& caption, Handler onClick)
+    : Control(owner, new PushButton(owner.area()), name), click(std::move(onClick))
 {
     setCaption(caption);
     asButton(this)->setAutoDefault(true); // Enter presses the focused button

@@ -8,7 +8,7 @@ namespace forms {
 class Button : public Control
 {
 public:
-    Button(Form& owner, const std::string& name, const std::string& caption = {});
+    Button(Form& owner, const std::string& name, const std::string& caption = {}, Handler onClick = {});
 
     void onClick(Handler handler) { click = std::move(handler); }
 

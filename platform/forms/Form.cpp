@@ -183,8 +183,7 @@ bool Form::pressKey(int key)
     }
 }
 
-void Form::addToMenuBar(Menu& menu) { frame->menuBar()->addMenu(menu.menu()); }
-void Form::addToMenuBar(MenuCommand& command) { frame->menuBar()->addAction(command.action()); }
+void Form::addToMenuBar(QAction* entry) { frame->menuBar()->addAction(entry); }
 
 QWidget* Form::window() const { return frame; }
 QWidget* Form::area() const { return frame->content(); }

@@ -11,6 +11,7 @@
 #include <typeindex>
 #include <vector>
 
+class QAction;
 class QEventLoop;
 class QWidget;
 
@@ -113,8 +114,12 @@ public:
     /// Does what Enter, Esc or F1 does on this form. Returns false for another key, and if nothing is done.
     bool pressKey(int key);
 
-    void addToMenuBar(Menu& menu);
-    void addToMenuBar(MenuCommand& command);
+    /// Adds menus and commands.
+    template <class... Entries>
+    void addToMenuBar(Entries&... entries)
+    {
+        (addToMenuBar(entries.action()), ...);
+    }
 
     /// The window, as a parent for dialogs, and its area for the controls.
     QWidget* window() const;
@@ -148,6 +153,7 @@ protected:
 private:
     friend class FormRegistry;
 
+    void addToMenuBar(QAction* entry);
     void load();
     void showWindow();
     void endWait();

@@ -36,6 +36,7 @@ void Label::alignRight()
     asLabel(this)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     asLabel(this)->setIndent(4);
 }
+void Label::center() { asLabel(this)->setAlignment(Qt::AlignCenter); }
 void Label::setWrapped() { asLabel(this)->setWordWrap(true); }
 
 void Label::setArial()

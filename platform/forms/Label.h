@@ -18,6 +18,7 @@ public:
     /// Draws the label as a box for a value.
     void setBoxed();
     void alignRight();
+    void center();
     void setWrapped();
     /// Uses Arial, or its metric-compatible substitute, in the size for which its fixed place was designed.
     void setArial();

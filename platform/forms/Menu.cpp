@@ -8,8 +8,10 @@
 
 namespace forms {
 
-MenuCommand::MenuCommand(Form& owner, const std::string& name, const std::string& caption)
-    : form(owner), theAction(new QAction(QString::fromStdString(caption), owner.window()))
+MenuCommand::MenuCommand(Form& owner, const std::string& name, const std::string& caption, Handler onClick)
+    : form(owner),
+      theAction(new QAction(QString::fromStdString(caption), owner.window())),
+      click(std::move(onClick))
 {
     theAction->setObjectName(QString::fromStdString(name));
     theAction->setMenuRole(QAction::NoRole);
@@ -51,8 +53,8 @@ Menu::Menu(Form& owner, const std::string& name, const std::string& caption)
     theMenu->menuAction()->setObjectName(QString::fromStdString(name));
 }
 
-void Menu::add(MenuCommand& entry) { theMenu->addAction(entry.action()); }
-void Menu::add(MenuSeparator& separator) { theMenu->addAction(separator.action()); }
+QAction* Menu::action() const { return theMenu->menuAction(); }
+void Menu::addAction(QAction* action) { theMenu->addAction(action); }
 // The toolkit's menu also enables its entry on the menu bar.
 void Menu::enable() { theMenu->setEnabled(true); }
 void Menu::disable() { theMenu->setEnabled(false); }

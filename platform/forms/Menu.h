@@ -15,7 +15,7 @@ class Form;
 class MenuCommand
 {
 public:
-    MenuCommand(Form& owner, const std::string& name, const std::string& caption);
+    MenuCommand(Form& owner, const std::string& name, const std::string& caption, Handler onClick = {});
 
     void onClick(Handler handler) { click = std::move(handler); }
 
@@ -52,17 +52,23 @@ class Menu
 public:
     Menu(Form& owner, const std::string& name, const std::string& caption);
 
-    void add(MenuCommand& entry);
-    void add(MenuSeparator& separator);
+    /// Adds commands and separators.
+    template <class... Entries>
+    void add(Entries&... entries)
+    {
+        (addAction(entries.action()), ...);
+    }
 
     void enable();
     void disable();
     void show();
     void hide();
 
-    QMenu* menu() const { return theMenu; }
+    QAction* action() const;
 
 private:
+    void addAction(QAction* action);
+
     QMenu* theMenu;
 };
 

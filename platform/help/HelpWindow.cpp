@@ -117,9 +117,15 @@ QAction* HelpWindow::addCommand(const QString& name, const QString& label, const
 void HelpWindow::goToTopic(int topic)
 {
     const QString wanted = book->pageOfTopic(topic);
-    page->open(wanted.isEmpty() ? book->homePage() : wanted);
+    goToPage(wanted.isEmpty() ? book->homePage() : wanted);
     notice->setText("This help has no topic " + QString::number(topic) + ". Here is its first page.");
     notice->setVisible(wanted.isEmpty());
+}
+
+void HelpWindow::goToPage(const QString& name)
+{
+    page->open(name);
+    notice->hide();
 }
 
 void HelpWindow::print()

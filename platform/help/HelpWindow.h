@@ -26,6 +26,7 @@ public:
 
     /// Shows the page of a topic, or the first page and a notice if the file has no such topic.
     void goToTopic(int topic);
+    void goToPage(const QString& name);
     /// Brings the help window to the front of the window that asked for it.
     void showFor(QWidget& asking);
 

@@ -43,8 +43,9 @@ QString folderOf(const QFileInfo& file)
 }
 
 /// Returns the help file, or null after showing a message with the reason.
-std::shared_ptr<const HelpBook> openBook(const std::string& file, const QFileInfo& wanted)
+std::shared_ptr<const HelpBook> openBook(const QFileInfo& wanted)
 {
+    const std::string file = wanted.filePath().toStdString();
     QFile opened(wanted.filePath());
     if (!OpenRegularFile(opened, QIODevice::ReadOnly, Links::Follow)) {
         MsgBox("The help file " + file + " was not found.\n\nIt was looked for in " +
@@ -61,20 +62,24 @@ std::shared_ptr<const HelpBook> openBook(const std::string& file, const QFileInf
 
 void HtmlHelpA(forms::Form& owner, const std::string& file, unsigned command, int topic)
 {
-    if (command != HH_HELP_CONTEXT)
+    if (command != HH_HELP_CONTEXT && command != HH_DISPLAY_TOPIC)
         return;
-    const QFileInfo wanted(QString::fromStdString(file));
+    const QStringList fileAndPage = QString::fromStdString(file).split("::/");
+    const QFileInfo wanted(fileAndPage.front());
     const QString path = wanted.absoluteFilePath();
     const bool isShown = helpWindow != nullptr && helpWindow->isVisible() && wanted.isFile() &&
                          shownFile == path && shownState == wanted.lastModified();
     if (!isShown) {
-        std::shared_ptr<const HelpBook> book = openBook(file, wanted);
+        std::shared_ptr<const HelpBook> book = openBook(wanted);
         if (book == nullptr)
             return;
         openWindow(std::move(book));
         shownFile = path;
         shownState = wanted.lastModified();
     }
-    helpWindow->goToTopic(topic);
+    if (command == HH_HELP_CONTEXT)
+        helpWindow->goToTopic(topic);
+    else
+        helpWindow->goToPage(fileAndPage.back());
     helpWindow->showFor(*owner.window());
 }
