@@ -89,15 +89,15 @@ TEST_F(Menus, StandOnTheBarInTheOrderTheyWereAdded)
 TEST_F(Menus, KeepTheirEntriesAndSeparatorsInOrderAndByName)
 {
     MenuScreen& screen = show();
-    const QList<QAction*> entries = screen.mnuFile.menu()->actions();
+    const QList<QAction*> entries = screen.mnuFile.action()->menu()->actions();
     ASSERT_EQ(entries.size(), 3);
     EXPECT_EQ(entries[0]->objectName(), "mnuSave");
     EXPECT_EQ(entries[1]->objectName(), "mnuSep");
     EXPECT_TRUE(entries[1]->isSeparator());
     EXPECT_EQ(entries[2]->objectName(), "mnuExit");
     EXPECT_EQ(entries[2]->text(), "E&xit");
-    EXPECT_EQ(screen.mnuFile.menu()->objectName(), "mnuFile");
-    EXPECT_EQ(screen.mnuFile.menu()->title(), "&File");
+    EXPECT_EQ(screen.mnuFile.action()->menu()->objectName(), "mnuFile");
+    EXPECT_EQ(screen.mnuFile.action()->menu()->title(), "&File");
 }
 
 TEST_F(Menus, OpenByTheirAccessKeyAndRunByThatOfTheEntry)
@@ -174,9 +174,9 @@ TEST_F(Menus, RunNothingWhileTheWholeMenuIsDisabled)
 TEST_F(Menus, AreOutOfReachWhileHidden)
 {
     MenuScreen& screen = show();
-    const QPoint place = bar()->actionGeometry(screen.mnuFile.menu()->menuAction()).center();
+    const QPoint place = bar()->actionGeometry(screen.mnuFile.action()).center();
     screen.mnuFile.hide();
-    EXPECT_FALSE(bar()->actionGeometry(screen.mnuFile.menu()->menuAction()).contains(place));
+    EXPECT_FALSE(bar()->actionGeometry(screen.mnuFile.action()).contains(place));
     user.key(Qt::Key_F, Qt::AltModifier);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     user.key(Qt::Key_S, Qt::ControlModifier);
@@ -191,7 +191,7 @@ TEST_F(Menus, HideSingleEntriesAndCommands)
     MenuScreen& screen = show();
     screen.mnuSave.hide();
     screen.mnuMain1.hide();
-    EXPECT_TRUE(screen.mnuFile.menu()->actionGeometry(screen.mnuSave.action()).isEmpty());
+    EXPECT_TRUE(screen.mnuFile.action()->menu()->actionGeometry(screen.mnuSave.action()).isEmpty());
     user.key(Qt::Key_S, Qt::ControlModifier);
     user.key(Qt::Key_M, Qt::AltModifier);
     EXPECT_TRUE(calls.empty());
