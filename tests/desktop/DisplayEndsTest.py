@@ -8,9 +8,8 @@ import subprocess
 import sys
 import tempfile
 
+from AirProperties import CALCULATOR, calculate
 from DesktopProgram import LIMIT, DesktopProgram, wait_for
-
-CALCULATOR = "Air Properties Calculator"
 
 
 @contextlib.contextmanager
@@ -53,11 +52,7 @@ def open_options(program):
 
 
 def open_print_dialog(program):
-    open_calculator(program)
-    program.type(CALCULATOR, "Dry bulb temperature", "70")
-    program.type(CALCULATOR, "Relative humidity", "50")
-    program.click(CALCULATOR, "Calculate Properties")
-    program.wait_for_text(CALCULATOR, "Wet bulb temperature", "58.4")
+    calculate(program)
     program.choose(CALCULATOR, "File", "Print Results")
     program.window("Print")
 
