@@ -45,6 +45,7 @@ def main(root):
         os.environ["HOME"] = home
         program = DesktopProgram(os.path.join(root, "usr/bin/dunmoor"), folder)
         try:
+            program.wait_until_active("Dunmoor")
             read_help(program)
             calculate(program)
             save(program, home)

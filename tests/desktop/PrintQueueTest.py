@@ -65,6 +65,7 @@ def main(executable):
         os.environ["HOME"] = home
         program = DesktopProgram(executable, home)
         try:
+            program.wait_until_active("Dunmoor")
             calculate(program)
             print_three_times(program, server)
             assert leave(program) == 0
