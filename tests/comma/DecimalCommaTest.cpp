@@ -43,6 +43,20 @@ TEST_F(DecimalComma, WritesItsClipsWithAComma)
     EXPECT_EQ(user.text("txtRH"), "0,1");
 }
 
+TEST_F(DecimalComma, LeavesAClipWithACommaOnShowWhereTheSolverFails)
+{
+    store("Pressure_psi", "0"); // the solver divides by it, after the clip
+    start();
+    user.click("btnAirCalc");
+    user.type("txtTdb", "70");
+    user.click("txtRH");
+    user.type("txtRH", "-1");
+    user.click("btnCALCULATE");
+    EXPECT_EQ(user.messages, std::vector{outOfRange});
+    EXPECT_EQ(user.text("txtRH"), "0,1");
+    EXPECT_EQ(user.text("lblRH2"), " RH clipped at 0.1%");
+}
+
 TEST_F(DecimalComma, StoresAndReadsThePressureWithAComma)
 {
     start();

@@ -110,7 +110,7 @@ class Walk:
         self.program.gone("Air Volume Input")
 
     def main_menu(self):
-        self.program.window("Dunmoor")
+        self.program.wait_until_active("Dunmoor")
         chart = self.program.find("Dunmoor", "Psychrometric chart")
         assert chart.get_role_name() in ("image", "icon"), chart.get_role_name()
         self.program.choose("Dunmoor", "Help", "About Dunmoor")

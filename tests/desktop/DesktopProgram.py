@@ -45,8 +45,8 @@ def is_showing(accessible):
 
 
 class DesktopProgram:
-    def __init__(self, executable, folder):
-        self.process = subprocess.Popen([executable], cwd=folder)
+    def __init__(self, executable, folder, arguments=(), output=None):
+        self.process = subprocess.Popen([executable, *arguments], cwd=folder, stdout=output, stderr=output)
         self.application = wait_for("the program on the accessibility bus", self._find_application)
 
     def _find_application(self):
@@ -69,6 +69,17 @@ class DesktopProgram:
             f"a window '{title}' among {[w.get_name() for w in self.windows()]}",
             lambda: next((w for w in self.windows() if title in w.get_name()), None),
         )
+
+    def _is_active(self, title):
+        """Both the window manager and the program must say so."""
+        active = subprocess.run(
+            ["xdotool", "getactivewindow", "getwindowname"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True
+        )
+        return title in active.stdout and self.window(title).get_state_set().contains(Atspi.StateType.ACTIVE)
+
+    def wait_until_active(self, title):
+        """Waits until the window manager has placed and activated a window."""
+        wait_for(f"'{title}' to be active", lambda: self._is_active(title))
 
     def gone(self, title):
         wait_for(f"the end of '{title}'", lambda: not any(title in w.get_name() for w in self.windows()))

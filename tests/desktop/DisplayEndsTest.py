@@ -1,16 +1,16 @@
 """When the display server goes away, as at the end of a session, the program ends without a crash, whatever is open.
-The same holds for a request to terminate."""
+The same holds for a request to terminate, which writes no settings: only an exit by the user does."""
 
 import contextlib
 import os
+import pathlib
 import signal
 import subprocess
 import sys
 import tempfile
 
+from AirProperties import CALCULATOR, calculate
 from DesktopProgram import LIMIT, DesktopProgram, wait_for
-
-CALCULATOR = "Air Properties Calculator"
 
 
 @contextlib.contextmanager
@@ -53,11 +53,7 @@ def open_options(program):
 
 
 def open_print_dialog(program):
-    open_calculator(program)
-    program.type(CALCULATOR, "Dry bulb temperature", "70")
-    program.type(CALCULATOR, "Relative humidity", "50")
-    program.click(CALCULATOR, "Calculate Properties")
-    program.wait_for_text(CALCULATOR, "Wet bulb temperature", "58.4")
+    calculate(program)
     program.choose(CALCULATOR, "File", "Print Results")
     program.window("Print")
 
@@ -86,7 +82,7 @@ OPEN = {
 
 
 def end_of(executable, open_windows, end):
-    """The status that the program ends with."""
+    """The status that the program ends with, and its settings files."""
     with tempfile.TemporaryDirectory() as home, display_of_its_own() as server:
         os.environ["HOME"] = home
         program = DesktopProgram(executable, os.path.dirname(executable))
@@ -94,18 +90,20 @@ def end_of(executable, open_windows, end):
             wait_for("the main menu", count_windows)
             open_windows(program)
             end(server, program.process)
-            return program.process.wait(timeout=LIMIT)
+            status = program.process.wait(timeout=LIMIT)
+            return status, [path.name for path in pathlib.Path(home).rglob("Dunmoor*.ini")]
         finally:
             program.end()
 
 
 def main(executable):
     for what, open_windows in OPEN.items():
-        status = end_of(executable, open_windows, lambda server, _: server.terminate())
+        status, _ = end_of(executable, open_windows, lambda server, _: server.terminate())
         assert status >= 0, f"{what}: ended by signal {-status}"
         print(f"{what}: the display goes away, the program ends with status {status}")
-    status = end_of(executable, open_options, lambda _, process: process.terminate())
+    status, settings = end_of(executable, open_options, lambda _, process: process.terminate())
     assert status == -signal.SIGTERM, status
+    assert not settings, settings
     print("asked to terminate, it does")
 
 

@@ -6,9 +6,8 @@ import pathlib
 import sys
 import tempfile
 
+from AirProperties import CALCULATOR, calculate, leave
 from DesktopProgram import DesktopProgram, wait_for
-
-CALCULATOR = "Air Properties Calculator"
 
 
 def read_help(program):
@@ -16,15 +15,6 @@ def read_help(program):
     program.window("Dunmoor Help")
     program.keys("Escape")
     program.gone("Dunmoor Help")
-
-
-def calculate(program):
-    program.click("Dunmoor", "Air Properties")
-    program.type(CALCULATOR, "Dry bulb temperature", "70")
-    program.type(CALCULATOR, "Relative humidity", "50")
-    program.click(CALCULATOR, "Calculate Properties")
-    program.wait_for_text(CALCULATOR, "Wet bulb temperature", "58.4")
-    program.wait_for_text(CALCULATOR, "Dew point temperature", "50.6")
 
 
 def save(program, home):
@@ -55,13 +45,12 @@ def main(root):
         os.environ["HOME"] = home
         program = DesktopProgram(os.path.join(root, "usr/bin/dunmoor"), folder)
         try:
+            program.wait_until_active("Dunmoor")
             read_help(program)
             calculate(program)
             save(program, home)
             print_to_pdf(program, home)
-            program.click(CALCULATOR, "Main Menu", "menu item")
-            program.choose("Dunmoor", "File", "Exit")
-            assert program.wait_for_end() == 0
+            assert leave(program) == 0
             print("help, calculation, saved report, PDF: all there")
         finally:
             program.end()

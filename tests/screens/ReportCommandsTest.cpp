@@ -2,6 +2,7 @@
 
 #include "tests/screens/CalculatorFixture.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -74,6 +75,24 @@ TEST_F(ReportCommands, OfTheAirPropertiesEndSilentlyForTheRestOfTheRunAfterAnEmp
     calculate("70", "txtRH", "50");
     EXPECT_EQ(saved("mnuSave"), "(none)");
     EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(ReportCommands, LeaveTheWorkingFolderAlone)
+{
+    start();
+    const QTemporaryDir place;
+    for (const char* button : {"btnAirCalc", "btnCooling", "btnHeating", "btnHumidity"}) {
+        user.click(button);
+        calculate("70", "txtRH", "50");
+        ASSERT_TRUE(QDir::setCurrent(place.path())); // some calculators go elsewhere as they open
+        EXPECT_NE(saved("mnuSave"), "(none)") << button;
+        EXPECT_EQ(QDir::currentPath(), place.path()) << button << ", after saving";
+        printed("mnuPrintDialog", "");
+        EXPECT_EQ(QDir::currentPath(), place.path()) << button << ", after printing";
+        user.choose("mnuMain1");
+    }
+    EXPECT_TRUE(QDir(place.path()).isEmpty()) << "nothing is written there";
+    QDir::setCurrent("/");
 }
 
 TEST_F(ReportCommands, OfBothMixedAirScreensWriteTheSameRecords)

@@ -203,6 +203,16 @@ TEST_F(MainMenu, EndsTheProcessByItsCloseBoxAndWritesItsTwoKeys)
     EXPECT_EQ(stored("Baro_Pressure"), "101.352");
 }
 
+TEST_F(MainMenu, EndsTheProcessAtTheEndOfTheSessionAndWritesItsTwoKeys)
+{
+    startInMetric();
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_EQ(stored("Metric_Units"), "True");
+    EXPECT_EQ(stored("Baro_Pressure"), "101.352");
+    EXPECT_FALSE(isLoaded<MainForm>());
+}
+
 TEST_F(MainMenu, GoesOnAfterACalculatorsExit)
 {
     start();
