@@ -1,5 +1,7 @@
 #include "chart/Theme.h"
 
+#include "platform/forms/Picture.h"
+
 #include <array>
 
 namespace chart {
@@ -25,20 +27,29 @@ const std::array<Pair, 5> runs{{{{112, 48, 150}, {205, 150, 240}},
                                 {{190, 88, 0}, {255, 170, 85}},
                                 {{0, 118, 104}, {80, 210, 190}}}};
 
-constexpr int thinCurveAlpha = 130;
-constexpr int gridAlpha = 40;
-constexpr int axisAlpha = 170;
+/// How opaque the thin lines are.
+struct Opacity
+{
+    int curve;
+    int grid;
+    int axis;
+};
+
+constexpr Opacity calm{.curve = 130, .grid = 40, .axis = 170};
+constexpr Opacity strong{.curve = 255, .grid = 110, .axis = 255};
 
 } // namespace
 
 Theme::Theme(const QPalette& desktop)
-    : palette(desktop), isDark(desktop.color(QPalette::Base).lightness() < 128)
+    : palette(desktop),
+      isDark(desktop.color(QPalette::Base).lightness() < 128),
+      isStrong(forms::HasHighContrast(desktop))
 {}
 
 QColor Theme::axis() const
 {
     QColor color = palette.color(QPalette::WindowText);
-    color.setAlpha(axisAlpha);
+    color.setAlpha((isStrong ? strong : calm).axis);
     return color;
 }
 
@@ -48,7 +59,8 @@ QPen Theme::pen(Family family) const
     if (family == Family::Saturation)
         return {color, 2.2};
     const bool isGrid = family == Family::DryBulb || family == Family::HumidityRatio;
-    color.setAlpha(isGrid ? gridAlpha : thinCurveAlpha);
+    const Opacity& opacity = isStrong ? strong : calm;
+    color.setAlpha(isGrid ? opacity.grid : opacity.curve);
     return {color, 1};
 }
 

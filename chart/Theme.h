@@ -28,6 +28,7 @@ public:
 private:
     QPalette palette;
     bool isDark;
+    bool isStrong; // on a desktop with high contrast
 };
 
 } // namespace chart

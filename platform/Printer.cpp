@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QFontInfo>
+#include <QFontDatabase>
 #include <QLocale>
 #include <QPainter>
 #include <QPrinterInfo>
@@ -12,11 +12,11 @@ namespace {
 
 constexpr double MarginInMillimetres = 15.0;
 
-/// The desktop's font, sized in points.
-QFont desktopFont()
+/// A font of fixed pitch, so that columns align.
+QFont firstFont()
 {
-    QFont font = QApplication::font();
-    font.setPointSize(QFontInfo(font).pointSize());
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSize(10);
     // The smallest spacing, too small to see. It stops the toolkit from drawing "fi" as a ligature, so that a
     // search for "Specific" in a PDF file succeeds.
     font.setLetterSpacing(QFont::AbsoluteSpacing, 1.0 / 64);
@@ -96,7 +96,7 @@ Printer& CurrentPrinter()
     return *currentPrinter;
 }
 
-Printer::Printer(const std::string& device) : device_(OpenDevice(device)), font_(desktopFont()) {}
+Printer::Printer(const std::string& device) : device_(OpenDevice(device)), font_(firstFont()) {}
 Printer::~Printer() { dropDocument(); }
 
 void Printer::changeDevice(const std::string& device)
@@ -125,6 +125,11 @@ void Printer::changeSettings(const std::function<void(QPrinter&)>& change)
 {
     if (!isPrinting())
         change(*device_);
+}
+
+void Printer::setTitle(const std::string& title)
+{
+    changeSettings([&title](QPrinter& device) { device.setDocName(QString::fromStdString(title)); });
 }
 
 PrinterFont Printer::font() const

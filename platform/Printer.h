@@ -40,6 +40,9 @@ public:
     QPrinter& device() const { return *device_; }
     void changeSettings(const std::function<void(QPrinter&)>& change);
 
+    /// The title of the documents that follow.
+    void setTitle(const std::string& title);
+
     /// The font for the lines that follow.
     PrinterFont font() const;
     void setFont(const PrinterFont& font);

@@ -15,7 +15,7 @@ void WriteAirPropertiesReport(ReportWriter& report, AirBlock fields, AirBlock::C
 
 void PrintAirProperties(const Form& owner, const AirBlock& fields)
 {
-    PrintReport(owner, "Airprop.txt", [&fields](ReportWriter& report) {
+    PrintReport(owner, "Air Properties", "Airprop.txt", [&fields](ReportWriter& report) {
         WriteAirPropertiesReport(report, fields, PrintedFraction);
     });
 }

@@ -35,8 +35,8 @@ void PrintFile(const std::string& path)
 
 } // namespace
 
-void PrintReport(const Form& owner, const std::string& temporaryFile, const WriteReport& writeReport,
-                 const std::optional<PrinterFont>& font)
+void PrintReport(const Form& owner, const std::string& title, const std::string& temporaryFile,
+                 const WriteReport& writeReport, const std::optional<PrinterFont>& font)
 {
     if (!ShowPrintDialog(owner))
         return;
@@ -44,6 +44,7 @@ void PrintReport(const Form& owner, const std::string& temporaryFile, const Writ
         const std::string path = TempFolder() + '/' + temporaryFile;
         if (font)
             CurrentPrinter().setFont(*font);
+        CurrentPrinter().setTitle(title);
         WriteFile(path, Links::Refuse, writeReport);
         PrintFile(path);
     } catch (const std::exception&) {

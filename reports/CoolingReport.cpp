@@ -32,7 +32,7 @@ void WriteCoolingReport(ReportWriter& report)
 
 void PrintCooling(const Form& owner)
 {
-    PrintReport(owner, "cooling.txt", WriteCoolingReport,
+    PrintReport(owner, "Cooling Load", "cooling.txt", WriteCoolingReport,
                 PrinterFont{.name = "Arial", .size = 14, .bold = true});
 }
 

@@ -41,7 +41,10 @@ void WriteSavedHeatingReport(ReportWriter& report)
     WriteSummary(report);
 }
 
-void PrintHeating(const Form& owner) { PrintReport(owner, "heating.txt", WritePrintedHeatingReport); }
+void PrintHeating(const Form& owner)
+{
+    PrintReport(owner, "Heating Load", "heating.txt", WritePrintedHeatingReport);
+}
 
 void SaveHeating(const Form& owner)
 {

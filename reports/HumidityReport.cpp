@@ -72,7 +72,7 @@ void WriteSavedHumidityReport(ReportWriter& report, const ReadHumidityTexts& rea
 
 void PrintHumidity(const Form& owner, const ReadHumidityTexts& readTexts)
 {
-    PrintReport(owner, "humidity.txt",
+    PrintReport(owner, "Humidification", "humidity.txt",
                 [&readTexts](ReportWriter& report) { WritePrintedHumidityReport(report, readTexts); });
 }
 

@@ -25,5 +25,8 @@ void WriteMixedAirReport(ReportWriter& report)
     WriteBlock(report, "Mixed Air Properties", MixedResultAir);
 }
 
-void PrintMixedAir(const Form& owner) { PrintReport(owner, "mixedair.txt", WriteMixedAirReport); }
+void PrintMixedAir(const Form& owner)
+{
+    PrintReport(owner, "Mixed Air", "mixedair.txt", WriteMixedAirReport);
+}
 void SaveMixedAir(const Form& owner) { SaveReport(owner, "Save Data to File", WriteMixedAirReport); }

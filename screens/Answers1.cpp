@@ -3,6 +3,9 @@
 #include "platform/forms/Forms.h"
 #include "screens/MixedAir.h"
 
+#include <algorithm>
+#include <vector>
+
 using namespace forms;
 
 namespace {
@@ -59,7 +62,6 @@ void placeText(Label& label, Twips left, Twips top, Twips width, Colour colour, 
 {
     label.place(left, top, width, height);
     colourLabels({&label}, colour);
-    label.setArial();
 }
 
 TaggedNumber valueOf(const TableQuantity& quantity, const AirSnapshot& stream)
@@ -160,6 +162,25 @@ void Answers1::RepaintForm()
             row.hide();
     }
     btnOK.place(2940, isMetric ? 4250 : 5040, cellWidth, 360);
+    sizeTexts();
+}
+
+/// One size for the whole table: the largest at which each text fits its cell.
+void Answers1::sizeTexts()
+{
+    std::vector<Label*> texts;
+    for (Label& heading : lblHeading)
+        texts.push_back(&heading);
+    for (TableRow& row : rows) {
+        texts.insert(texts.end(), {&row.caption, &row.unit});
+        for (Label& cell : row.cells)
+            texts.push_back(&cell);
+    }
+    int pixels = texts.front()->fittingArial();
+    for (const Label* const text : texts)
+        pixels = std::min(pixels, text->fittingArial());
+    for (Label* const text : texts)
+        text->setArial(pixels);
 }
 
 void Answers1::fill()
@@ -167,6 +188,7 @@ void Answers1::fill()
     fillColumn(0, MixedOutsideAir);
     fillColumn(1, MixedReturnAir);
     fillColumn(2, MixedResultAir);
+    sizeTexts();
 }
 
 void Answers1::fillColumn(std::size_t column, const AirSnapshot& stream)

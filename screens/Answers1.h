@@ -60,6 +60,7 @@ private:
     void RepaintForm();
     void placeHeadings();
     void placeRow(TableRow& row, forms::Twips top);
+    void sizeTexts();
     void buildMenus();
     void fillColumn(std::size_t column, const AirSnapshot& stream);
     Cells makeCells(const std::string& arrayName);

@@ -22,6 +22,24 @@ std::string describeFailure(const std::exception& failure)
     return "Run-time error '" + std::to_string(known->number()) + "':\n" + known->what();
 }
 
+/// Ends the process in order when the desktop's session ends, whatever is on the screen. The toolkit would
+/// close the windows, and closing a calculator shows the main menu again.
+class EndOfSession : public QObject
+{
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched != qApp || event->type() != QEvent::Quit)
+            return false;
+        form<MainForm>().Unload();
+        endProcess();
+        return true;
+    }
+};
+
 } // namespace
 
 void StartProgram()
@@ -33,6 +51,7 @@ void StartProgram()
     icon.addFile(":/dunmoor-128.png");
     QGuiApplication::setWindowIcon(icon);
     QApplication::setStyle(new Outlines);
+    qApp->installEventFilter(new EndOfSession(qApp));
     QGuiApplication::setQuitOnLastWindowClosed(false); // only the main menu ends the process
 
     IgnoreRelativeFolders();

@@ -2,12 +2,29 @@
 
 #include "platform/forms/Form.h"
 
+#include <QApplication>
+#include <QFontInfo>
+#include <QFontMetrics>
 #include <QLabel>
+
+#include <algorithm>
 
 namespace forms {
 
 namespace {
+
+constexpr int designedPixels = 13;
+constexpr int margin = 4;
+
+QFont arial(int pixels)
+{
+    QFont font({QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
+    font.setPixelSize(pixels);
+    return font;
+}
+
 QLabel* asLabel(const Label* label) { return static_cast<QLabel*>(label->widget()); }
+
 } // namespace
 
 Label::Label(Form& owner, const std::string& name, const std::string& caption)
@@ -34,16 +51,25 @@ void Label::setBoxed()
 void Label::alignRight()
 {
     asLabel(this)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    asLabel(this)->setIndent(4);
+    asLabel(this)->setIndent(margin);
 }
 void Label::center() { asLabel(this)->setAlignment(Qt::AlignCenter); }
 void Label::setWrapped() { asLabel(this)->setWordWrap(true); }
 
-void Label::setArial()
+void Label::setArial(int pixels) { asLabel(this)->setFont(arial(pixels)); }
+
+int Label::fittingArial() const
 {
-    QFont font({QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
-    font.setPixelSize(13);
-    asLabel(this)->setFont(font);
+    const QLabel& label = *asLabel(this);
+    const int flags = label.wordWrap() ? Qt::TextWordWrap : 0;
+    int pixels = std::max(designedPixels, QFontInfo(QApplication::font()).pixelSize());
+    for (; pixels > designedPixels; --pixels) {
+        const QFontMetrics metrics(arial(pixels));
+        const QSize needed = metrics.boundingRect(label.rect(), flags, label.text()).size();
+        if (needed.width() + margin <= label.width() && needed.height() <= label.height())
+            break;
+    }
+    return pixels;
 }
 
 void Label::setPointSize(int points)

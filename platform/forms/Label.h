@@ -20,8 +20,11 @@ public:
     void alignRight();
     void center();
     void setWrapped();
-    /// Uses Arial, or its metric-compatible substitute, in the size for which its fixed place was designed.
-    void setArial();
+    /// Uses Arial, or its metric-compatible substitute.
+    void setArial(int pixels);
+    /// The size in Arial at which the text fits the label's place: that of the desktop's text, or less, but
+    /// at least the size for which fixed places were designed.
+    int fittingArial() const;
     void setPointSize(int points);
     void setFontSize(int percentOfNormal, bool bold);
 };

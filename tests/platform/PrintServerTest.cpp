@@ -140,7 +140,7 @@ TEST_F(PrintServerTest, ThatNeverAnswersLeavesTheWindowPainted)
 {
     const SilentServer server(path());
     int paintings = 0;
-    Paintings window(*form<AnyForm>().window());
+    Paintings window(*form<AnyForm>().area());
     dialogs.answer("PrintDialog", [&](QDialog& dialog) {
         paintings = window.count;
         cancel(dialog);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QFontInfo>
 #include <QTemporaryDir>
 
 namespace {
@@ -200,9 +201,10 @@ TEST_F(FilePrinterTest, TellsItsFont)
     EXPECT_TRUE(printer.font().bold);
 }
 
-TEST_F(FilePrinterTest, StartsWithTheFontOfTheDesktopUpright)
+TEST_F(FilePrinterTest, StartsWithAnUprightFontOfFixedPitch)
 {
-    EXPECT_GE(printer.font().size, 6);
+    EXPECT_TRUE(QFontInfo(QFont(QString::fromStdString(printer.font().name))).fixedPitch());
+    EXPECT_EQ(printer.font().size, 10);
     EXPECT_FALSE(printer.font().bold);
 }
 

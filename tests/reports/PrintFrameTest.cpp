@@ -17,7 +17,7 @@ protected:
                const std::optional<PrinterFont>& font = std::nullopt)
     {
         dialogs.answer("PrintDialog", std::move(answer));
-        PrintReport(form<AnyForm>(), "cooling.txt", report, font);
+        PrintReport(form<AnyForm>(), "Cooling Load", "cooling.txt", report, font);
     }
 
     static WriteReport oneLine(const std::string& text)
@@ -41,6 +41,27 @@ TEST_F(PrintFrame, WritesTheTemporaryFileAndPrintsIt)
               "Heading\n-------------------------------------\nEnthalpy = 25.31 Btu/lb.\n");
     EXPECT_FALSE(ReportFile.isOpen());
     EXPECT_FALSE(CurrentPrinter().isPrinting());
+}
+
+TEST_F(PrintFrame, GivesTheDocumentTheTitleOfTheReport)
+{
+    print(printTo(file("out.pdf")), oneLine("text"));
+    EXPECT_TRUE(sayOf("pdfinfo", {file("out.pdf")}).contains(QRegularExpression("Title: +Cooling Load\n")));
+}
+
+TEST_F(PrintFrame, AlignsTheColumnsOnPaper)
+{
+    print(printTo(file("out.pdf")), [](ReportWriter& report) {
+        report.labelValueAndUnit("iiiii = ", "1", "unit");
+        report.labelValueAndUnit("MMMMM = ", "1", "unit");
+    });
+    std::vector<double> lefts;
+    for (const Word& word : wordsOf(file("out.pdf"))) {
+        if (word.text == "unit")
+            lefts.push_back(word.left);
+    }
+    ASSERT_EQ(lefts.size(), 2U);
+    EXPECT_NEAR(lefts[0], lefts[1], 0.5); // points
 }
 
 TEST_F(PrintFrame, DoesNothingOnCancel)

@@ -56,7 +56,6 @@ struct PanelExpectation
     std::string saveCaption = "&Save Results to File";
     std::string fileSeparator;
     std::string helpEntry;
-    std::string helpKey{};
     std::string searchCaption;
 
     bool clearsState = true;
@@ -184,7 +183,6 @@ inline const PanelExpectation panels[] = {
                  {"btnCalcLoad", "Calculate Load"}},
      .fileSeparator = "mnusep2",
      .helpEntry = "mnuHelpCooling=Help for &Cooling Loads",
-     .helpKey = "F1",
      .searchCaption = "&Search for Help On ...",
      .clearsState = false,
      .wetBulbClip = hundredthBelow,
@@ -223,7 +221,7 @@ inline const PanelExpectation panels[] = {
      .whereRefused = "-..",
      .afterCalculation = "-++",
      .afterTooHighRatio = "-++",
-     .focusAfterCalculation = "txtTdb"},
+     .focusAfterCalculation = "btnSaveEnteringAir"},
 
     {.form = "Humid1",
      .menuButton = "btnHumidity",
@@ -248,5 +246,5 @@ inline const PanelExpectation panels[] = {
      .whereRefused = "-.",
      .afterCalculation = "-+",
      .afterTooHighRatio = "-+",
-     .focusAfterCalculation = "txtTdb"},
+     .focusAfterCalculation = "btnHumidityDesired"},
 };

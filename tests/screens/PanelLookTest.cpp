@@ -185,8 +185,7 @@ TEST_P(PanelLook, ShowsItsMenus)
     EXPECT_TRUE(user.menuEntry(expected().fileSeparator)->isSeparator());
     EXPECT_EQ(menu("mnuHelp1"), (Names{expected().helpEntry, "mnuHSearch=" + expected().searchCaption,
                                        "mnuAbout=&About Dunmoor"}));
-    EXPECT_EQ(user.menuEntry("mnuHelp1")->menu()->actions().front()->shortcut(),
-              QKeySequence(QString::fromStdString(expected().helpKey)));
+    EXPECT_EQ(user.menuEntry("mnuHelp1")->menu()->actions().front()->shortcut(), QKeySequence(Qt::Key_F1));
     for (const char* entry : {"mnuPrintDialog", "mnuSave"})
         EXPECT_TRUE(user.menuEntry(entry)->isEnabled()) << entry;
 }

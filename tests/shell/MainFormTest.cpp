@@ -213,6 +213,17 @@ TEST_F(MainMenu, EndsTheProcessAtTheEndOfTheSessionAndWritesItsTwoKeys)
     EXPECT_FALSE(isLoaded<MainForm>());
 }
 
+TEST_F(MainMenu, EndsTheProcessAtTheEndOfTheSessionUnderACalculatorAndADialog)
+{
+    start();
+    user.click("btnCooling");
+    user.inDialog("About", [] { QCoreApplication::quit(); });
+    QTimer::singleShot(0, qApp, [this] { user.choose("mnuAbout"); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_EQ(stored("Metric_Units"), "False");
+    EXPECT_FALSE(isLoaded<MainForm>());
+}
+
 TEST_F(MainMenu, GoesOnAfterACalculatorsExit)
 {
     start();
