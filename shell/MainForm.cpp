@@ -54,6 +54,9 @@ void MainForm::layOut()
     grid->setRowMinimumHeight(2, 16);
     grid->addLayout(buttons, 3, 0);
     grid->add(Image1, 0, 1, 4, 1);
+    const int chartSize = naturalWidth(lblProduct) * 5 / 2; // keeps its share beside large letters
+    setLeastWidth(Image1, chartSize);
+    setLeastHeight(Image1, chartSize);
     grid->setColumnStretch(1, 1);
     grid->setColumnMinimumWidth(0, 190);
     grid->setRowStretch(3, 1);

@@ -50,7 +50,6 @@ void Form::showWindow()
 {
     const bool wasVisible = frame->isVisible();
     frame->show();
-    frame->keepOnScreen(); // the frame's size is known now
     frame->raise();
     frame->activateWindow();
     if (!wasVisible)

@@ -78,25 +78,16 @@ void FormWindow::keepRoom()
     setMinimumSize(neededSize().boundedTo(room));
 }
 
+/// The upper left corner has precedence where the window is larger than the screen.
 void FormWindow::place(QPoint corner)
 {
     const QScreen& primary = *QGuiApplication::primaryScreen();
-    moveInto(primary.availableGeometry(), primary.geometry().topLeft() + corner);
-}
-
-void FormWindow::keepOnScreen()
-{
-    if (!isMaximized() && !isFullScreen())
-        moveInto(screen()->availableGeometry(), pos());
-}
-
-/// The upper left corner has precedence where the window is larger than the area.
-void FormWindow::moveInto(QRect area, QPoint corner)
-{
+    const QRect area = primary.availableGeometry();
     const QSize outside = size() + frameSizeOf(*this);
     const QPoint last(area.right() + 1 - outside.width(), area.bottom() + 1 - outside.height());
-    move(std::max(area.left(), std::min(corner.x(), last.x())),
-         std::max(area.top(), std::min(corner.y(), last.y())));
+    const QPoint wanted = primary.geometry().topLeft() + corner;
+    move(std::max(area.left(), std::min(wanted.x(), last.x())),
+         std::max(area.top(), std::min(wanted.y(), last.y())));
 }
 
 bool FormWindow::event(QEvent* event)

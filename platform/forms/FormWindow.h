@@ -26,8 +26,6 @@ public:
     /// Places the window's frame, counted from the origin of the primary screen, or as near as this screen
     /// allows.
     void place(QPoint corner);
-    /// Moves the window into its screen if a part of it is outside.
-    void keepOnScreen();
 
 protected:
     bool event(QEvent* event) override;
@@ -38,7 +36,6 @@ protected:
 private:
     QSize neededSize() const;
     void keepRoom();
-    void moveInto(QRect area, QPoint corner);
 
     Form& owner;
     QSize leastSize;

@@ -3,6 +3,8 @@
 #include "platform/forms/Form.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -26,8 +28,9 @@ MenuCommand::MenuCommand(Form& owner, const std::string& name, const std::string
 void MenuCommand::endHighlight()
 {
     for (QObject* const shownIn : theAction->associatedObjects()) {
+        QEvent leave(QEvent::Leave); // setActiveAction(nullptr) would make the next menu open at a touch
         if (auto* const bar = qobject_cast<QMenuBar*>(shownIn))
-            bar->setActiveAction(nullptr);
+            QCoreApplication::sendEvent(bar, &leave);
     }
 }
 

@@ -9,12 +9,14 @@ namespace forms {
 
 namespace {
 
+/// Lines in the focus color are wider.
 void outline(const QStyleOption& option, QPainter& painter)
 {
-    if (!HasHighContrast(option.palette))
-        return;
+    const bool hasFocus = option.state.testFlag(QStyle::State_HasFocus);
+    const QColor quiet = option.palette.color(QPalette::Window).darker(140);
+    const QColor strong = option.palette.color(hasFocus ? QPalette::Highlight : QPalette::WindowText);
     painter.save();
-    painter.setPen(option.palette.color(QPalette::WindowText));
+    painter.setPen(QPen(HasHighContrast(option.palette) ? strong : quiet, hasFocus ? 3 : 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
     painter.restore();
@@ -25,8 +27,11 @@ void outline(const QStyleOption& option, QPainter& painter)
 void Outlines::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const
 {
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (element == PE_FrameLineEdit || element == PE_PanelButtonCommand || element == PE_FrameGroupBox)
+    if (element != PE_Frame) // at 150 % the toolkit leaves out sides of this one
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool isOutlined =
+        element == PE_FrameLineEdit || element == PE_PanelButtonCommand || element == PE_FrameGroupBox;
+    if (element == PE_Frame || (isOutlined && HasHighContrast(option->palette)))
         outline(*option, *painter);
 }
 
@@ -34,7 +39,7 @@ void Outlines::drawComplexControl(ComplexControl control, const QStyleOptionComp
                                   QPainter* painter, const QWidget* widget) const
 {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (control == CC_ComboBox)
+    if (control == CC_ComboBox && HasHighContrast(option->palette))
         outline(*option, *painter);
 }
 

@@ -4,9 +4,9 @@
 
 namespace forms {
 
-/// The desktop's style. On a desktop with high contrast it draws the outlines of fields, buttons and frames
-/// in the text's color. The toolkit derives them from the background's color, so they could hardly be seen on
-/// black.
+/// The desktop's style, with two changes. On a desktop with high contrast, the outlines of fields, buttons
+/// and frames have the text's color; the toolkit derives them from the background, so they could hardly be
+/// seen on black. The frame of a boxed label has all its sides in every scaling.
 class Outlines : public QProxyStyle
 {
 public:

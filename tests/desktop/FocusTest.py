@@ -104,7 +104,7 @@ def cooling(user):
 
 def heating(user):
     user.open_screen("Heating Load ", "Heating Load Calculator")
-    user.calculate("60", "Dry bulb temperature")
+    user.calculate("60", "Save Entering Air")
     user.fill_in("Save Entering Air", "Air Volume Input", {"Air volume": "1000"}, "Save Entering Air")
     user.fill_in("Input Leaving Air", "Leaving Air Temp", {"Leaving air temperature": "90"}, "Input Leaving Air")
     user.leave_screen()
@@ -112,7 +112,7 @@ def heating(user):
 
 def humidification(user):
     user.open_screen("Humidification", "Humidification Calculation")
-    user.calculate("40", "Dry bulb temperature")
+    user.calculate("40", "Humidity Desired")
     user.fill_in("Humidity Desired ", "Humidity Calculation Setting", {}, "Humidity Desired ", "Click Here When Done")
     user.leave_screen()
 
