@@ -46,7 +46,7 @@ const Band& firstBandWithout(Single wetBulb, std::span<const Band> bands, const 
 }
 
 /// Btu/h or kJ/hr. Each operation rounds to single.
-TaggedNumber WetTotal(const TaggedNumber& MassFlow)
+TaggedNumber wetTotal(const TaggedNumber& MassFlow)
 {
     const AirSnapshot& in = CoolingEnteringAir;
     const AirSnapshot& out = CoolingLeavingAir;
@@ -57,7 +57,7 @@ TaggedNumber WetTotal(const TaggedNumber& MassFlow)
 }
 
 /// In double throughout. 0.488 = 2 * 0.244 Btu/(lb F); 2.0426 = 2 * 1.0213 kJ/(kg K).
-TaggedNumber Sensible()
+TaggedNumber sensible()
 {
     const AirSnapshot& in = CoolingEnteringAir;
     const AirSnapshot& out = CoolingLeavingAir;
@@ -82,8 +82,8 @@ void CalculateCoolingLoads()
     const bool DryCoil = CoolingLeavingAir.Tdb >= CoolingEnteringAir.td && LeavingWetBulbGiven == False16;
     const TaggedNumber MassFlow = TaggedNumber(CoolingEnteringAir.AirVolume) / CoolingEnteringAir.SpVol;
     if (!DryCoil)
-        TotalLoad = WetTotal(MassFlow).asSingle();
-    SensibleLoad = Sensible();
+        TotalLoad = wetTotal(MassFlow).asSingle();
+    SensibleLoad = sensible();
     if (DryCoil)
         TotalLoad = SensibleLoad.asSingle();
     else if (IsMetric())

@@ -19,19 +19,19 @@ struct Picture
     bool percent = false;
 };
 
-bool IsDigitPlace(char c) { return c == '#' || c == '0'; }
+bool isDigitPlace(char c) { return c == '#' || c == '0'; }
 
 /// Parses the places before the point. From the first "0" on, every place shows a digit.
-void ReadIntegerPlaces(std::string_view part, Picture& picture)
+void readIntegerPlaces(std::string_view part, Picture& picture)
 {
     for (std::size_t i = 0; i < part.size(); ++i) {
-        if (IsDigitPlace(part[i])) {
+        if (isDigitPlace(part[i])) {
             if (part[i] == '0' || picture.leastIntegerDigits > 0)
                 ++picture.leastIntegerDigits;
             continue;
         }
         const bool between =
-            i > 0 && i + 1 < part.size() && IsDigitPlace(part[i - 1]) && IsDigitPlace(part[i + 1]);
+            i > 0 && i + 1 < part.size() && isDigitPlace(part[i - 1]) && isDigitPlace(part[i + 1]);
         if (part[i] != ',' || !between)
             Raise(ErrorNumber::InvalidArgument);
         picture.groups = true;
@@ -39,10 +39,10 @@ void ReadIntegerPlaces(std::string_view part, Picture& picture)
 }
 
 /// Parses the places after the point. Up to the last "0", every place shows a digit.
-void ReadFractionPlaces(std::string_view part, Picture& picture)
+void readFractionPlaces(std::string_view part, Picture& picture)
 {
     for (const char c : part) {
-        if (!IsDigitPlace(c))
+        if (!isDigitPlace(c))
             Raise(ErrorNumber::InvalidArgument);
         ++picture.mostPlaces;
         if (c == '0')
@@ -50,7 +50,7 @@ void ReadFractionPlaces(std::string_view part, Picture& picture)
     }
 }
 
-Picture ReadPicture(std::string_view text)
+Picture readPicture(std::string_view text)
 {
     Picture picture;
     if (text.ends_with('%')) {
@@ -58,15 +58,15 @@ Picture ReadPicture(std::string_view text)
         text.remove_suffix(1);
     }
     const std::size_t pointAt = text.find('.');
-    ReadIntegerPlaces(text.substr(0, pointAt), picture);
+    readIntegerPlaces(text.substr(0, pointAt), picture);
     if (pointAt != std::string_view::npos) {
         picture.point = true;
-        ReadFractionPlaces(text.substr(pointAt + 1), picture);
+        readFractionPlaces(text.substr(pointAt + 1), picture);
     }
     return picture;
 }
 
-std::string WithGroups(const std::string& digits)
+std::string withGroups(const std::string& digits)
 {
     constexpr std::size_t groupLength = 3;
     std::string text;
@@ -78,7 +78,7 @@ std::string WithGroups(const std::string& digits)
     return text;
 }
 
-std::string Written(Decimal value, const Picture& picture)
+std::string written(Decimal value, const Picture& picture)
 {
     if (picture.percent && !value.isZero())
         value.point += 2;
@@ -92,7 +92,7 @@ std::string Written(Decimal value, const Picture& picture)
         fraction.resize(picture.leastPlaces, '0');
 
     std::string text = value.negative ? "-" : "";
-    text += picture.groups ? WithGroups(integer) : integer;
+    text += picture.groups ? withGroups(integer) : integer;
     if (picture.point)
         text += numberLocale.decimalPoint + fraction;
     if (picture.percent)
@@ -101,7 +101,7 @@ std::string Written(Decimal value, const Picture& picture)
 }
 
 /// The number in a value; nullopt if it is text that is not a number.
-std::optional<double> NumberIn(const TaggedNumber& value)
+std::optional<double> numberIn(const TaggedNumber& value)
 {
     if (value.kind() != NumberKind::Text)
         return value.asDouble();
@@ -116,7 +116,7 @@ std::optional<double> NumberIn(const TaggedNumber& value)
 
 std::string FormatNumber(const TaggedNumber& value, std::string_view picture)
 {
-    const Picture places = ReadPicture(picture);
-    const std::optional<double> number = NumberIn(value);
-    return number ? Written(Decimal::of(*number), places) : value.text();
+    const Picture places = readPicture(picture);
+    const std::optional<double> number = numberIn(value);
+    return number ? written(Decimal::of(*number), places) : value.text();
 }

@@ -13,11 +13,11 @@ namespace {
 
 constexpr int SingleDigits = 7;
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
-char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+char lowered(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-std::string_view WithoutBlanksAround(std::string_view text)
+std::string_view withoutBlanksAround(std::string_view text)
 {
     constexpr std::string_view blanks = " \t";
     const std::size_t first = text.find_first_not_of(blanks);
@@ -30,7 +30,7 @@ std::string_view WithoutBlanksAround(std::string_view text)
 class NumberReader
 {
 public:
-    explicit NumberReader(std::string_view text) : rest_(text) {}
+    explicit NumberReader(std::string_view text) : unread(text) {}
 
     /// @throws RunTimeError type mismatch
     std::string plainSpelling()
@@ -41,35 +41,35 @@ public:
         if (!integer && !fraction)
             Raise(ErrorNumber::TypeMismatch);
         takeExponent();
-        if (!rest_.empty())
+        if (!unread.empty())
             Raise(ErrorNumber::TypeMismatch);
-        return plain_;
+        return spelling;
     }
 
 private:
     /// Skips the token if the rest of the text starts with it. An empty token never matches.
     bool take(std::string_view token)
     {
-        if (token.empty() || !rest_.starts_with(token))
+        if (token.empty() || !unread.starts_with(token))
             return false;
-        rest_.remove_prefix(token.size());
+        unread.remove_prefix(token.size());
         return true;
     }
 
     void takeSign(bool keepMinus)
     {
         if (take("-"))
-            plain_ += '-';
+            spelling += '-';
         else if (take("+") && !keepMinus)
-            plain_ += '+';
+            spelling += '+';
     }
 
     bool takeDigits()
     {
-        const auto end = std::find_if_not(rest_.begin(), rest_.end(), IsDigit);
-        const auto count = static_cast<std::size_t>(end - rest_.begin());
-        plain_ += rest_.substr(0, count);
-        rest_.remove_prefix(count);
+        const auto end = std::find_if_not(unread.begin(), unread.end(), isDigit);
+        const auto count = static_cast<std::size_t>(end - unread.begin());
+        spelling += unread.substr(0, count);
+        unread.remove_prefix(count);
         return count > 0;
     }
 
@@ -88,7 +88,7 @@ private:
     {
         if (!take(numberLocale.decimalPoint))
             return false;
-        plain_ += '.';
+        spelling += '.';
         return takeDigits();
     }
 
@@ -96,18 +96,18 @@ private:
     {
         if (!take("e") && !take("E"))
             return;
-        plain_ += 'e';
+        spelling += 'e';
         takeSign(false);
         if (!takeDigits())
             Raise(ErrorNumber::TypeMismatch);
     }
 
-    std::string_view rest_;
-    std::string plain_;
+    std::string_view unread;
+    std::string spelling;
 };
 
 /// For a plain number outside the range of a double: true if it is too small, false if it is too large.
-bool IsTooSmall(std::string_view plain)
+bool isTooSmall(std::string_view plain)
 {
     const std::size_t exponentAt = std::min(plain.find('e'), plain.size());
     const std::string_view mantissa = plain.substr(0, exponentAt);
@@ -125,13 +125,13 @@ bool IsTooSmall(std::string_view plain)
     return exponent < firstDigitAt - pointAt; // adding to the exponent could overflow
 }
 
-bool EqualsIgnoringCase(std::string_view text, std::string_view lowerCase)
+bool equalsIgnoringCase(std::string_view text, std::string_view lowerCase)
 {
     return std::equal(text.begin(), text.end(), lowerCase.begin(), lowerCase.end(),
-                      [](char a, char b) { return LowerCase(a) == b; });
+                      [](char a, char b) { return lowered(a) == b; });
 }
 
-std::string PlainSpelling(const Decimal& value)
+std::string plainSpelling(const Decimal& value)
 {
     const std::string integer = value.integerDigits();
     const std::string fraction = value.fractionDigits();
@@ -146,11 +146,11 @@ std::string PlainSpelling(const Decimal& value)
 
 double ParseDouble(std::string_view text)
 {
-    const std::string plain = NumberReader(WithoutBlanksAround(text)).plainSpelling();
+    const std::string plain = NumberReader(withoutBlanksAround(text)).plainSpelling();
     double value = 0.0;
     const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
-        if (!IsTooSmall(plain))
+        if (!isTooSmall(plain))
             Raise(ErrorNumber::Overflow);
         return 0.0;
     }
@@ -159,9 +159,9 @@ double ParseDouble(std::string_view text)
 
 Boolean16 ParseBoolean(std::string_view text)
 {
-    if (EqualsIgnoringCase(text, "true"))
+    if (equalsIgnoringCase(text, "true"))
         return True16;
-    if (EqualsIgnoringCase(text, "false"))
+    if (equalsIgnoringCase(text, "false"))
         return False16;
     return ParseDouble(text) == 0.0 ? False16 : True16;
 }
@@ -173,10 +173,10 @@ std::string PlainText(Single value)
         decimal = Decimal::of(value);
         decimal.roundToDigits(SingleDigits);
     }
-    return PlainSpelling(decimal);
+    return plainSpelling(decimal);
 }
 
-std::string PlainText(double value) { return PlainSpelling(Decimal::of(value)); }
+std::string PlainText(double value) { return plainSpelling(Decimal::of(value)); }
 
 std::string PlainText(const TaggedNumber& value)
 {

@@ -2,7 +2,7 @@
 
 const char* RunTimeError::what() const noexcept
 {
-    switch (error_) {
+    switch (kind) {
     case ErrorNumber::InvalidArgument:
         return "Invalid procedure call or argument";
     case ErrorNumber::Overflow:

@@ -19,16 +19,16 @@ enum class ErrorNumber : int
 class RunTimeError : public std::exception
 {
 public:
-    explicit RunTimeError(ErrorNumber error) : error_(error) {}
+    explicit RunTimeError(ErrorNumber error) : kind(error) {}
 
-    ErrorNumber error() const noexcept { return error_; }
-    int number() const noexcept { return static_cast<int>(error_); }
+    ErrorNumber error() const noexcept { return kind; }
+    int number() const noexcept { return static_cast<int>(kind); }
 
     /// The text beside the number in an error report, e.g. "Division by zero".
     const char* what() const noexcept override;
 
 private:
-    ErrorNumber error_;
+    ErrorNumber kind;
 };
 
 /// Throws. Not inline, so that the arithmetic that calls it stays small.

@@ -9,51 +9,51 @@ namespace {
 
 // Steps that the solvers share. Each reads StatePoint and stores its result there at once.
 
-Single SaturationPressureAtDryBulb() { return SaturationPressure(ToAbsolute(StatePoint.Tdb)); }
+Single saturationPressureAtDryBulb() { return SaturationPressure(ToAbsolute(StatePoint.Tdb)); }
 
-void FindGrains()
+void findGrains()
 {
     if (!IsMetric())
         StatePoint.Grains = 7000.0 * StatePoint.W;
 }
 
-void FindDegreeOfSaturation()
+void findDegreeOfSaturation()
 {
     StatePoint.Mu = DegreeOfSaturation(StatePoint.W.asSingle(), StatePoint.Ws.asSingle());
 }
 
-void FindSaturatedHumidityRatio()
+void findSaturatedHumidityRatio()
 {
     StatePoint.Ws = HumidityRatioFromVaporPressure(StatePoint.Pws.asSingle(), StatePoint.P.asSingle());
 }
 
-void FindRelativeHumidity()
+void findRelativeHumidity()
 {
     StatePoint.RH = RHFromDegreeOfSaturation(StatePoint.Mu.asSingle(), StatePoint.Pws.asSingle(),
                                              StatePoint.P.asSingle());
 }
 
-void FindSpecificVolume(Single absolute)
+void findSpecificVolume(Single absolute)
 {
     StatePoint.SpVol = SpecificVolumeOf(absolute, StatePoint.W.asSingle(), StatePoint.P.asSingle());
 }
 
-void FindEnthalpy() { StatePoint.h = EnthalpyOf(StatePoint.Tdb, StatePoint.W.asSingle()); }
+void findEnthalpy() { StatePoint.h = EnthalpyOf(StatePoint.Tdb, StatePoint.W.asSingle()); }
 
-void FindVaporPressure()
+void findVaporPressure()
 {
     StatePoint.Pw = VaporPressureFromHumidityRatio(StatePoint.P.asSingle(), StatePoint.W.asSingle());
 }
 
 /// In Metric, converts the pressure from Pa to kPa for the regression.
-void FindDewPoint()
+void findDewPoint()
 {
     const Single pw = IsMetric() ? (StatePoint.Pw / 1000).asSingle() : StatePoint.Pw.asSingle();
     StatePoint.td = DewPointFromVaporPressure(pw);
 }
 
 /// Nearly saturated air needs no search: its wet bulb is 0.005 degrees below the dry bulb, stored in double.
-void FindWetBulb()
+void findWetBulb()
 {
     if (StatePoint.RH >= 0.999)
         StatePoint.Twb = StatePoint.Tdb - 0.005;
@@ -63,13 +63,13 @@ void FindWetBulb()
 
 /// Vapor pressure, saturation and relative humidity from the humidity ratio and TAbs.
 /// @return true if the air is above saturation
-bool FindHumidityFromRatio()
+bool findHumidityFromRatio()
 {
-    FindVaporPressure();
+    findVaporPressure();
     StatePoint.Pws = SaturationPressure(StatePoint.TAbs);
-    FindSaturatedHumidityRatio();
-    FindDegreeOfSaturation();
-    FindRelativeHumidity();
+    findSaturatedHumidityRatio();
+    findDegreeOfSaturation();
+    findRelativeHumidity();
     return StatePoint.RH > 1.0;
 }
 
@@ -80,48 +80,48 @@ void SolveFromGrains()
     GrainsTooHigh = False16;
     StatePoint.W = StatePoint.Grains / 7000.0;
     StatePoint.TAbs = FahrenheitToRankine(StatePoint.Tdb);
-    if (FindHumidityFromRatio()) {
+    if (findHumidityFromRatio()) {
         GrainsTooHigh = True16;
         ShowCoreMessage("Humidity Ratio Input is too High, Try Again!");
         return;
     }
     StatePoint.TAbs = FahrenheitToRankine(StatePoint.Tdb);
-    FindSpecificVolume(StatePoint.TAbs);
-    FindEnthalpy();
+    findSpecificVolume(StatePoint.TAbs);
+    findEnthalpy();
     StatePoint.td = DewPointFromVaporPressure(StatePoint.Pw.asSingle()); // intentional: not in kPa
-    FindWetBulb();
+    findWetBulb();
 }
 
 void SolveFromW()
 {
     HumidityRatioTooHigh = False16;
     StatePoint.TAbs = ToAbsolute(StatePoint.Tdb);
-    if (FindHumidityFromRatio()) {
+    if (findHumidityFromRatio()) {
         HumidityRatioTooHigh = True16;
         ShowCoreMessage("Humidity Ratio Input is High, Try Again!");
         return;
     }
-    FindGrains();
-    FindSpecificVolume(StatePoint.TAbs);
-    FindEnthalpy();
-    FindDewPoint();
-    FindWetBulb();
+    findGrains();
+    findSpecificVolume(StatePoint.TAbs);
+    findEnthalpy();
+    findDewPoint();
+    findWetBulb();
 }
 
 void SolveFromWetBulb()
 {
     StatePoint.PwsWet = SaturationPressure(ToAbsolute(StatePoint.Twb.asSingle()));
-    StatePoint.Pws = SaturationPressureAtDryBulb();
+    StatePoint.Pws = saturationPressureAtDryBulb();
     StatePoint.WsWet = HumidityRatioFromVaporPressure(StatePoint.PwsWet.asSingle(), StatePoint.P.asSingle());
     StatePoint.W = HumidityRatioFromWetBulb(StatePoint.Twb.asSingle(), StatePoint.Tdb, StatePoint.WsWet);
-    FindGrains();
-    FindSaturatedHumidityRatio();
-    FindDegreeOfSaturation();
-    FindRelativeHumidity();
-    FindSpecificVolume(ToAbsolute(StatePoint.Tdb));
-    FindEnthalpy();
-    FindVaporPressure();
-    FindDewPoint();
+    findGrains();
+    findSaturatedHumidityRatio();
+    findDegreeOfSaturation();
+    findRelativeHumidity();
+    findSpecificVolume(ToAbsolute(StatePoint.Tdb));
+    findEnthalpy();
+    findVaporPressure();
+    findDewPoint();
 }
 
 void SolveFromDewPoint()
@@ -129,14 +129,14 @@ void SolveFromDewPoint()
     StatePoint.PwsDew = SaturationPressure(ToAbsolute(StatePoint.td.asSingle()));
     StatePoint.Pw = StatePoint.PwsDew;
     StatePoint.W = HumidityRatioFromVaporPressure(StatePoint.PwsDew.asSingle(), StatePoint.P.asSingle());
-    StatePoint.Pws = SaturationPressureAtDryBulb();
-    FindSaturatedHumidityRatio();
-    FindDegreeOfSaturation();
-    FindGrains();
-    FindRelativeHumidity();
-    FindSpecificVolume(ToAbsolute(StatePoint.Tdb));
-    FindEnthalpy();
-    FindWetBulb();
+    StatePoint.Pws = saturationPressureAtDryBulb();
+    findSaturatedHumidityRatio();
+    findDegreeOfSaturation();
+    findGrains();
+    findRelativeHumidity();
+    findSpecificVolume(ToAbsolute(StatePoint.Tdb));
+    findEnthalpy();
+    findWetBulb();
 }
 
 void SolveFromRH()
@@ -146,14 +146,14 @@ void SolveFromRH()
         StatePoint.RH = 1.0;
     if (StatePoint.RH < 0.001)
         StatePoint.RH = 0.001;
-    StatePoint.Pws = SaturationPressureAtDryBulb();
+    StatePoint.Pws = saturationPressureAtDryBulb();
     StatePoint.Pw = VaporPressureFromRH(StatePoint.RH.asSingle(), StatePoint.Pws.asSingle());
     StatePoint.W = HumidityRatioFromVaporPressure(StatePoint.Pw.asSingle(), StatePoint.P.asSingle());
-    FindSaturatedHumidityRatio();
-    FindDegreeOfSaturation();
-    FindGrains();
-    FindSpecificVolume(ToAbsolute(StatePoint.Tdb));
-    FindEnthalpy();
-    FindDewPoint();
-    FindWetBulb();
+    findSaturatedHumidityRatio();
+    findDegreeOfSaturation();
+    findGrains();
+    findSpecificVolume(ToAbsolute(StatePoint.Tdb));
+    findEnthalpy();
+    findDewPoint();
+    findWetBulb();
 }

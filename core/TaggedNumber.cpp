@@ -10,12 +10,12 @@ namespace {
 constexpr double LeastInt16 = std::numeric_limits<std::int16_t>::min();
 constexpr double GreatestInt16 = std::numeric_limits<std::int16_t>::max();
 
-bool IsWide(NumberKind kind) { return kind == NumberKind::Double || kind == NumberKind::Text; }
+bool isWide(NumberKind kind) { return kind == NumberKind::Double || kind == NumberKind::Text; }
 
 /// The kind of the result of arithmetic on two numbers.
-NumberKind CommonKind(const TaggedNumber& left, const TaggedNumber& right)
+NumberKind commonKind(const TaggedNumber& left, const TaggedNumber& right)
 {
-    if (IsWide(left.kind()) || IsWide(right.kind()))
+    if (isWide(left.kind()) || isWide(right.kind()))
         return NumberKind::Double;
     if (left.kind() == NumberKind::Single || right.kind() == NumberKind::Single)
         return NumberKind::Single;
@@ -24,7 +24,7 @@ NumberKind CommonKind(const TaggedNumber& left, const TaggedNumber& right)
 
 /// Rounds a result that was computed in double to its kind. Integers and singles have so few digits that
 /// rounding to double and then to the kind is the same as rounding once.
-TaggedNumber Rounded(double value, NumberKind kind)
+TaggedNumber rounded(double value, NumberKind kind)
 {
     switch (kind) {
     case NumberKind::Int16:
@@ -38,37 +38,37 @@ TaggedNumber Rounded(double value, NumberKind kind)
 
 } // namespace
 
-TaggedNumber::TaggedNumber(int value) : value_(value)
+TaggedNumber::TaggedNumber(int value) : number(value)
 {
     if (value < LeastInt16 || value > GreatestInt16)
         Raise(ErrorNumber::Overflow);
 }
 
-TaggedNumber::TaggedNumber(std::string text) : kind_(NumberKind::Text), text_(std::move(text)) {}
+TaggedNumber::TaggedNumber(std::string text) : heldKind(NumberKind::Text), heldText(std::move(text)) {}
 
-double TaggedNumber::numberInText() const { return ParseDouble(text_); }
+double TaggedNumber::numberInText() const { return ParseDouble(heldText); }
 
 std::int16_t TaggedNumber::asInt16() const { return RoundToInt16(asDouble()); }
 
 TaggedNumber operator+(const TaggedNumber& left, const TaggedNumber& right)
 {
-    return Rounded(left.asDouble() + right.asDouble(), CommonKind(left, right));
+    return rounded(left.asDouble() + right.asDouble(), commonKind(left, right));
 }
 
 TaggedNumber operator-(const TaggedNumber& left, const TaggedNumber& right)
 {
-    return Rounded(left.asDouble() - right.asDouble(), CommonKind(left, right));
+    return rounded(left.asDouble() - right.asDouble(), commonKind(left, right));
 }
 
 TaggedNumber operator*(const TaggedNumber& left, const TaggedNumber& right)
 {
-    return Rounded(left.asDouble() * right.asDouble(), CommonKind(left, right));
+    return rounded(left.asDouble() * right.asDouble(), commonKind(left, right));
 }
 
 TaggedNumber operator/(const TaggedNumber& left, const TaggedNumber& right)
 {
-    const NumberKind kind = CommonKind(left, right);
+    const NumberKind kind = commonKind(left, right);
     const double dividend = left.asDouble();
-    return Rounded(Quotient(dividend, right.asDouble()),
+    return rounded(Quotient(dividend, right.asDouble()),
                    kind == NumberKind::Int16 ? NumberKind::Double : kind);
 }

@@ -25,10 +25,10 @@ class TaggedNumber
 {
 public:
     TaggedNumber() = default; ///< the integer 0
-    TaggedNumber(std::int16_t value) : value_(value) {}
+    TaggedNumber(std::int16_t value) : number(value) {}
     TaggedNumber(int value); ///< @throws RunTimeError overflow outside 16 bits
-    TaggedNumber(Single value) : kind_(NumberKind::Single), value_(static_cast<double>(value)) {}
-    TaggedNumber(double value) : kind_(NumberKind::Double), value_(value) {}
+    TaggedNumber(Single value) : heldKind(NumberKind::Single), number(static_cast<double>(value)) {}
+    TaggedNumber(double value) : heldKind(NumberKind::Double), number(value) {}
     TaggedNumber(std::string text);
     TaggedNumber(const char* text) : TaggedNumber(std::string(text)) {}
     TaggedNumber(bool) = delete; ///< the calculator's booleans are 16-bit integers
@@ -39,12 +39,12 @@ public:
     TaggedNumber& operator=(Single value) { return hold(NumberKind::Single, static_cast<double>(value)); }
     TaggedNumber& operator=(double value) { return hold(NumberKind::Double, value); }
 
-    NumberKind kind() const { return kind_; }
-    const std::string& text() const { return text_; } ///< the text as assigned; empty for a number
+    NumberKind kind() const { return heldKind; }
+    const std::string& text() const { return heldText; } ///< the text as assigned; empty for a number
 
     /// The exact value. Text is parsed here.
     /// @throws RunTimeError as ParseDouble, if the value is text
-    double asDouble() const { return kind_ == NumberKind::Text ? numberInText() : value_; }
+    double asDouble() const { return heldKind == NumberKind::Text ? numberInText() : number; }
 
     /// The value rounded to single, as the equations use it.
     /// @throws RunTimeError as asDouble(), and overflow
@@ -70,15 +70,15 @@ public:
 private:
     TaggedNumber& hold(NumberKind kind, double value)
     {
-        kind_ = kind;
-        value_ = value;
-        text_.clear();
+        heldKind = kind;
+        number = value;
+        heldText.clear();
         return *this;
     }
 
     double numberInText() const;
 
-    NumberKind kind_ = NumberKind::Int16;
-    double value_ = 0.0; // holds 16-bit integers and singles exactly
-    std::string text_;
+    NumberKind heldKind = NumberKind::Int16;
+    double number = 0.0; // holds 16-bit integers and singles exactly
+    std::string heldText;
 };

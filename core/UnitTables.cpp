@@ -6,7 +6,7 @@
 
 namespace {
 
-void Fill(UnitTable& table, const char* english, const char* metric)
+void fill(UnitTable& table, const char* english, const char* metric)
 {
     table[0] = english;
     table[1] = metric;
@@ -16,12 +16,12 @@ void Fill(UnitTable& table, const char* english, const char* metric)
 
 void FillUnitTables()
 {
-    Fill(TempUnit, " deg F", " deg C");
-    Fill(SpVolUnit, " ft3 per Lb.", " m3 per kg");
-    Fill(EnthalpyUnit, " Btu/lb.", " kJ/kg");
-    Fill(EnergyUnit, " Btu", " kW");
-    Fill(AirVolumeUnit, " cfm", " m3/hr");
-    Fill(HumidityUnit, " lb. water/lb. dry air", " g water/kg dry air");
+    fill(TempUnit, " deg F", " deg C");
+    fill(SpVolUnit, " ft3 per Lb.", " m3 per kg");
+    fill(EnthalpyUnit, " Btu/lb.", " kJ/kg");
+    fill(EnergyUnit, " Btu", " kW");
+    fill(AirVolumeUnit, " cfm", " m3/hr");
+    fill(HumidityUnit, " lb. water/lb. dry air", " g water/kg dry air");
 }
 
 const std::string& UnitLabel(const UnitTable& table)

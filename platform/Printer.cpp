@@ -96,35 +96,35 @@ Printer& CurrentPrinter()
     return *currentPrinter;
 }
 
-Printer::Printer(const std::string& device) : device_(OpenDevice(device)), font_(firstFont()) {}
+Printer::Printer(const std::string& device) : openDevice(OpenDevice(device)), lineFont(firstFont()) {}
 Printer::~Printer() { dropDocument(); }
 
 void Printer::changeDevice(const std::string& device)
 {
     if (!isPrinting())
-        device_ = OpenDevice(device);
+        openDevice = OpenDevice(device);
 }
 
-std::string Printer::deviceName() const { return DeviceName(*device_); }
+std::string Printer::deviceName() const { return DeviceName(*openDevice); }
 
 std::string Printer::port() const
 {
-    return (deviceName() == FilePrinter ? device_->outputFileName() : QPrinterInfo(*device_).location())
+    return (deviceName() == FilePrinter ? openDevice->outputFileName() : QPrinterInfo(*openDevice).location())
         .toStdString();
 }
 
 void Printer::setPort(const std::string& file)
 {
     if (!isPrinting() && deviceName() == FilePrinter) {
-        device_->setOutputFileName(QString::fromStdString(file));
-        device_->setOutputFormat(QPrinter::PdfFormat); // whatever the extension
+        openDevice->setOutputFileName(QString::fromStdString(file));
+        openDevice->setOutputFormat(QPrinter::PdfFormat); // whatever the extension
     }
 }
 
 void Printer::changeSettings(const std::function<void(QPrinter&)>& change)
 {
     if (!isPrinting())
-        change(*device_);
+        change(*openDevice);
 }
 
 void Printer::setTitle(const std::string& title)
@@ -134,7 +134,7 @@ void Printer::setTitle(const std::string& title)
 
 PrinterFont Printer::font() const
 {
-    return {.name = font_.family().toStdString(), .size = font_.pointSize(), .bold = font_.bold()};
+    return {.name = lineFont.family().toStdString(), .size = lineFont.pointSize(), .bold = lineFont.bold()};
 }
 
 void Printer::setFont(const PrinterFont& font)
@@ -143,9 +143,9 @@ void Printer::setFont(const PrinterFont& font)
     QStringList families{QString::fromStdString(font.name)};
     if (font.name == "Arial")
         families << "Liberation Sans";
-    font_.setFamilies(families);
-    font_.setPointSize(font.size);
-    font_.setBold(font.bold);
+    lineFont.setFamilies(families);
+    lineFont.setPointSize(font.size);
+    lineFont.setBold(font.bold);
 }
 
 bool Printer::printLine(const std::string& line)
@@ -153,7 +153,7 @@ bool Printer::printLine(const std::string& line)
     if (!isPrinting() && !beginDocument())
         return false;
 
-    QTextLayout layout(QString::fromStdString(line), font_, device_.get());
+    QTextLayout layout(QString::fromStdString(line), lineFont, openDevice.get());
     breakIntoLines(layout, painter->viewport().width());
     for (int i = 0; i < layout.lineCount(); ++i) {
         QTextLine part = layout.lineAt(i);
@@ -181,7 +181,7 @@ bool Printer::beginDocument()
         return false;
     painter = std::make_unique<QPainter>();
     usedHeight = 0;
-    if (!painter->begin(device_.get()))
+    if (!painter->begin(openDevice.get()))
         painter.reset();
     return isPrinting();
 }
@@ -191,7 +191,7 @@ bool Printer::makeRoomFor(double height)
     if (usedHeight == 0 || usedHeight + height <= painter->viewport().height())
         return true;
     usedHeight = 0;
-    return device_->newPage();
+    return openDevice->newPage();
 }
 
 void Printer::dropDocument()
@@ -201,5 +201,5 @@ void Printer::dropDocument()
     // Ending the painter, destroying the device and the toolkit's own abort would all send the document. So
     // both live until the process ends.
     static auto* const unfinished = new std::vector<std::pair<QPainter*, QPrinter*>>;
-    unfinished->emplace_back(painter.release(), device_.release());
+    unfinished->emplace_back(painter.release(), openDevice.release());
 }

@@ -37,7 +37,7 @@ public:
     void setPort(const std::string& file); ///< for the file printer only
 
     /// The toolkit's device: orientation, paper, copies, color mode and so on.
-    QPrinter& device() const { return *device_; }
+    QPrinter& device() const { return *openDevice; }
     void changeSettings(const std::function<void(QPrinter&)>& change);
 
     /// The title of the documents that follow.
@@ -61,9 +61,9 @@ private:
     bool makeRoomFor(double height);
     void dropDocument();
 
-    std::unique_ptr<QPrinter> device_;
+    std::unique_ptr<QPrinter> openDevice;
     std::unique_ptr<QPainter> painter;
-    QFont font_;
+    QFont lineFont;
     double usedHeight = 0; // on the page, in dots
 };
 

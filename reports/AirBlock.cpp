@@ -5,7 +5,7 @@
 
 namespace {
 
-TaggedNumber GramsPerKilogram(const TaggedNumber& W) { return RoundToSingle(W.asDouble() * 1000.0); }
+TaggedNumber gramsPerKilogram(const TaggedNumber& W) { return RoundToSingle(W.asDouble() * 1000.0); }
 
 } // namespace
 
@@ -34,7 +34,7 @@ void WriteAirBlock(ReportWriter& report, const AirSnapshot& air)
                                    .Grains = air.Grains,
                                    .SpVol = air.SpVol,
                                    .h = air.h,
-                                   .shownW = IsMetric() ? GramsPerKilogram : AsItIs});
+                                   .shownW = IsMetric() ? gramsPerKilogram : AsItIs});
 }
 
 void WriteAirSection(ReportWriter& report, std::string_view heading, const AirSnapshot& air)

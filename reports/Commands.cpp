@@ -13,7 +13,7 @@ using namespace std::string_view_literals;
 
 namespace {
 
-void WriteFile(const std::string& path, Links links, const WriteReport& writeReport)
+void writeFile(const std::string& path, Links links, const WriteReport& writeReport)
 {
     ReportFile.openForOutput(path, links);
     ReportWriter report([](const std::string& line) { ReportFile.writeLine(line); });
@@ -21,7 +21,7 @@ void WriteFile(const std::string& path, Links links, const WriteReport& writeRep
     ReportFile.close();
 }
 
-void PrintFile(const std::string& path)
+void printFile(const std::string& path)
 {
     ReportFile.openForInput(path, Links::Refuse);
     while (!ReportFile.atEnd()) {
@@ -45,8 +45,8 @@ void PrintReport(const Form& owner, const std::string& title, const std::string&
         if (font)
             CurrentPrinter().setFont(*font);
         CurrentPrinter().setTitle(title);
-        WriteFile(path, Links::Refuse, writeReport);
-        PrintFile(path);
+        writeFile(path, Links::Refuse, writeReport);
+        printFile(path);
     } catch (const std::exception&) {
         // Intentional: failures are not reported.
     }
@@ -57,7 +57,7 @@ void SaveReport(const Form& owner, const std::string& title, const WriteReport& 
     try {
         const std::string folder = DataFolder();
         const std::string path = ShowSaveDialog(owner, "All Files (*.*)\0*.*\0"sv, title, folder);
-        WriteFile(path, Links::Follow, writeReport); // throws on Cancel, which gives an empty path
+        writeFile(path, Links::Follow, writeReport); // throws on Cancel, which gives an empty path
     } catch (const std::exception&) {
         // Intentional: failures are not reported.
     }

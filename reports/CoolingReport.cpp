@@ -8,7 +8,7 @@ using namespace forms;
 
 namespace {
 
-void WriteSummaryLine(ReportWriter& report, std::string_view label, const TaggedNumber& value,
+void writeSummaryLine(ReportWriter& report, std::string_view label, const TaggedNumber& value,
                       const UnitTable& unit)
 {
     report.labelValueAndUnit(label, FormatNumber(value, "#,###.0"), UnitLabel(unit));
@@ -24,10 +24,10 @@ void WriteCoolingReport(ReportWriter& report)
     WriteAirSection(report, "Cooling Leaving Air Properties", CoolingLeavingAir);
     report.dateAmidBlankLines();
     report.underlinedHeading("Cooling Load Summary");
-    WriteSummaryLine(report, "Air Flow Rate = ", CoolingEnteringAir.AirVolume, AirVolumeUnit);
-    WriteSummaryLine(report, "Sensible Cooling = ", SensibleLoad, EnergyUnit);
-    WriteSummaryLine(report, "Latent Cooling = ", LatentLoad, EnergyUnit);
-    WriteSummaryLine(report, "Total Cooling = ", TotalLoad, EnergyUnit);
+    writeSummaryLine(report, "Air Flow Rate = ", CoolingEnteringAir.AirVolume, AirVolumeUnit);
+    writeSummaryLine(report, "Sensible Cooling = ", SensibleLoad, EnergyUnit);
+    writeSummaryLine(report, "Latent Cooling = ", LatentLoad, EnergyUnit);
+    writeSummaryLine(report, "Total Cooling = ", TotalLoad, EnergyUnit);
 }
 
 void PrintCooling(const Form& owner)

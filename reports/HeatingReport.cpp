@@ -8,7 +8,7 @@ using namespace forms;
 
 namespace {
 
-void WriteSummary(ReportWriter& report)
+void writeSummary(ReportWriter& report)
 {
     report.underlinedHeading("Heating Load Summary");
     report.labelValueAndUnit("Air Flow Rate = ", FormatNumber(HeatingEnteringAir.AirVolume, "#,###"),
@@ -26,7 +26,7 @@ void WritePrintedHeatingReport(ReportWriter& report)
     report.dateAmidBlankLines();
     WriteAirSection(report, "Heating Leaving Air Properties", HeatingLeavingAir);
     report.dateAmidBlankLines();
-    WriteSummary(report);
+    writeSummary(report);
 }
 
 void WriteSavedHeatingReport(ReportWriter& report)
@@ -38,7 +38,7 @@ void WriteSavedHeatingReport(ReportWriter& report)
     report.emptyColumn4Lines(1);
     WriteAirSection(report, "Heating Leaving Air Properties", HeatingLeavingAir);
     report.emptyColumn4Lines(1);
-    WriteSummary(report);
+    writeSummary(report);
 }
 
 void PrintHeating(const Form& owner)

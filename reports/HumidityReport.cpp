@@ -16,27 +16,27 @@ struct SpacePictures
 constexpr SpacePictures OnPaper{.volume = "#,##0", .airChanges = "#,##0.0", .outsideAir = "#,##0"};
 constexpr SpacePictures InFile{.volume = "#,##0.#", .airChanges = "#,##0.0#", .outsideAir = "#,##0.#"};
 
-void WriteSpaceLine(ReportWriter& report, std::string_view label, const FieldText& text,
+void writeSpaceLine(ReportWriter& report, std::string_view label, const FieldText& text,
                     std::string_view picture)
 {
     report.labelValueAndUnit(label, FormatNumber(text.value, picture), text.unit);
 }
 
 /// @return the texts, for the rest of the report
-HumidityTexts WriteSummary(ReportWriter& report, const ReadHumidityTexts& readTexts,
+HumidityTexts writeSummary(ReportWriter& report, const ReadHumidityTexts& readTexts,
                            const SpacePictures& pictures)
 {
     report.underlinedHeading("Humidity Data Summary");
     HumidityTexts texts = readTexts();
-    WriteSpaceLine(report, "Volume of Space = ", texts.spaceVolume, pictures.volume);
-    WriteSpaceLine(report, "Air Changes = ", texts.airChanges, pictures.airChanges);
+    writeSpaceLine(report, "Volume of Space = ", texts.spaceVolume, pictures.volume);
+    writeSpaceLine(report, "Air Changes = ", texts.airChanges, pictures.airChanges);
     report.heading("------  OR  -------------------------");
-    WriteSpaceLine(report, "Infiltration Rate = ", texts.outsideAir, pictures.outsideAir);
+    writeSpaceLine(report, "Infiltration Rate = ", texts.outsideAir, pictures.outsideAir);
     report.rule();
     return texts;
 }
 
-void WriteMoisture(ReportWriter& report, const HumidityTexts& texts)
+void writeMoisture(ReportWriter& report, const HumidityTexts& texts)
 {
     report.underlinedHeading("Moisture Required");
     for (const FieldText& text : {texts.massPerHour, texts.massPerDay, texts.flowPerHour, texts.flowPerDay})
@@ -54,9 +54,9 @@ void WritePrintedHumidityReport(ReportWriter& report, const ReadHumidityTexts& r
     report.emptyColumn4Lines(2);
     WriteAirSection(report, "Humidified Air Properties", HumidDesiredAir);
     report.emptyColumn4Lines(3);
-    const HumidityTexts texts = WriteSummary(report, readTexts, OnPaper);
+    const HumidityTexts texts = writeSummary(report, readTexts, OnPaper);
     report.emptyColumn4Lines(2);
-    WriteMoisture(report, texts);
+    writeMoisture(report, texts);
 }
 
 void WriteSavedHumidityReport(ReportWriter& report, const ReadHumidityTexts& readTexts)
@@ -66,8 +66,8 @@ void WriteSavedHumidityReport(ReportWriter& report, const ReadHumidityTexts& rea
     report.emptyColumn4Lines(1);
     WriteAirSection(report, "Humidified Air Properties", HumidDesiredAir);
     report.emptyColumn4Lines(1);
-    const HumidityTexts texts = WriteSummary(report, readTexts, InFile);
-    WriteMoisture(report, texts);
+    const HumidityTexts texts = writeSummary(report, readTexts, InFile);
+    writeMoisture(report, texts);
 }
 
 void PrintHumidity(const Form& owner, const ReadHumidityTexts& readTexts)

@@ -7,7 +7,7 @@ using namespace forms;
 
 namespace {
 
-void WriteBlock(ReportWriter& report, std::string_view heading, const AirSnapshot& air)
+void writeBlock(ReportWriter& report, std::string_view heading, const AirSnapshot& air)
 {
     report.dateAmidBlankLines();
     report.underlinedHeading(heading);
@@ -20,9 +20,9 @@ void WriteBlock(ReportWriter& report, std::string_view heading, const AirSnapsho
 
 void WriteMixedAirReport(ReportWriter& report)
 {
-    WriteBlock(report, "Outside Air Properties", MixedOutsideAir);
-    WriteBlock(report, "Return Air Properties", MixedReturnAir);
-    WriteBlock(report, "Mixed Air Properties", MixedResultAir);
+    writeBlock(report, "Outside Air Properties", MixedOutsideAir);
+    writeBlock(report, "Return Air Properties", MixedReturnAir);
+    writeBlock(report, "Mixed Air Properties", MixedResultAir);
 }
 
 void PrintMixedAir(const Form& owner)

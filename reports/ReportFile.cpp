@@ -8,7 +8,7 @@
 
 namespace {
 
-std::string MadeFolder(const std::string& name)
+std::string madeFolder(const std::string& name)
 {
     std::string folder = WorkFolder(ReportsBase(), name);
     if (!FolderExists(folder) && !MakeFolder(folder))
@@ -18,8 +18,8 @@ std::string MadeFolder(const std::string& name)
 
 } // namespace
 
-std::string DataFolder() { return MadeFolder("data"); }
-std::string TempFolder() { return MadeFolder("tempdata"); }
+std::string DataFolder() { return madeFolder("data"); }
+std::string TempFolder() { return madeFolder("tempdata"); }
 
 void NumberedFile::openForOutput(const std::string& path, Links links)
 {

@@ -10,33 +10,33 @@ constexpr std::size_t RuleLength = 37;
 constexpr std::size_t TextColumn = 2;
 constexpr std::size_t FarTextColumn = 4;
 
-bool StartsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
+bool startsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 
 /// A line, built from left to right. Each character counts as one column, regardless of its length in UTF-8.
 class Line
 {
 public:
-    explicit Line(std::size_t firstColumn) : text_(firstColumn - 1, ' '), column_(firstColumn) {}
+    explicit Line(std::size_t firstColumn) : written(firstColumn - 1, ' '), nextColumn(firstColumn) {}
 
     Line& put(std::string_view text)
     {
-        text_ += text;
-        column_ += static_cast<std::size_t>(std::count_if(text.begin(), text.end(), StartsCharacter));
+        written += text;
+        nextColumn += static_cast<std::size_t>(std::count_if(text.begin(), text.end(), startsCharacter));
         return *this;
     }
 
     /// Pads to the first print zone after the current column.
     Line& PrintZone()
     {
-        const std::size_t zonesBegun = (column_ - 1) / ZoneWidth + 1;
-        return put(std::string(zonesBegun * ZoneWidth + 1 - column_, ' '));
+        const std::size_t zonesBegun = (nextColumn - 1) / ZoneWidth + 1;
+        return put(std::string(zonesBegun * ZoneWidth + 1 - nextColumn, ' '));
     }
 
-    const std::string& text() const { return text_; }
+    const std::string& text() const { return written; }
 
 private:
-    std::string text_;
-    std::size_t column_;
+    std::string written;
+    std::size_t nextColumn;
 };
 
 } // namespace

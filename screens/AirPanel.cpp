@@ -37,14 +37,14 @@ void AirPanel::connectHandlers()
 void AirPanel::itemChanged(const char* selector)
 {
     btnCALCULATE.enable();
-    setEnabled(switched.offOnChange, false);
+    EnableAll(switched.offOnChange, false);
     HumiditySelector = selector;
 }
 
 void AirPanel::itemClicked(std::initializer_list<TextField*> othersInOrder, const char* selector)
 {
     btnCALCULATE.enable();
-    setEnabled(switched.offOnClick, false);
+    EnableAll(switched.offOnClick, false);
     for (TextField* other : othersInOrder)
         other->clear();
     txth.clear();

@@ -42,7 +42,7 @@ void AirPanel::refuseInput()
 void AirPanel::calculate()
 {
     RepaintForm();
-    setEnabled(switched.offAtCalculation, false);
+    EnableAll(switched.offAtCalculation, false);
     StatePoint.Tdb = ParseSingle(txtTdb.text());
     if (StatePoint.Tdb < lowestTdb || StatePoint.Tdb > highestTdb) {
         btnCALCULATE.disable();
@@ -62,8 +62,8 @@ void AirPanel::calculate()
 /// Also runs after a refused humidity ratio, so that the user can continue with the refused state.
 void AirPanel::finishCalculation()
 {
-    setEnabled(switched.offAfterwards, false);
-    setEnabled(switched.onAfterwards, true);
+    EnableAll(switched.offAfterwards, false);
+    EnableAll(switched.onAfterwards, true);
     if (switched.focusAfterwards != nullptr)
         switched.focusAfterwards->takeFocus();
 }

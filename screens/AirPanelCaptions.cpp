@@ -22,20 +22,20 @@ void AirPanel::RepaintForm()
     txtP.setCaption(PlainText(BaroPressure));
     repaintExtras();
     lblRH2.setCaption(" %");
-    colourLabels({&lblTwb2, &lblRH2, &lblDewPt2, &lblW2, &lblGrains2}, Colours::Grey); // no warnings
+    ColourLabels({&lblTwb2, &lblRH2, &lblDewPt2, &lblW2, &lblGrains2}, Colours::Grey); // no warnings
     nameFields();
 }
 
 void AirPanel::layOutRows()
 {
-    layOutInFrame(Frame2, {{lblTdb1, txtTdb, lblTdb2}, {lblP1, txtP, lblP2}});
-    layOutInFrame(Frame1, {{lblTwb1, txtTwb, lblTwb2},
+    LayOutInFrame(Frame2, {{lblTdb1, txtTdb, lblTdb2}, {lblP1, txtP, lblP2}});
+    LayOutInFrame(Frame1, {{lblTwb1, txtTwb, lblTwb2},
                            {lblDewPt1, txttd, lblDewPt2},
                            {lblRH1, txtRH, lblRH2},
                            {lblW1, txtW, lblW2},
                            {lblGrains1, txtGrains, lblGrains2}});
-    layOutInFrame(Frame3, {{lblEnthalpy1, txth, lblEnthalpy2}, {lblSpVol1, txtSpVol, lblSpVol2}});
-    colourLabels({&lblTdb2, &lblP2, &lblEnthalpy2, &lblSpVol2}, Colours::Grey);
+    LayOutInFrame(Frame3, {{lblEnthalpy1, txth, lblEnthalpy2}, {lblSpVol1, txtSpVol, lblSpVol2}});
+    ColourLabels({&lblTdb2, &lblP2, &lblEnthalpy2, &lblSpVol2}, Colours::Grey);
     txtP.setBoxed();
     for (TextField* field : {&txtTdb, &txtTwb, &txttd, &txtRH, &txtW, &txtGrains, &txth, &txtSpVol})
         field->alignRight();
@@ -54,7 +54,7 @@ void AirPanel::layOutActions(std::initializer_list<Button*> buttons)
 {
     auto* const actions = new Column(Frame5, {14, 14, 14, 14}, 12);
     for (Button* button : buttons) {
-        setLeastHeight(*button, heightOfLines(*button, 2));
+        SetLeastHeight(*button, HeightOfLines(*button, 2));
         actions->add(*button);
     }
     actions->addStretch();
@@ -94,13 +94,13 @@ void AirPanel::layOutFramesBelow(Frame& banner, Frame* underActions)
 
 void AirPanel::nameFields()
 {
-    nameWithUnit(txtTdb, "Dry bulb temperature", lblTdb2.caption());
-    nameWithUnit(txtP, "Barometric pressure " + txtP.caption(), lblP2.caption());
-    nameWithUnit(txtTwb, "Wet bulb temperature", lblTwb2.caption());
-    nameWithUnit(txttd, "Dew point temperature", lblDewPt2.caption());
-    nameWithUnit(txtRH, "Relative humidity", lblRH2.caption());
-    nameWithUnit(txtW, "Humidity ratio W", lblW2.caption());
-    nameWithUnit(txtGrains, "Humidity ratio in grains", lblGrains2.caption());
-    nameWithUnit(txth, "Enthalpy", lblEnthalpy2.caption());
-    nameWithUnit(txtSpVol, "Specific volume", lblSpVol2.caption());
+    NameWithUnit(txtTdb, "Dry bulb temperature", lblTdb2.caption());
+    NameWithUnit(txtP, "Barometric pressure " + txtP.caption(), lblP2.caption());
+    NameWithUnit(txtTwb, "Wet bulb temperature", lblTwb2.caption());
+    NameWithUnit(txttd, "Dew point temperature", lblDewPt2.caption());
+    NameWithUnit(txtRH, "Relative humidity", lblRH2.caption());
+    NameWithUnit(txtW, "Humidity ratio W", lblW2.caption());
+    NameWithUnit(txtGrains, "Humidity ratio in grains", lblGrains2.caption());
+    NameWithUnit(txth, "Enthalpy", lblEnthalpy2.caption());
+    NameWithUnit(txtSpVol, "Specific volume", lblSpVol2.caption());
 }

@@ -61,7 +61,7 @@ constexpr Twips rowDistance = 420;
 void placeText(Label& label, Twips left, Twips top, Twips width, Colour colour, Twips height = cellHeight)
 {
     label.place(left, top, width, height);
-    colourLabels({&label}, colour);
+    ColourLabels({&label}, colour);
 }
 
 TaggedNumber valueOf(const TableQuantity& quantity, const AirSnapshot& stream)

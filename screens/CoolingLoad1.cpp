@@ -32,7 +32,7 @@ void CoolingLoad1::layOut()
 void CoolingLoad1::Form_Load()
 {
     placeScreen();
-    setEnabled({&btnCALCULATE, &btnSaveEA, &btnSetLA, &btnCalcLoad}, false);
+    EnableAll({&btnCALCULATE, &btnSaveEA, &btnSetLA, &btnCalcLoad}, false);
     LeavingAirAccepted = False16;
     RepaintForm();
 }
@@ -42,7 +42,7 @@ void CoolingLoad1::btnSaveEA_Click()
     form<cfmForm>().ShowModal();
     CoolingEnteringAir = AirSnapshot::of(StatePoint, AirVolume);
     CoolingEnteringAir.td = RoundToScale(StatePoint.td, 10); // the only dew point that is rounded
-    setEnabled({&btnCALCULATE, &btnSaveEA, &btnCalcLoad}, false);
+    EnableAll({&btnCALCULATE, &btnSaveEA, &btnCalcLoad}, false);
     btnSetLA.enable();
     btnSetLA.takeFocus();
     Frame6.setCaption("Verify Entering Air Conditions ... then click Set Leaving Air");
@@ -92,7 +92,7 @@ void CoolingLoad1::keepLeavingAir()
     Frame6.setCaption("Cooling Coil Leaving Air Conditions:");
     Frame1.setCaption(""); // never restored
     Frame2.setCaption("");
-    setEnabled({&btnCALCULATE, &btnSaveEA, &btnSetLA}, false);
+    EnableAll({&btnCALCULATE, &btnSaveEA, &btnSetLA}, false);
     btnCalcLoad.enable();
     btnCalcLoad.takeFocus();
 }

@@ -15,15 +15,15 @@ CoolingLoad2::CoolingLoad2() : Form("CoolingLoad2", FormKind::Dialog)
 void CoolingLoad2::layOut()
 {
     Label1.setWrapped();
-    setLeastHeight(Label1, heightOfLines(Label1, 2));
+    SetLeastHeight(Label1, HeightOfLines(Label1, 2));
     auto* const grid = new Grid(*this, {20, 20, 20, 20}, 12);
     grid->add(Label1, 0, 0, 1, 3);
-    addCells(*grid, 1, {&Label2, &txtLATdb, &Label3});
-    addCells(*grid, 2, {&Label4, &txtLATwb, &Label5});
-    grid->setColumnMinimumWidth(1, widthOfCharacters(Label1, 16));
-    grid->setColumnMinimumWidth(2, widthOfCharacters(Label1, 20));
+    AddCells(*grid, 1, {&Label2, &txtLATdb, &Label3});
+    AddCells(*grid, 2, {&Label4, &txtLATwb, &Label5});
+    grid->setColumnMinimumWidth(1, WidthOfCharacters(Label1, 16));
+    grid->setColumnMinimumWidth(2, WidthOfCharacters(Label1, 20));
     grid->setRowMinimumHeight(3, 8);
-    grid->addLayout(buttonRow({}, {&btnOK, &btnCancel}), 4, 0, 1, 3);
+    grid->addLayout(ButtonRow({}, {&btnOK, &btnCancel}), 4, 0, 1, 3);
     txtLATdb.alignRight();
     txtLATwb.alignRight();
     Label2.describe(txtLATdb);
@@ -41,8 +41,8 @@ void CoolingLoad2::Form_Activate()
 {
     for (Label* unit : {&Label3, &Label5})
         unit->setCaption(IsMetric() ? "° C" : "° F");
-    nameWithUnit(txtLATdb, "Leaving air dry bulb", Label3.caption());
-    nameWithUnit(txtLATwb, "Leaving air wet bulb", Label5.caption());
+    NameWithUnit(txtLATdb, "Leaving air dry bulb", Label3.caption());
+    NameWithUnit(txtLATwb, "Leaving air wet bulb", Label5.caption());
 }
 
 // Intentional: the close box leaves both flags unchanged, so an earlier acceptance applies again.

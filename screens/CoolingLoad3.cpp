@@ -43,11 +43,11 @@ void CoolingLoad3::layOut()
     addRow(5, Label5, Sign, txtBTU[0], lblBTU[0]);
     grid->setRowMinimumHeight(6, 10);
     grid->add(Command1, 7, Value);
-    grid->setColumnMinimumWidth(Value, widthOfCharacters(Label1, 18));
+    grid->setColumnMinimumWidth(Value, WidthOfCharacters(Label1, 18));
     for (Label* sign : {&Label4, &Label5})
         sign->setPointSize(12);
     // In the order of the sum, not of the indexes.
-    setTabOrder({&txtcfm1, &txtBTU[1], &txtBTU[2], &txtBTU.front(), &Command1});
+    SetTabOrder({&txtcfm1, &txtBTU[1], &txtBTU[2], &txtBTU.front(), &Command1});
 }
 
 void CoolingLoad3::Form_Load()
@@ -70,10 +70,10 @@ void CoolingLoad3::RepaintCooling3()
     lblBTU[0].setCaption(isMetric ? " kW Total " : " BTU Total ");
     Label3.setCaption(isMetric ? " @ 1.2072 kWh /m3 deg C " : " @ 1.08 BTU per CFM deg F ");
     const char* const loadUnit = isMetric ? "kW" : "BTU";
-    nameWithUnit(txtcfm1, "Air volume", lblcfm1.caption());
-    nameWithUnit(txtBTU[1], "Sensible load", loadUnit);
-    nameWithUnit(txtBTU[2], "Latent load", loadUnit);
-    nameWithUnit(txtBTU[0], "Total load", loadUnit);
+    NameWithUnit(txtcfm1, "Air volume", lblcfm1.caption());
+    NameWithUnit(txtBTU[1], "Sensible load", loadUnit);
+    NameWithUnit(txtBTU[2], "Latent load", loadUnit);
+    NameWithUnit(txtBTU[0], "Total load", loadUnit);
 }
 
 void CoolingLoad3::Command1_Click()

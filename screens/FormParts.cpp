@@ -15,42 +15,42 @@ constexpr double linesPerRow = 2;
 
 } // namespace
 
-void addRow(Grid& grid, int line, const Row& row)
+void AddRow(Grid& grid, int line, const Row& row)
 {
     const std::initializer_list<const Control*> cells{&row.caption, &row.field, &row.unit};
     for (const Control* const cell : cells)
-        setFixedHeight(*cell, heightOfLines(*cell, linesPerRow));
-    addCells(grid, line, cells);
+        SetFixedHeight(*cell, HeightOfLines(*cell, linesPerRow));
+    AddCells(grid, line, cells);
     row.caption.describe(row.field);
 }
 
-void layOutInFrame(Frame& frame, const std::vector<Row>& rows)
+void LayOutInFrame(Frame& frame, const std::vector<Row>& rows)
 {
     auto* const grid = new Grid(frame, {16, 14, 16, 14}, 10);
     grid->setVerticalSpacing(11);
     int line = 0;
     for (const Row& row : rows)
-        addRow(*grid, line++, row);
+        AddRow(*grid, line++, row);
     grid->setRowStretch(line, 1);
-    grid->setColumnMinimumWidth(0, widthOfCharacters(frame, captionCharacters));
-    grid->setColumnMinimumWidth(1, widthOfCharacters(frame, fieldCharacters));
-    grid->setColumnMinimumWidth(2, widthOfCharacters(frame, unitCharacters));
+    grid->setColumnMinimumWidth(0, WidthOfCharacters(frame, captionCharacters));
+    grid->setColumnMinimumWidth(1, WidthOfCharacters(frame, fieldCharacters));
+    grid->setColumnMinimumWidth(2, WidthOfCharacters(frame, unitCharacters));
     grid->setColumnStretch(2, 1);
 }
 
-void layOutPairs(Frame& frame, const std::vector<Pair>& pairs)
+void LayOutPairs(Frame& frame, const std::vector<Pair>& pairs)
 {
     auto* const grid = new Grid(frame, {14, 12, 14, 14}, 6);
     int line = 0;
     for (const Pair& pair : pairs) {
-        setFixedHeight(pair.field, heightOfLines(pair.field, linesPerRow));
+        SetFixedHeight(pair.field, HeightOfLines(pair.field, linesPerRow));
         pair.field.alignRight();
         grid->add(pair.unit, line++, 0);
         grid->add(pair.field, line++, 0);
     }
 }
 
-Line* buttonRow(std::initializer_list<Button*> left, std::initializer_list<Button*> right)
+Line* ButtonRow(std::initializer_list<Button*> left, std::initializer_list<Button*> right)
 {
     auto* const row = new Line;
     row->setSpacing(10);
@@ -62,13 +62,13 @@ Line* buttonRow(std::initializer_list<Button*> left, std::initializer_list<Butto
     return row;
 }
 
-void setEnabled(const std::vector<Button*>& buttons, bool enabled)
+void EnableAll(const std::vector<Button*>& buttons, bool enabled)
 {
     for (Button* const button : buttons)
         button->setEnabled(enabled);
 }
 
-void colourLabels(std::initializer_list<Label*> labels, Colour colour)
+void ColourLabels(std::initializer_list<Label*> labels, Colour colour)
 {
     for (Label* label : labels) {
         label->setBackColour(colour);
@@ -76,7 +76,7 @@ void colourLabels(std::initializer_list<Label*> labels, Colour colour)
     }
 }
 
-void colourEntries(std::initializer_list<TextField*> fields, Colour colour)
+void ColourEntries(std::initializer_list<TextField*> fields, Colour colour)
 {
     for (TextField* field : fields) {
         field->setBackColour(colour);
@@ -85,7 +85,7 @@ void colourEntries(std::initializer_list<TextField*> fields, Colour colour)
     }
 }
 
-void nameWithUnit(Control& field, const std::string& what, const std::string& unit)
+void NameWithUnit(Control& field, const std::string& what, const std::string& unit)
 {
     field.setAccessibleName(what + ", " + QString::fromStdString(unit).trimmed().toStdString());
 }

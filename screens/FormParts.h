@@ -30,25 +30,25 @@ struct Pair
 };
 
 /// Adds one row to a grid of captions, fields and units.
-void addRow(forms::Grid& grid, int line, const Row& row);
+void AddRow(forms::Grid& grid, int line, const Row& row);
 
 /// Lays out rows in a frame. Captions, fields and units of all frames line up.
-void layOutInFrame(forms::Frame& frame, const std::vector<Row>& rows);
+void LayOutInFrame(forms::Frame& frame, const std::vector<Row>& rows);
 
 /// Lays out fields in a column, each with its unit.
-void layOutPairs(forms::Frame& frame, const std::vector<Pair>& pairs);
+void LayOutPairs(forms::Frame& frame, const std::vector<Pair>& pairs);
 
 /// The row of buttons at the bottom of a dialog, some at the left edge and some at the right.
-forms::Line* buttonRow(std::initializer_list<forms::Button*> left,
+forms::Line* ButtonRow(std::initializer_list<forms::Button*> left,
                        std::initializer_list<forms::Button*> right);
 
-void setEnabled(const std::vector<forms::Button*>& buttons, bool enabled);
+void EnableAll(const std::vector<forms::Button*>& buttons, bool enabled);
 
 /// Gives labels a background and black text.
-void colourLabels(std::initializer_list<forms::Label*> labels, forms::Colour colour);
+void ColourLabels(std::initializer_list<forms::Label*> labels, forms::Colour colour);
 
 /// Gives fields a light background, black text and right alignment.
-void colourEntries(std::initializer_list<forms::TextField*> fields, forms::Colour colour);
+void ColourEntries(std::initializer_list<forms::TextField*> fields, forms::Colour colour);
 
 /// Sets a field's accessible name to its meaning and its unit.
-void nameWithUnit(forms::Control& field, const std::string& what, const std::string& unit);
+void NameWithUnit(forms::Control& field, const std::string& what, const std::string& unit);

@@ -21,10 +21,10 @@ HeatingLoad1::HeatingLoad1() : AirPanel("HeatingLoad1", heatingLoad1)
 void HeatingLoad1::layOut()
 {
     layOutActions({&btnCALCULATE, &btnSaveEnteringAir, &btnInputLeavingAir});
-    layOutPairs(Frame4, {{txtAirVolume, lblAirVolume}, {txtHeatLoad, lblHeatLoad}});
+    LayOutPairs(Frame4, {{txtAirVolume, lblAirVolume}, {txtHeatLoad, lblHeatLoad}});
     layOutFramesBelow(Frame6, &Frame4);
-    colourEntries({&txtAirVolume, &txtHeatLoad}, Colours::LightCyan);
-    colourEntries({&txth, &txtSpVol}, Colours::LightYellow);
+    ColourEntries({&txtAirVolume, &txtHeatLoad}, Colours::LightCyan);
+    ColourEntries({&txth, &txtSpVol}, Colours::LightYellow);
     txtAirVolume.leaveTabOrder();
     txtHeatLoad.leaveTabOrder();
 }
@@ -34,10 +34,10 @@ void HeatingLoad1::Form_Load()
     ClearStatePoint();
     placeScreen();
     form<cfmForm>();
-    setEnabled({&btnCALCULATE, &btnSaveEnteringAir, &btnInputLeavingAir}, false);
+    EnableAll({&btnCALCULATE, &btnSaveEnteringAir, &btnInputLeavingAir}, false);
     RepaintForm();
-    nameWithUnit(txtAirVolume, "Air volume", IsMetric() ? "cubic meter per hour" : "CFM");
-    nameWithUnit(txtHeatLoad, "Heating load", IsMetric() ? "kW" : "BTU");
+    NameWithUnit(txtAirVolume, "Air volume", IsMetric() ? "cubic meter per hour" : "CFM");
+    NameWithUnit(txtHeatLoad, "Heating load", IsMetric() ? "kW" : "BTU");
 }
 
 // Disables nothing: the entering air can be saved again with another volume.

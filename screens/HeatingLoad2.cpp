@@ -22,13 +22,13 @@ void HeatingLoad2::layOut()
     auto* const grid = new Grid(*this, {24, 24, 24, 20}, 12);
     grid->setVerticalSpacing(10);
     grid->add(Label1, 0, 0, 1, 3);
-    addCells(*grid, 1, {&Label3, &txtHeatLAT, &Label2});
-    grid->setColumnMinimumWidth(1, widthOfCharacters(Label1, 14));
+    AddCells(*grid, 1, {&Label3, &txtHeatLAT, &Label2});
+    grid->setColumnMinimumWidth(1, WidthOfCharacters(Label1, 14));
     grid->setRowMinimumHeight(2, 12);
     grid->add(btnOK, 3, 2);
-    colourEntries({&txtHeatLAT}, Colours::LightYellow);
+    ColourEntries({&txtHeatLAT}, Colours::LightYellow);
     Label3.describe(txtHeatLAT);
-    nameWithUnit(txtHeatLAT, "Leaving air temperature", IsMetric() ? "Deg. C" : "Deg. F");
+    NameWithUnit(txtHeatLAT, "Leaving air temperature", IsMetric() ? "Deg. C" : "Deg. F");
 }
 
 void HeatingLoad2::Form_Load()

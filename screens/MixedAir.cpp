@@ -20,7 +20,7 @@ MixedAir::MixedAir() : AirPanel("MixedAir", mixedAir)
 void MixedAir::layOut()
 {
     layOutActions({&btnCALCULATE, &btnSaveOSA, &btnRA, &btnMixedAir});
-    layOutPairs(Frame4, {{txtcfm1, lblcfm1}, {txtcfm2, lblcfm2}, {txtCFM, lblcfm3}});
+    LayOutPairs(Frame4, {{txtcfm1, lblcfm1}, {txtcfm2, lblcfm2}, {txtCFM, lblcfm3}});
     layOutFrames(*new Grid(*this), &Frame4);
     Frame4.hide();
 }
@@ -39,7 +39,7 @@ void MixedAir::Form_Load()
     RepaintForm();
     placeScreen();
     form<cfmForm>();
-    setEnabled({&btnCALCULATE, &btnRA, &btnSaveOSA, &btnMixedAir}, false);
+    EnableAll({&btnCALCULATE, &btnRA, &btnSaveOSA, &btnMixedAir}, false);
     setVolumesVisible(false);
     for (TextField* field : {&txtTdb, &txtTwb, &txttd, &txtRH, &txtW, &txtGrains, &txtSpVol, &txth})
         field->clear();
@@ -60,9 +60,9 @@ void MixedAir::repaintExtras()
     lblcfm2.setCaption(isMetric ? " m3/h Return Air" : " Cfm Return Air");
     lblcfm3.setCaption(isMetric ? " m3/h Total Mixed Air" : " CFM Total Mixed Air");
     const char* const unit = isMetric ? "m3/h" : "cfm";
-    nameWithUnit(txtcfm1, "Outside air volume", unit);
-    nameWithUnit(txtcfm2, "Return air volume", unit);
-    nameWithUnit(txtCFM, "Total air volume", unit);
+    NameWithUnit(txtcfm1, "Outside air volume", unit);
+    NameWithUnit(txtcfm2, "Return air volume", unit);
+    NameWithUnit(txtCFM, "Total air volume", unit);
     // Intentional: a calculation repaints the form first, so in English the last grains replace those typed.
     if (!isMetric)
         txtGrains.setText(PlainText(StatePoint.Grains));

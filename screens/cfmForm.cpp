@@ -20,11 +20,11 @@ void cfmForm::layOut()
     auto* const grid = new Grid(*this, {20, 20, 20, 20}, 12);
     grid->setVerticalSpacing(14);
     grid->add(Label1, 0, 0, 1, 2);
-    addCells(*grid, 1, {&txtCFMinput, &label2});
-    grid->setColumnMinimumWidth(0, widthOfCharacters(label2, 18));
-    grid->setColumnMinimumWidth(1, widthOfCharacters(label2, 24));
+    AddCells(*grid, 1, {&txtCFMinput, &label2});
+    grid->setColumnMinimumWidth(0, WidthOfCharacters(label2, 18));
+    grid->setColumnMinimumWidth(1, WidthOfCharacters(label2, 24));
     grid->setRowMinimumHeight(2, 8);
-    grid->addLayout(buttonRow({}, {&btnOK, &btnCancel}), 3, 0, 1, 2);
+    grid->addLayout(ButtonRow({}, {&btnOK, &btnCancel}), 3, 0, 1, 2);
     txtCFMinput.alignRight();
     Label1.describe(txtCFMinput);
 }
@@ -40,7 +40,7 @@ void cfmForm::Form_Activate()
     label2.setCaption(IsMetric() ? " cubic meter per hour" : " CFM ");
     if (AirVolumePreset > 0)
         txtCFMinput.setText(PlainText(AirVolumePreset));
-    nameWithUnit(txtCFMinput, "Air volume", label2.caption());
+    NameWithUnit(txtCFMinput, "Air volume", label2.caption());
     txtCFMinput.takeFocus(); // last, so that the text is selected
 }
 

@@ -11,7 +11,7 @@ namespace {
 constexpr int fieldCharacters = 16;
 constexpr int roomBesideButtonText = 28;
 
-int entryHeight(const Control& control) { return heightOfLines(control, 2); }
+int entryHeight(const Control& control) { return HeightOfLines(control, 2); }
 
 Grid& gridIn(Frame& frame) { return *new Grid(frame, {16, 14, 16, 14}, 10); }
 
@@ -20,15 +20,15 @@ Grid& entryGridIn(Frame& frame, int captionWidth)
 {
     Grid& grid = gridIn(frame);
     grid.setColumnMinimumWidth(0, captionWidth);
-    grid.setColumnMinimumWidth(1, widthOfCharacters(frame, fieldCharacters));
+    grid.setColumnMinimumWidth(1, WidthOfCharacters(frame, fieldCharacters));
     grid.setColumnStretch(2, 1);
     return grid;
 }
 
 void giveRoom(Button& button)
 {
-    setLeastWidth(button, naturalWidth(button) + roomBesideButtonText);
-    setLeastHeight(button, entryHeight(button));
+    SetLeastWidth(button, NaturalWidth(button) + roomBesideButtonText);
+    SetLeastHeight(button, entryHeight(button));
 }
 
 } // namespace
@@ -45,28 +45,28 @@ void humid2::layOut()
     auto* const whole = new Column(*this, {16, 16, 16, 16}, 16);
     whole->add(Frame2);
     whole->add(Frame1);
-    whole->addLayout(buttonRow({&btnCalcHumid}, {&btnOK}));
+    whole->addLayout(ButtonRow({&btnCalcHumid}, {&btnOK}));
     whole->add(Frame3);
     whole->addStretch();
 
     // The humidity comes before the temperature.
-    setTabOrder({&txtDesH, &txtDesT, &txtVol, &txtAC, &txtOSA});
+    SetTabOrder({&txtDesH, &txtDesT, &txtVol, &txtAC, &txtOSA});
 }
 
 int humid2::captionWidth() const
 {
     int widest = 0;
     for (const Label* caption : {&Label13, &Label1, &Label2, &Label3})
-        widest = std::max(widest, naturalWidth(*caption));
+        widest = std::max(widest, NaturalWidth(*caption));
     return widest;
 }
 
 void humid2::layOutDesired()
 {
     Grid& grid = entryGridIn(Frame2, captionWidth());
-    addRow(grid, 0, {Label13, txtDesT, lblT});
-    addRow(grid, 1, {Label1, txtDesH, lblRH});
-    colourEntries({&txtDesT, &txtDesH}, Colours::LightCyan);
+    AddRow(grid, 0, {Label13, txtDesT, lblT});
+    AddRow(grid, 1, {Label1, txtDesH, lblRH});
+    ColourEntries({&txtDesT, &txtDesH}, Colours::LightCyan);
 }
 
 void humid2::layOutQuantities()
@@ -74,21 +74,21 @@ void humid2::layOutQuantities()
     Grid& grid = entryGridIn(Frame1, captionWidth());
     grid.add(Label17, 0, 0, 1, 3);
     grid.add(Label8, 1, 0, 1, 3);
-    addRow(grid, 2, {Label2, txtVol, lblSpaceVol});
-    addRow(grid, 3, {Label3, txtAC, lblAC});
+    AddRow(grid, 2, {Label2, txtVol, lblSpaceVol});
+    AddRow(grid, 3, {Label3, txtAC, lblAC});
     grid.add(Label16, 4, 0, 1, 3);
-    addRow(grid, 5, {lblOSAFlow1, txtOSA, lblOSAFlow2});
-    colourEntries({&txtVol, &txtAC, &txtOSA}, Colours::LightGreen);
+    AddRow(grid, 5, {lblOSAFlow1, txtOSA, lblOSAFlow2});
+    ColourEntries({&txtVol, &txtAC, &txtOSA}, Colours::LightGreen);
 }
 
 void humid2::layOutMoisture()
 {
     Grid& grid = gridIn(Frame3);
     const auto add = [&grid](int row, int column, TextField& field, Label& unit) {
-        setFixedHeight(field, entryHeight(field));
+        SetFixedHeight(field, entryHeight(field));
         grid.add(field, row, column);
         grid.add(unit, row, column + 1);
-        colourEntries({&field}, Colours::LightYellow);
+        ColourEntries({&field}, Colours::LightYellow);
         field.leaveTabOrder();
     };
     add(0, 0, txtMassPerHour, lblMassPerHour);
@@ -101,13 +101,13 @@ void humid2::layOutMoisture()
 
 void humid2::nameFields()
 {
-    nameWithUnit(txtDesT, "Desired space temperature", lblT.caption());
-    nameWithUnit(txtDesH, "Desired relative humidity", lblRH.caption());
-    nameWithUnit(txtVol, "Volume of space", lblSpaceVol.caption());
-    nameWithUnit(txtAC, "Estimated air changes", lblAC.caption());
-    nameWithUnit(txtOSA, "Volume of outside air", lblOSAFlow2.caption());
-    nameWithUnit(txtMassPerHour, "Required moisture", lblMassPerHour.caption());
-    nameWithUnit(txtMassPerDay, "Required moisture", lblMassPerDay.caption());
-    nameWithUnit(txtFlowPerHour, "Required moisture", lblFlowPerHour.caption());
-    nameWithUnit(txtFlowPerDay, "Required moisture", lblFlowPerDay.caption());
+    NameWithUnit(txtDesT, "Desired space temperature", lblT.caption());
+    NameWithUnit(txtDesH, "Desired relative humidity", lblRH.caption());
+    NameWithUnit(txtVol, "Volume of space", lblSpaceVol.caption());
+    NameWithUnit(txtAC, "Estimated air changes", lblAC.caption());
+    NameWithUnit(txtOSA, "Volume of outside air", lblOSAFlow2.caption());
+    NameWithUnit(txtMassPerHour, "Required moisture", lblMassPerHour.caption());
+    NameWithUnit(txtMassPerDay, "Required moisture", lblMassPerDay.caption());
+    NameWithUnit(txtFlowPerHour, "Required moisture", lblFlowPerHour.caption());
+    NameWithUnit(txtFlowPerDay, "Required moisture", lblFlowPerDay.caption());
 }

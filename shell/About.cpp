@@ -38,7 +38,7 @@ void About::layOut()
                                                &lblDescription, &lblMoreDescription, &Line1})
         column->add(*line);
     column->addSpacing(8);
-    column->addLayout(buttonRow({&btnEMAIL, &btnURL}, {&cmdOK}));
+    column->addLayout(ButtonRow({&btnEMAIL, &btnURL}, {&cmdOK}));
 }
 
 void About::Form_Load()

@@ -41,7 +41,7 @@ void MainForm::layOut()
     auto* const buttons = new Column;
     buttons->setSpacing(14);
     for (Button* button : {&btnAirCalc, &btnMixedAir, &btnCooling, &btnHeating, &btnHumidity}) {
-        setLeastHeight(*button, heightOfLines(*button, 2.5));
+        SetLeastHeight(*button, HeightOfLines(*button, 2.5));
         buttons->add(*button);
     }
     buttons->addStretch();
@@ -54,9 +54,9 @@ void MainForm::layOut()
     grid->setRowMinimumHeight(2, 16);
     grid->addLayout(buttons, 3, 0);
     grid->add(Image1, 0, 1, 4, 1);
-    const int chartSize = naturalWidth(lblProduct) * 5 / 2; // keeps its share beside large letters
-    setLeastWidth(Image1, chartSize);
-    setLeastHeight(Image1, chartSize);
+    const int chartSize = NaturalWidth(lblProduct) * 5 / 2; // keeps its share beside large letters
+    SetLeastWidth(Image1, chartSize);
+    SetLeastHeight(Image1, chartSize);
     grid->setColumnStretch(1, 1);
     grid->setColumnMinimumWidth(0, 190);
     grid->setRowStretch(3, 1);
@@ -109,7 +109,7 @@ void MainForm::btnHumidity_Click() { open<Humid1>(); }
 void MainForm::leave()
 {
     Unload();
-    endProcess();
+    EndProcess();
 }
 
 void MainForm::mnuOptions_Click()

@@ -35,7 +35,7 @@ protected:
         if (watched != qApp || event->type() != QEvent::Quit)
             return false;
         form<MainForm>().Unload();
-        endProcess();
+        EndProcess();
         return true;
     }
 };

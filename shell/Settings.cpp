@@ -79,12 +79,12 @@ void Settings::layOut()
 {
     auto* const grid = new Grid(*this, {20, 20, 20, 20}, 12);
     grid->setVerticalSpacing(14);
-    addCells(*grid, 0, {&lblUnits, &Combo1});
-    addCells(*grid, 1, {&lblBP, &txtBP, &Label1});
-    grid->setColumnMinimumWidth(2, widthOfCharacters(Label1, 6));
+    AddCells(*grid, 0, {&lblUnits, &Combo1});
+    AddCells(*grid, 1, {&lblBP, &txtBP, &Label1});
+    grid->setColumnMinimumWidth(2, WidthOfCharacters(Label1, 6));
     grid->setColumnStretch(1, 1);
     grid->setRowMinimumHeight(2, 12);
-    grid->addLayout(buttonRow({&btnDefault}, {&btnOK, &btnCancel}), 3, 0, 1, 3);
+    grid->addLayout(ButtonRow({&btnDefault}, {&btnOK, &btnCancel}), 3, 0, 1, 3);
 
     txtBP.alignRight();
     lblUnits.describe(Combo1);
@@ -107,7 +107,7 @@ void Settings::Combo1_Click()
     const UnitChoice& choice = Combo1.text() == english.entry ? english : metric;
     Label1.setCaption(choice.unit);
     txtBP.setText(StoredText(choice.readFrom, choice.missing));
-    nameWithUnit(txtBP, "Barometric pressure", Label1.caption());
+    NameWithUnit(txtBP, "Barometric pressure", Label1.caption());
 }
 
 void Settings::btnOK_Click()

@@ -39,7 +39,7 @@ void Control::takeFocus() { form.focusOn(*theWidget); }
 
 void Control::place(Twips left, Twips top, Twips width, Twips height)
 {
-    theWidget->setGeometry(toPixels(left), toPixels(top), toPixels(width), toPixels(height));
+    theWidget->setGeometry(ToPixels(left), ToPixels(top), ToPixels(width), ToPixels(height));
 }
 
 void Control::setBackColour(Colour colour)
@@ -73,7 +73,7 @@ void Control::setAccessibleName(const std::string& name)
 void Control::raise(const Handler& handler)
 {
     if (handler)
-        runHandler(form, handler);
+        RunHandler(form, handler);
 }
 
 } // namespace forms

@@ -19,7 +19,7 @@ namespace {
 
 } // namespace
 
-void runHandler(Form& form, const Handler& handler) noexcept
+void RunHandler(Form& form, const Handler& handler) noexcept
 {
     const Form::RunningHandler running(form);
     try {
@@ -29,7 +29,7 @@ void runHandler(Form& form, const Handler& handler) noexcept
     }
 }
 
-void endProcess()
+void EndProcess()
 {
     QCoreApplication::exit(
         EXIT_SUCCESS); // quit() would close the forms still shown, and one of them could refuse

@@ -31,8 +31,8 @@ void closePopups()
 
 } // namespace
 
-Twips Screen::width() { return toTwips(QGuiApplication::primaryScreen()->geometry().width()); }
-Twips Screen::height() { return toTwips(QGuiApplication::primaryScreen()->geometry().height()); }
+Twips Screen::width() { return ToTwips(QGuiApplication::primaryScreen()->geometry().width()); }
+Twips Screen::height() { return ToTwips(QGuiApplication::primaryScreen()->geometry().height()); }
 
 Form::Form(const std::string& name, FormKind kind) : frame(new FormWindow(*this, kind == FormKind::Dialog))
 {
@@ -43,7 +43,7 @@ Form::~Form() { delete frame; }
 
 void Form::load()
 {
-    runHandler(*this, [this] { Form_Load(); });
+    RunHandler(*this, [this] { Form_Load(); });
 }
 
 void Form::showWindow()
@@ -53,7 +53,7 @@ void Form::showWindow()
     frame->raise();
     frame->activateWindow();
     if (!wasVisible)
-        runHandler(*this, [this] { Form_Activate(); });
+        RunHandler(*this, [this] { Form_Activate(); });
 }
 
 void Form::Show()
@@ -103,8 +103,8 @@ void Form::Unload(CloseReason reason)
     }
     unloading = true;
     const RunningHandler running(*this);
-    runHandler(*this, [this, reason] { Form_QueryUnload(reason); });
-    runHandler(*this, [this] { Form_Unload(); });
+    RunHandler(*this, [this, reason] { Form_QueryUnload(reason); });
+    RunHandler(*this, [this] { Form_Unload(); });
     Hide();
     FormRegistry::retire(*this);
 }
@@ -122,18 +122,18 @@ void Form::setBackColour(Colour colour)
 
 std::string Form::caption() const { return frame->windowTitle().toStdString(); }
 
-void Form::setSize(Twips width, Twips height) { frame->setLeastSize({toPixels(width), toPixels(height)}); }
+void Form::setSize(Twips width, Twips height) { frame->setLeastSize({ToPixels(width), ToPixels(height)}); }
 
 void Form::fitToControls() { setSize(0, 0); }
 void Form::keepTogether() { frame->keepTogether(); }
-void Form::moveTo(Twips left, Twips top) { frame->place({toPixels(left), toPixels(top)}); }
+void Form::moveTo(Twips left, Twips top) { frame->place({ToPixels(left), ToPixels(top)}); }
 void Form::placeInTheMiddle(int topPart)
 {
     moveTo((Screen::width() - width()) / 2, (Screen::height() - height()) / topPart);
 }
 
-Twips Form::width() const { return toTwips(frame->width()); }
-Twips Form::height() const { return toTwips(frame->height()); }
+Twips Form::width() const { return ToTwips(frame->width()); }
+Twips Form::height() const { return ToTwips(frame->height()); }
 bool Form::isVisible() const { return frame->isVisible(); }
 
 void Form::setDefaultButton(Button& button)
@@ -163,7 +163,7 @@ void Form::closeOnEsc()
 bool Form::runIfSet(const Handler& handler)
 {
     if (handler)
-        runHandler(*this, handler);
+        RunHandler(*this, handler);
     return static_cast<bool>(handler);
 }
 

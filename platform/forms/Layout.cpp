@@ -5,30 +5,30 @@
 
 namespace forms {
 
-int widthOfCharacters(const Control& control, int count)
+int WidthOfCharacters(const Control& control, int count)
 {
     return control.widget()->fontMetrics().averageCharWidth() * count;
 }
 
-int heightOfLines(const Control& control, double count)
+int HeightOfLines(const Control& control, double count)
 {
     return static_cast<int>(control.widget()->fontMetrics().height() * count);
 }
 
-int naturalWidth(const Control& control) { return control.widget()->sizeHint().width(); }
+int NaturalWidth(const Control& control) { return control.widget()->sizeHint().width(); }
 
-void setFixedHeight(const Control& control, int height) { control.widget()->setFixedHeight(height); }
-void setLeastHeight(const Control& control, int height) { control.widget()->setMinimumHeight(height); }
-void setLeastWidth(const Control& control, int width) { control.widget()->setMinimumWidth(width); }
+void SetFixedHeight(const Control& control, int height) { control.widget()->setFixedHeight(height); }
+void SetLeastHeight(const Control& control, int height) { control.widget()->setMinimumHeight(height); }
+void SetLeastWidth(const Control& control, int width) { control.widget()->setMinimumWidth(width); }
 
-void addCells(Grid& grid, int row, std::initializer_list<const Control*> cells)
+void AddCells(Grid& grid, int row, std::initializer_list<const Control*> cells)
 {
     int column = 0;
     for (const Control* const cell : cells)
         grid.add(*cell, row, column++);
 }
 
-void setTabOrder(std::initializer_list<const Control*> controls)
+void SetTabOrder(std::initializer_list<const Control*> controls)
 {
     const Control* before = nullptr;
     for (const Control* const next : controls) {

@@ -42,18 +42,18 @@ using Column = ControlLayout<QVBoxLayout>;
 using Line = ControlLayout<QHBoxLayout>;
 
 /// Adds controls to a row, from its first column.
-void addCells(Grid& grid, int row, std::initializer_list<const Control*> cells);
+void AddCells(Grid& grid, int row, std::initializer_list<const Control*> cells);
 
 // Sizes in pixels, based on the control's font.
-int widthOfCharacters(const Control& control, int count);
-int heightOfLines(const Control& control, double count);
-int naturalWidth(const Control& control);
+int WidthOfCharacters(const Control& control, int count);
+int HeightOfLines(const Control& control, double count);
+int NaturalWidth(const Control& control);
 
-void setFixedHeight(const Control& control, int height);
-void setLeastHeight(const Control& control, int height);
-void setLeastWidth(const Control& control, int width);
+void SetFixedHeight(const Control& control, int height);
+void SetLeastHeight(const Control& control, int height);
+void SetLeastWidth(const Control& control, int width);
 
 /// Sets the tab order.
-void setTabOrder(std::initializer_list<const Control*> controls);
+void SetTabOrder(std::initializer_list<const Control*> controls);
 
 } // namespace forms

@@ -20,7 +20,7 @@ MenuCommand::MenuCommand(Form& owner, const std::string& name, const std::string
     QObject::connect(theAction, &QAction::triggered, theAction, [this] {
         endHighlight();
         if (click)
-            runHandler(form, click);
+            RunHandler(form, click);
     });
 }
 

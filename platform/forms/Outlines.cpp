@@ -18,7 +18,8 @@ void outline(const QStyleOption& option, QPainter& painter)
     painter.save();
     painter.setPen(QPen(HasHighContrast(option.palette) ? strong : quiet, hasFocus ? 3 : 1));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
     painter.restore();
 }
 

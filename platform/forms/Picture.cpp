@@ -67,7 +67,7 @@ protected:
             return QWidget::event(event);
         const auto& help = static_cast<QHelpEvent&>(*event);
         QString tip;
-        runHandler(form, [&] { tip = QString::fromStdString(contents->tipAt(help.pos())); });
+        RunHandler(form, [&] { tip = QString::fromStdString(contents->tipAt(help.pos())); });
         QToolTip::showText(help.globalPos(), tip, this, QRect(help.pos(), QSize(1, 1)));
         return true;
     }
@@ -107,7 +107,7 @@ private:
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
         painter.setRenderHint(QPainter::Antialiasing);
-        runHandler(form, [&] { contents->paint(painter, size(), *this); });
+        RunHandler(form, [&] { contents->paint(painter, size(), *this); });
         return picture;
     }
 

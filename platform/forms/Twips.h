@@ -7,8 +7,8 @@ using Twips = int;
 
 constexpr int TwipsPerPixel = 10;
 
-constexpr int toPixels(Twips twips) { return twips / TwipsPerPixel; }
-constexpr Twips toTwips(int pixels) { return pixels * TwipsPerPixel; }
+constexpr int ToPixels(Twips twips) { return twips / TwipsPerPixel; }
+constexpr Twips ToTwips(int pixels) { return pixels * TwipsPerPixel; }
 
 /// The primary screen, on which forms are placed.
 struct Screen

@@ -112,7 +112,7 @@ def heating(user):
 
 def humidification(user):
     user.open_screen("Humidification", "Humidification Calculation")
-    user.calculate("40", "Humidity Desired")
+    user.calculate("40", "Humidity Desired ")
     user.fill_in("Humidity Desired ", "Humidity Calculation Setting", {}, "Humidity Desired ", "Click Here When Done")
     user.leave_screen()
 

@@ -190,7 +190,7 @@ int runWith(const Handler& action)
 TEST_F(EndOfTheProcess, ComesWithStatusZeroAfterTheHandlerHasReturned)
 {
     showFirstScreen().btnFirst.onClick([] {
-        endProcess();
+        EndProcess();
         calls.push_back("the handler goes on");
     });
     EXPECT_EQ(runWith([this] { user.click("btnFirst"); }), 0);
@@ -199,7 +199,7 @@ TEST_F(EndOfTheProcess, ComesWithStatusZeroAfterTheHandlerHasReturned)
 
 TEST_F(EndOfTheProcess, ComesFromTheQueryUnloadHandlerAfterUnloading)
 {
-    FirstScreen::life.queryUnload = [] { endProcess(); };
+    FirstScreen::life.queryUnload = [] { EndProcess(); };
     showFirstScreen();
     EXPECT_EQ(runWith([this] { user.closeWindow(); }), 0);
     EXPECT_EQ(only({"FirstScreen.Form_Unload"}), Calls{"FirstScreen.Form_Unload"});
@@ -208,7 +208,7 @@ TEST_F(EndOfTheProcess, ComesFromTheQueryUnloadHandlerAfterUnloading)
 TEST_F(EndOfTheProcess, UnloadsNoFormThatIsStillShown)
 {
     form<SecondScreen>().Show();
-    showFirstScreen().btnFirst.onClick([] { endProcess(); });
+    showFirstScreen().btnFirst.onClick([] { EndProcess(); });
     EXPECT_EQ(runWith([] { form<FirstScreen>().btnFirst.press(); }), 0);
     EXPECT_TRUE(calls.empty());
     EXPECT_TRUE(isLoaded<SecondScreen>());
@@ -217,7 +217,7 @@ TEST_F(EndOfTheProcess, UnloadsNoFormThatIsStillShown)
 TEST_F(EndOfTheProcess, ComesAlthoughAFormIsShownAfterwards)
 {
     showFirstScreen().btnFirst.onClick([] {
-        endProcess();
+        EndProcess();
         form<SecondScreen>().Show();
     });
     EXPECT_EQ(runWith([this] { user.click("btnFirst"); }), 0);
@@ -230,7 +230,7 @@ TEST_F(EndOfTheProcess, ComesOutOfAModalDialog)
         calls.push_back("the caller goes on");
         form<FirstDialog>().Hide();
     });
-    user.inDialog("FirstDialog", [] { endProcess(); });
+    user.inDialog("FirstDialog", [] { EndProcess(); });
     EXPECT_EQ(runWith([this] { user.click("btnFirst"); }), 0);
     EXPECT_EQ(only({"the caller goes on"}), Calls{"the caller goes on"});
 }
@@ -255,7 +255,7 @@ TEST_F(EndOfTheProcess, ComesOutOfAMessageBoxOverAModalDialog)
         calls.push_back("the caller goes on");
     });
     form<FirstDialog>().btnFirst.onClick([] { MsgBox("a message"); });
-    user.atMessage([] { endProcess(); });
+    user.atMessage([] { EndProcess(); });
     user.inDialog("FirstDialog", [this] { user.click("btnFirst"); });
     EXPECT_EQ(runWith([this] { user.click("btnFirst"); }), 0);
     EXPECT_EQ(only({"the caller goes on"}), Calls{"the caller goes on"});

@@ -152,7 +152,7 @@ TEST_P(OpenPopup, TheProcessMayEnd)
     form<PopupForm>().Show();
     comeToRest();
     QTimer::singleShot(0, qApp, [] { GetParam().open(form<PopupForm>()); });
-    QTimer::singleShot(0, qApp, [] { endProcess(); });
+    QTimer::singleShot(0, qApp, [] { EndProcess(); });
     EXPECT_EQ(QApplication::exec(), 0);
     FormRegistry::clear();
     EXPECT_EQ(calls.back(), "PopupForm is destroyed");
