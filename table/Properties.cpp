@@ -9,9 +9,9 @@ namespace {
 struct Property
 {
     std::optional<Item> item; ///< if it can be the given item
-    const char* english;
-    const char* metric; ///< nullptr if Metric has none
-    TaggedNumber (*value)();
+    const char* english = nullptr;
+    const char* metric = nullptr; ///< nullptr if Metric has none
+    TaggedNumber (*value)() = nullptr;
 };
 
 const std::array<Property, 7> Properties{{
