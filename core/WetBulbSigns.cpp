@@ -20,7 +20,8 @@ namespace {
 // its slope changes by at most 0.13 per degree, so farther away G only gains on the rounding. At freezing,
 // Ws* rises from ice to water, so the sign is right beyond it, too. The last step d leaves at most 0.02 d^2 =
 // 8e-6 deg C or 0.01 d^2 = 4e-6 deg F (half the error of the curvature divided by the slope). The sum is
-// below 3e-5 deg C or 5e-5 deg F; the zone is ten times that to each side.
+// below 3e-5 deg C or 5e-5 deg F; the zone is ten times that to each side. A test recalculates the
+// bounds (tests/core/WetBulbBoundsTest.cpp).
 constexpr double LongestLastStep = 0.02; // degrees
 constexpr double FreezingGuard = 0.05;   // degrees, so that the last step stays on one branch of the curve
 constexpr Single LeastW = 1e-9F;         // below it, a product of two residuals may underflow to 0
