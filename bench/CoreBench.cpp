@@ -1,13 +1,11 @@
-// The cost of a moist-air state: the complete state from each of the five items in both unit modes, the wet
-// bulb search and its plain form, and a lower bound for both.
+// The cost of a moist-air state: the complete state from each of the five items in both unit modes, and the
+// wet bulb search and its plain form.
 
 #include "core/MainMod.h"
-#include "core/WetBulbBracket.h"
 #include "tests/core/PlainForms.h"
 
 #include <benchmark/benchmark.h>
 
-#include <cmath>
 #include <random>
 #include <vector>
 
@@ -71,63 +69,6 @@ void Search(benchmark::State& state, Single (*search)(Single, Single, Single))
     }
 }
 
-/// One pair of calls that every state needs: ln T and the exp of the saturation pressure.
-struct Pair
-{
-    double absolute;
-    double logPressure;
-};
-
-Pair PairAt(Single t)
-{
-    const Single absolute = ToAbsolute(t);
-    return {static_cast<double>(absolute), std::log(static_cast<double>(SaturationPressure(absolute)))};
-}
-
-/// The pairs for a state from RH: one for the dry bulb, the logarithm and power of the dew point, and one for
-/// each new residual.
-std::vector<Pair> PairsOf(const MoistAirState& air)
-{
-    const Single w = air.W.asSingle();
-    const Single p = air.P.asSingle();
-    std::vector<Pair> pairs{PairAt(air.Tdb), {air.Pw.asDouble(), -1.0}};
-    WetBulbBracket bracket(air.Tdb);
-    Single lowerResidual = WetBulbResidual(bracket.lower, air.Tdb, p, w);
-    pairs.push_back(PairAt(bracket.lower));
-    while (true) {
-        const Single residual = WetBulbResidual(bracket.mid, air.Tdb, p, w);
-        pairs.push_back(PairAt(bracket.mid));
-        const Single product = residual * lowerResidual;
-        if (product > 0.0F)
-            lowerResidual = residual;
-        if (product == 0.0F || bracket.narrow(product < 0.0F ? -1 : 1))
-            return pairs;
-    }
-}
-
-/// Only the calls. Each depends on the previous one, as in bisection the next candidate depends on the sign
-/// of the last residual. The added multiple of the last result is 0, but the processor must wait for it.
-void Floor(benchmark::State& state)
-{
-    SetMode(state);
-    std::vector<std::vector<Pair>> sample;
-    double residuals = 0.0;
-    for (const MoistAirState& air : Sample()) {
-        sample.push_back(PairsOf(air));
-        residuals += static_cast<double>(sample.back().size() - 2) / SampleSize;
-    }
-    std::size_t i = 0;
-    double last = 0.0;
-    for ([[maybe_unused]] auto _ : state) {
-        for (const Pair& pair : sample[i++ % SampleSize]) {
-            const double logarithm = std::log(pair.absolute + last * 0.0);
-            last = std::exp(pair.logPressure + logarithm * 0.0);
-        }
-        benchmark::DoNotOptimize(last);
-    }
-    state.counters["residuals"] = residuals;
-}
-
 } // namespace
 
 BENCHMARK_CAPTURE(SolveFrom, Grains, &MoistAirState::Grains, SolveFromGrains)->Arg(0); // English only
@@ -135,7 +76,6 @@ BENCHMARK_CAPTURE(SolveFrom, W, &MoistAirState::W, SolveFromW)->Arg(0)->Arg(1);
 BENCHMARK_CAPTURE(SolveFrom, WetBulb, &MoistAirState::Twb, SolveFromWetBulb)->Arg(0)->Arg(1);
 BENCHMARK_CAPTURE(SolveFrom, DewPoint, &MoistAirState::td, SolveFromDewPoint)->Arg(0)->Arg(1);
 BENCHMARK_CAPTURE(SolveFrom, RH, &MoistAirState::RH, SolveFromRH)->Arg(0)->Arg(1);
-BENCHMARK(Floor)->Arg(0)->Arg(1);
 BENCHMARK_CAPTURE(Search, Fast, SolveWetBulb)->Arg(0)->Arg(1);
 BENCHMARK_CAPTURE(Search, Plain, PlainSolveWetBulb)->Arg(0)->Arg(1);
 

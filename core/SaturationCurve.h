@@ -31,16 +31,22 @@ inline const SaturationCurve* SaturationCurveAt(Single T)
     return T <= 491.67F ? &IceEnglish : &WaterEnglish;
 }
 
-/// The natural logarithm of the saturation pressure. Multiplies instead of calling std::pow: a single has 24
-/// bits, so its square is exact in double, and the higher powers are within one bit of std::pow. The
-/// pressure, rounded to single, is the same to the last bit.
-inline double LogSaturationPressure(const SaturationCurve& curve, Single T)
+/// The natural logarithm of the saturation pressure. Multiplies instead of calling std::pow: the square of a
+/// single is exact in double, and the higher powers are within one bit of std::pow. At every temperature that
+/// is a single, the pressure rounded to single is the same to the last bit.
+inline double LogSaturationPressure(const SaturationCurve& curve, double t)
 {
-    const double t = T;
     const double square = t * t;
     double sum = (curve.c1 / t + curve.c2 + curve.c3 * t) + curve.c4 * square;
     sum += curve.c5 * (square * t);
     if (curve.ice)
         sum += curve.c6 * (square * square);
     return sum + curve.c7 * std::log(t);
+}
+
+/// The derivative of LogSaturationPressure with respect to the temperature. Over water, c6 is 0.
+inline double LogSaturationPressureSlope(const SaturationCurve& curve, double t)
+{
+    const double polynomial = curve.c3 + t * (2.0 * curve.c4 + t * (3.0 * curve.c5 + t * (4.0 * curve.c6)));
+    return polynomial + (curve.c7 - curve.c1 / t) / t;
 }

@@ -2,25 +2,31 @@
 
 #include "core/StatePoint.h"
 
-/// The heat balance at a wet bulb, W = (latent Ws* - sensible) / divisor (see HumidityRatioFromWetBulb).
+/// The coefficients of the heat balance at a wet bulb (see HumidityRatioFromWetBulb).
+struct HeatCoefficients
+{
+    double evaporation; ///< latent heat at 0 degrees
+    double vapor, air;  ///< specific heats
+    double latentFall;  ///< fall of the latent heat per degree of wet bulb
+    double liquid;      ///< specific heat
+};
+
+// The latent heat in English units is 1093.0 here, not 1061.0 as in EnthalpyOf.
+constexpr HeatCoefficients HeatEnglish{1093.0, 0.444, 0.24, 0.556, 1.0};
+constexpr HeatCoefficients HeatMetric{2501.0, 1.805, 1.0, 2.381, 4.186};
+
+inline const HeatCoefficients& Heat() { return IsMetric() ? HeatMetric : HeatEnglish; }
+
+/// The heat balance at a wet bulb, W = (latent Ws* - sensible) / divisor.
 struct WetBulbBalance
 {
     double latent;
     double sensible;
     double divisor;
 
-    // The latent heat in English units is 1093.0 here, not 1061.0 as in EnthalpyOf.
-    WetBulbBalance(Single twb, Single tdb)
-    {
-        const double depression = static_cast<double>(tdb) - twb;
-        if (IsMetric()) {
-            latent = 2501.0 - 2.381 * twb;
-            sensible = depression;
-            divisor = tdb * 1.805 + 2501.0 - twb * 4.186;
-        } else {
-            latent = 1093.0 - 0.556 * twb;
-            sensible = depression * 0.24;
-            divisor = tdb * 0.444 + 1093.0 - twb;
-        }
-    }
+    WetBulbBalance(double twb, double tdb)
+        : latent(Heat().evaporation - Heat().latentFall * twb),
+          sensible((tdb - twb) * Heat().air),
+          divisor(tdb * Heat().vapor + Heat().evaporation - twb * Heat().liquid)
+    {}
 };

@@ -3,6 +3,8 @@
 #include "core/CheckedArithmetic.h"
 #include "core/StatePoint.h"
 
+#include <numeric>
+
 /// The bracket of the wet bulb bisection, with its stopping tests. Its values are singles, rounded each time
 /// they are stored.
 struct WetBulbBracket
@@ -40,5 +42,6 @@ struct WetBulbBracket
     }
 
 private:
-    Single midpoint() const { return RoundToSingle((static_cast<double>(lower) + upper) / 2.0); }
+    /// The same as (lower + upper) / 2 in double, rounded to single.
+    Single midpoint() const { return std::midpoint(lower, upper); }
 };

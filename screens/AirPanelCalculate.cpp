@@ -1,5 +1,6 @@
 // The calculation of the air-state panel: ranges, clips and their warnings, and the solver for the item.
 
+#include "core/InputLimits.h"
 #include "platform/forms/MsgBox.h"
 #include "screens/AirPanel.h"
 
@@ -9,17 +10,15 @@ using namespace forms;
 
 namespace {
 
-constexpr Single lowestTdb = -40.0F;
-constexpr Single highestTdb = 125.0F;
-constexpr Single highestMetricTdb = 50.0F;
-
-/// Shows a clipped value in its field, with a warning beside it.
-void showClip(TextField& field, const std::string& text, Label& unit, const char* warning)
+/// Shows a clipped value in its field, with the warning beside it. Does nothing without a warning.
+void showClip(TextField& field, const TaggedNumber& value, Label& unit, const char* warning)
 {
-    field.setText(text);
+    if (warning == nullptr)
+        return;
+    field.setText(PlainText(value));
     unit.setBackColour(Colours::Red);
     unit.setForeColour(Colours::White);
-    unit.setCaption(warning);
+    unit.setCaption(std::string(" ") + warning);
 }
 
 } // namespace
@@ -44,14 +43,14 @@ void AirPanel::calculate()
     RepaintForm();
     EnableAll(switched.offAtCalculation, false);
     StatePoint.Tdb = ParseSingle(txtTdb.text());
-    if (StatePoint.Tdb < lowestTdb || StatePoint.Tdb > highestTdb) {
+    if (StatePoint.Tdb < LowestTdb || StatePoint.Tdb > HighestTdb) {
         btnCALCULATE.disable();
         MsgBox("Temperature Input Out of Range, Try Again!", " ERROR");
         return;
     }
     readPressure();
     // Metric refuses temperatures above 50 and up to 125 degrees with a different message.
-    if (IsMetric() && rules.limitsMetricTdb && StatePoint.Tdb > highestMetricTdb) {
+    if (IsMetric() && rules.limitsMetricTdb && StatePoint.Tdb > HighestMetricTdb) {
         refuseInput();
         return;
     }
@@ -101,10 +100,8 @@ bool AirPanel::solveSelectedItem()
 void AirPanel::solveWetBulbItem()
 {
     StatePoint.Twb = ParseSingle(txtTwb.text());
-    if (StatePoint.Twb >= StatePoint.Tdb) {
-        StatePoint.Twb = StatePoint.Tdb - rules.wetBulbClip.value(IsMetric());
-        showClip(txtTwb, PlainText(StatePoint.Twb), lblTwb2, " Twb clipped at Tdb");
-    }
+    const char* const warning = ClipWetBulb(rules.wetBulbClip.value(IsMetric()));
+    showClip(txtTwb, StatePoint.Twb, lblTwb2, warning);
     SolveFromWetBulb();
     showResults();
 }
@@ -112,10 +109,8 @@ void AirPanel::solveWetBulbItem()
 void AirPanel::solveDewPointItem()
 {
     StatePoint.td = ParseSingle(txttd.text());
-    if (StatePoint.td >= StatePoint.Tdb) {
-        StatePoint.td = StatePoint.Tdb - rules.dewPointClip.value(IsMetric());
-        showClip(txttd, PlainText(StatePoint.td), lblDewPt2, " Dew Pt. clipped at Tdb");
-    }
+    const char* const warning = ClipDewPoint(rules.dewPointClip.value(IsMetric()));
+    showClip(txttd, StatePoint.td, lblDewPt2, warning);
     SolveFromDewPoint();
     showResults();
 }
@@ -123,14 +118,8 @@ void AirPanel::solveDewPointItem()
 void AirPanel::solveRelativeHumidityItem()
 {
     StatePoint.RH = ParseSingle(txtRH.text());
-    if (StatePoint.RH > 100.0) {
-        StatePoint.RH = 100;
-        showClip(txtRH, "100", lblRH2, " RH clipped at 100%");
-    }
-    if (StatePoint.RH <= 0.0) {
-        StatePoint.RH = 0.1;
-        showClip(txtRH, PlainText(StatePoint.RH), lblRH2, " RH clipped at 0.1%");
-    }
+    const char* const warning = ClipRelativeHumidity();
+    showClip(txtRH, StatePoint.RH, lblRH2, warning);
     SolveFromRH();
     showResults();
 }
@@ -139,10 +128,8 @@ void AirPanel::solveHumidityRatioItem()
 {
     const Single shown = ParseSingle(txtW.text());
     StatePoint.W = IsMetric() ? RoundToSingle(shown / 1000.0) : shown;
-    if (StatePoint.W <= 0.00001) { // intentional: kg/kg in Metric, too, and shown as such
-        StatePoint.W = 0.00001;
-        showClip(txtW, PlainText(StatePoint.W), lblW2, " W clipped at 0.00001");
-    }
+    const char* const warning = ClipHumidityRatio();
+    showClip(txtW, StatePoint.W, lblW2, warning);
     SolveFromW();
     if (HumidityRatioTooHigh == 0)
         showResults();
@@ -151,10 +138,8 @@ void AirPanel::solveHumidityRatioItem()
 void AirPanel::solveGrainsItem()
 {
     StatePoint.Grains = ParseSingle(txtGrains.text());
-    if (StatePoint.Grains <= 0.1) {
-        StatePoint.Grains = 0.1;
-        showClip(txtGrains, PlainText(StatePoint.Grains), lblGrains2, " grains clipped at 0.1");
-    }
+    const char* const warning = ClipGrains();
+    showClip(txtGrains, StatePoint.Grains, lblGrains2, warning);
     SolveFromGrains();
     if (GrainsTooHigh == 0)
         showResults();

@@ -53,8 +53,8 @@ protected:
     template <typename Draw>
     void compareRandom(int millions, Draw draw)
     {
-        const int count = millions * 1000000 / OneOf("searches", 1, 50);
-        for (int i = 0; i < count; ++i)
+        const long count = millions * 1000000L * ProofFactor() / OneOf("searches", 1, 50);
+        for (long i = 0; i < count; ++i)
             compare(draw());
         EXPECT_EQ(different, 0);
     }
@@ -192,11 +192,11 @@ const std::vector<Single>& Edges()
 
 TEST_F(EnglishSearches, AirOfTheScreensIsTheSame)
 {
-    compareRandom(3, [this] { return ofScreens(); });
+    compareRandom(5, [this] { return ofScreens(); });
 }
 TEST_F(MetricSearches, AirOfTheScreensIsTheSame)
 {
-    compareRandom(3, [this] { return ofScreens(); });
+    compareRandom(5, [this] { return ofScreens(); });
 }
 
 TEST_F(EnglishSearches, AirAboutZeroDegreesIsTheSame)

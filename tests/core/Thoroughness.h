@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdlib>
 #include <iostream>
 
 /// True if tests of whole ranges cover them without a gap. Builds that run many times slower use samples and
@@ -18,4 +19,11 @@ Number OneOf(const char* what, Number thorough, Number sample)
     if (step != 1)
         std::cout << "one of " << step << ' ' << what << " taken\n";
     return step;
+}
+
+/// How many times as many random cases as usual to take. "./dev prove" sets it.
+inline int ProofFactor()
+{
+    const char* const factor = std::getenv("DUNMOOR_PROOF_FACTOR");
+    return factor == nullptr ? 1 : std::atoi(factor);
 }

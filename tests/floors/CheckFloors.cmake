@@ -4,9 +4,10 @@
 cmake_minimum_required(VERSION 3.25)
 get_filename_component(ROOT ${ROOT} ABSOLUTE)
 
-set(floors core platform chart reports screens shell)
+set(floors core table platform chart reports screens shell)
 
 set(core_knows core)
+set(table_knows table core)
 set(platform_knows platform)
 set(chart_knows chart core platform)
 set(reports_knows reports core platform)
@@ -16,7 +17,7 @@ set(shell_knows shell screens chart reports core platform)
 # The only header of platform/ that the chart may include.
 set(chart_knows_of_platform platform/forms/Picture.h)
 
-# The core may include only the standard library. For the other floors, the linker checks the libraries.
+# The core and the tables may include only the standard library. For the other floors, the linker checks the libraries.
 set(standard_library
     algorithm any array atomic barrier bit bitset charconv chrono codecvt compare complex concepts
     condition_variable coroutine deque exception execution filesystem format forward_list fstream functional
@@ -59,8 +60,8 @@ function(fault_of floor include result)
       endif()
     endif()
   elseif(include MATCHES "^<(.*)>$")
-    if(floor STREQUAL "core" AND NOT CMAKE_MATCH_1 IN_LIST standard_library)
-      set(fault "core knows the C++ standard library alone")
+    if((floor STREQUAL "core" OR floor STREQUAL "table") AND NOT CMAKE_MATCH_1 IN_LIST standard_library)
+      set(fault "${floor} knows the C++ standard library alone")
     endif()
   else()
     set(fault "not named from the root of the tree")

@@ -88,7 +88,7 @@ constexpr Kind kinds[] = {
     {"solvers' messages", R"(\bShowCoreMessage\(([^;]*)\);)", 2},
     {"refused pressures", R"(\.refusal = ("[^;]*?"),)", 2},
     {"refused leaving air", R"(\brefuse\(([^;]*)\);)", 2},
-    {"red warnings", R"(\bshowClip\([^;]*, ("[^"]*")\);)", 6},
+    {"red warnings", R"(return ("[^"]* clipped at [^"]*");)", 6},
     {"run-time errors", R"(case ErrorNumber::\w+:\s*return ([^;]*);)", 8},
     {"the unknown error", R"(\}\s*return ("Unknown error");)", 1},
     {"the fatal report", R"(return ("Run-time error '[^;]*);)", 1},

@@ -1,0 +1,114 @@
+// bench_search: the processor time of a complete state, divided by the time of the same state with the plain
+// wet bulb search. Both are measured in turn, round by round, so that other load on the machine affects both
+// alike.
+
+#include "bench/Quantiles.h"
+#include "core/CoreMessage.h"
+#include "core/MainMod.h"
+#include "core/Relations.h"
+#include "core/WetBulbSearch.h"
+#include "tests/core/PlainForms.h"
+
+#include <cstdio>
+#include <ctime>
+#include <random>
+
+// The same solvers with the plain search. Their headers are included above.
+namespace plain {
+#define SolveWetBulb PlainSolveWetBulb
+#include "core/Solvers.cpp" // NOLINT(bugprone-suspicious-include)
+#undef SolveWetBulb
+} // namespace plain
+
+namespace {
+
+constexpr int SampleSize = 4096; // too many for the processor to predict the branches of a search
+constexpr int Rounds = 101;
+
+using StateItem = TaggedNumber MoistAirState::*;
+
+struct Item
+{
+    const char* title;
+    StateItem item;
+    void (*solve)();
+    void (*solvePlain)();
+    bool isEnglishOnly;
+};
+
+const Item Items[] = {
+    {"relative humidity", &MoistAirState::RH, SolveFromRH, plain::SolveFromRH, false},
+    {"dew point", &MoistAirState::td, SolveFromDewPoint, plain::SolveFromDewPoint, false},
+    {"humidity ratio", &MoistAirState::W, SolveFromW, plain::SolveFromW, false},
+    {"grains", &MoistAirState::Grains, SolveFromGrains, plain::SolveFromGrains, true},
+    {"wet bulb", &MoistAirState::Twb, SolveFromWetBulb, plain::SolveFromWetBulb, false}, // has no search
+};
+
+/// Solved states over the usual range of the screens, with the relative humidity in percent again.
+std::vector<MoistAirState> Sample()
+{
+    std::mt19937 random(1);
+    std::uniform_real_distribution<Single> dryBulb(IsMetric() ? 0.0F : 35.0F, IsMetric() ? 45.0F : 115.0F);
+    std::uniform_real_distribution<Single> percent(5.0F, 95.0F);
+    std::vector<MoistAirState> states;
+    for (int i = 0; i < SampleSize; ++i) {
+        StatePoint = {};
+        StatePoint.Tdb = dryBulb(random);
+        StatePoint.P = IsMetric() ? 101325.0F : 14.696F;
+        StatePoint.RH = percent(random);
+        SolveFromRH();
+        StatePoint.RH = (StatePoint.RH * 100).asSingle();
+        states.push_back(StatePoint);
+    }
+    return states;
+}
+
+/// The processor time of this process so far, which excludes the time of other programs.
+double Nanoseconds()
+{
+    timespec used{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
+    return static_cast<double>(used.tv_sec) * 1e9 + static_cast<double>(used.tv_nsec);
+}
+
+/// Nanoseconds per state.
+double TimeOf(const std::vector<MoistAirState>& states, StateItem item, void (*solve)())
+{
+    const double start = Nanoseconds();
+    for (const MoistAirState& given : states) {
+        StatePoint.Tdb = given.Tdb;
+        StatePoint.*item = (given.*item).asSingle();
+        solve();
+    }
+    return (Nanoseconds() - start) / SampleSize;
+}
+
+void Measure(const std::vector<MoistAirState>& states, const Item& each)
+{
+    std::vector<double> times;
+    std::vector<double> plainTimes;
+    std::vector<double> ratios;
+    for (int round = 0; round < Rounds; ++round) {
+        times.push_back(TimeOf(states, each.item, each.solve));
+        plainTimes.push_back(TimeOf(states, each.item, each.solvePlain));
+        ratios.push_back(times.back() / plainTimes.back());
+    }
+    std::printf("  %-18s %8.0f %8.0f %8.3f  (%.3f - %.3f)\n", each.title, median(times), median(plainTimes),
+                median(ratios), quantile(ratios, 0.25), quantile(ratios, 0.75));
+}
+
+} // namespace
+
+int main()
+{
+    for (const Boolean16 mode : {False16, True16}) {
+        UnitSystem = mode;
+        std::printf("State, %-12s %8s %8s %8s  (quartiles), %d rounds\n", IsMetric() ? "Metric" : "English",
+                    "ns", "plain ns", "ratio", Rounds);
+        const std::vector<MoistAirState> states = Sample();
+        for (const Item& each : Items) {
+            if (!each.isEnglishOnly || !IsMetric())
+                Measure(states, each);
+        }
+    }
+}

@@ -1,0 +1,45 @@
+#include "table/Output.h"
+
+#include "table/TableError.h"
+
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <cstring>
+
+void Output::addNumber(const TaggedNumber& number)
+{
+    std::array<char, 32> digits{};
+    char* const first = digits.data();
+    char* const last = first + digits.size();
+    const auto result = number.kind() == NumberKind::Single ? std::to_chars(first, last, number.asSingle())
+                                                            : std::to_chars(first, last, number.asDouble());
+    buffer_.append(first, result.ptr);
+}
+
+void Output::addQuoted(std::string_view text)
+{
+    if (text.find_first_of(",\"\r\n") == std::string_view::npos) {
+        buffer_ += text;
+        return;
+    }
+    buffer_ += '"';
+    for (const char c : text)
+        buffer_.append(c == '"' ? 2 : 1, c);
+    buffer_ += '"';
+}
+
+void Output::endRow(std::string_view lineEnd)
+{
+    buffer_ += lineEnd;
+    if (buffer_.size() >= Enough)
+        flush();
+}
+
+void Output::flush()
+{
+    const bool isWritten = std::fwrite(buffer_.data(), 1, buffer_.size(), file_) == buffer_.size();
+    if (!isWritten || std::fflush(file_) != 0)
+        throw TableError(std::string("can't write: ") + std::strerror(errno));
+    buffer_.clear();
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdio>
+#include <string_view>
+#include <vector>
+
+/// Reads the records of a CSV file (RFC 4180) one at a time. Quoted fields may contain commas, line breaks
+/// and doubled quotes. A quote within an unquoted field is an ordinary character. A byte order mark at the
+/// start of the file and empty lines are skipped. Memory doesn't depend on the number of records.
+class Records
+{
+public:
+    /// The longest record, in bytes.
+    static constexpr std::size_t Longest = 1 << 20;
+
+    explicit Records(std::FILE* file);
+
+    /// Reads the next record.
+    /// @return false at the end of the file
+    /// @throws TableError if the file can't be read or the record is too long
+    bool next();
+
+    // The current record. The views are valid until the next call of next().
+    std::string_view text() const { return text_; }       ///< as in the file, without the line end
+    std::string_view lineEnd() const { return lineEnd_; } ///< "\n" or "\r\n"
+    const std::vector<std::string_view>& fields() const { return fields_; } ///< with their quotes
+    long line() const { return line_; } ///< number of its first line, from 1
+
+private:
+    static constexpr int EndOfFile = -1;
+
+    int peek();
+    bool refill();
+    void scan();
+    void scanQuoted();
+    void endField();
+    void skipByteOrderMark();
+
+    std::FILE* file_;
+    std::vector<char> buffer_;
+    std::size_t begin_ = 0; ///< of the current record
+    std::size_t at_ = 0;
+    std::size_t end_ = 0; ///< of the bytes in the buffer
+    std::size_t fieldBegin_ = 0;
+    std::vector<std::pair<std::size_t, std::size_t>> spans_; ///< of the fields, from begin_
+    long nextLine_ = 1;
+
+    std::string_view text_;
+    std::string_view lineEnd_;
+    std::vector<std::string_view> fields_;
+    long line_ = 0;
+};
