@@ -4,8 +4,6 @@
 #include "platform/forms/MsgBox.h"
 #include "screens/AirPanel.h"
 
-#include <QWidget>
-
 using namespace forms;
 
 namespace {

@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QImage>
 #include <QLineEdit>
 #include <QScreen>
 #include <QScrollArea>
@@ -57,6 +58,37 @@ TEST_P(EveryFormOnScreen, KeepsItsSizeWhereTheScreenHasRoom)
         available().height() > content.height() + 80 && available().width() > content.width() + 20;
     EXPECT_TRUE(!hasRoom || view->viewport()->size().width() >= content.width());
     EXPECT_TRUE(!hasRoom || view->viewport()->size().height() >= content.height());
+}
+
+/// The pressure of a calculator, in its frame.
+using PressureBox = ProgramTest;
+
+TEST_F(PressureBox, HasAllItsSidesInThisScaling)
+{
+    start();
+    form<AirPropertiesCalc>().Show();
+    QWidget* const window = form<AirPropertiesCalc>().window();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
+    QImage image = window->grab().toImage();
+    const double scale = image.devicePixelRatio();
+    const auto* const box = window->findChild<QWidget*>("txtP");
+    const QPoint corner = box->mapTo(window, QPoint(0, 0));
+    const QColor background = window->palette().color(QPalette::Window);
+    // Some pixel near each side is darker than the background, in the middle of that side.
+    const auto hasLine = [&](double x, double y, bool isUpright) {
+        for (double d = -1; d <= 1; d += 0.5) {
+            const QPoint place(static_cast<int>((x + (isUpright ? d : 0)) * scale),
+                               static_cast<int>((y + (isUpright ? 0 : d)) * scale));
+            if (image.pixelColor(place).lightness() < background.lightness() - 15)
+                return true;
+        }
+        return false;
+    };
+    const double middle = corner.y() + box->height() / 2.0;
+    EXPECT_TRUE(hasLine(corner.x() + 0.5, middle, true)) << "left";
+    EXPECT_TRUE(hasLine(corner.x() + box->width() - 0.5, middle, true)) << "right";
+    EXPECT_TRUE(hasLine(corner.x() + 8, corner.y() + 0.5, false)) << "top";
+    EXPECT_TRUE(hasLine(corner.x() + 8, corner.y() + box->height() - 0.5, false)) << "bottom";
 }
 
 INSTANTIATE_TEST_SUITE_P(InBothModes, EveryFormOnScreen, testing::ValuesIn(everyFormInBothModes()), nameOf);

@@ -239,6 +239,14 @@ TEST_F(MixedAirTable, ShowsItsMenus)
     EXPECT_TRUE(user.menuEntry("mnusep3")->isSeparator());
 }
 
+TEST_F(MixedAirTable, CentersItsHeadings)
+{
+    openTable();
+    for (std::size_t column = 0; column < columnLeft.size(); ++column)
+        EXPECT_EQ(user.widget(cell("lblHeading", column))->property("alignment").toInt(),
+                  static_cast<int>(Qt::AlignCenter));
+}
+
 TEST_F(MixedAirTable, ColoursItsCellsAndWritesThemInArial)
 {
     openTable();

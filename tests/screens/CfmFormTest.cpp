@@ -104,6 +104,29 @@ TEST_F(AirVolumeDialog, OffersItsTextAgain)
     EXPECT_EQ(offered, "1200");
 }
 
+TEST_F(AirVolumeDialog, ReplacesTheOfferedTextByTyping)
+{
+    openWithAState();
+    save("btnSaveOSA", "1000");
+    inVolume("btnSaveOSA", [this] {
+        user.keys("5000");
+        user.click("btnOK");
+    });
+    EXPECT_EQ(MixedOutsideAir.AirVolume, 5000.0F);
+}
+
+TEST_F(AirVolumeDialog, ReplacesTheOfferedReturnVolumeByTyping)
+{
+    openWithAState();
+    save("btnRA", "3000");
+    save("btnRA", "3500");
+    inVolume("btnSaveOSA", [this] {
+        user.keys("5000");
+        user.click("btnOK");
+    });
+    EXPECT_EQ(MixedOutsideAir.AirVolume, 5000.0F);
+}
+
 TEST_F(AirVolumeDialog, OffersTheReturnVolumeInPlaceOfItsTextOnceItIsSet)
 {
     openWithAState();

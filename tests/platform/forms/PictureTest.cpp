@@ -109,6 +109,17 @@ TEST_F(PictureControl, IsUpToDateWhenItsWindowComesBack)
     EXPECT_EQ(Drawing::paints, 2);
 }
 
+TEST_F(PictureControl, ShowsTheFocusAtItsEdgeAndTintsNothing)
+{
+    show();
+    form<PictureScreen>().Image1.takeFocus();
+    QWidget* const canvas = form<PictureScreen>().Image1.widget();
+    ASSERT_TRUE(QTest::qWaitFor([canvas] { return canvas->hasFocus(); }));
+    const QImage image = canvas->grab().toImage();
+    EXPECT_EQ(image.pixelColor(canvas->rect().center()), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(canvas->width() / 2, 0), canvas->palette().color(QPalette::Highlight));
+}
+
 TEST_F(PictureControl, IsPaintedAnewInAnotherSizeFontOrColour)
 {
     show();
