@@ -10,7 +10,7 @@
 namespace {
 
 // Why the zone is wide enough. WetBulbResidual rounds five times; the last rounding keeps the sign. Let G be
-// the unrounded balance (see StepToRoot), u = 2^-24, and g = Ws*' / Ws*. Within the limits below, pws < p /
+// the unrounded balance (see stepToRoot), u = 2^-24, and g = Ws*' / Ws*. Within the limits below, pws < p /
 // 2, and g > 0.051 per deg C or 0.028 per deg F. The other roundings change G by at most
 //   - absolute temperature: half a unit in the last place, 2^-16 deg C or 2^-15 deg F, times latent Ws*';
 //   - pws, then Ws*: 2u (because p / (p - pws) < 2) and u of latent Ws*, that is 3u / g times latent Ws*';
@@ -45,7 +45,7 @@ constexpr WetBulbSigns NoSigns{-std::numeric_limits<Single>::infinity(),
 
 /// Halley's step from twb towards the root of G = latent Ws* - sensible - w divisor. For its second
 /// derivative, Ws* is taken as exponential.
-double StepToRoot(double twb, double absolute, Single tdb, Single w, Single p)
+double stepToRoot(double twb, double absolute, Single tdb, Single w, Single p)
 {
     const SaturationCurve& curve = *SaturationCurveAt(static_cast<Single>(absolute));
     const double pws = std::exp(LogSaturationPressure(curve, absolute));
@@ -74,7 +74,7 @@ WetBulbSigns FindWetBulbSigns(Single tdb, Single w, Single p)
     const double rootOfEnthalpy = std::sqrt(std::max(EnthalpyOf(tdb, w), 0.0F));
     double twb = std::min<double>(limits.guess + limits.guessPerRoot * rootOfEnthalpy, bracket.upper);
     for (int i = 0; i < MostSteps; ++i) {
-        const double step = StepToRoot(twb, twb - limits.absoluteZero, tdb, w, p);
+        const double step = stepToRoot(twb, twb - limits.absoluteZero, tdb, w, p);
         twb += step;
         if (!(twb > bracket.lower && twb < bracket.upper))
             return NoSigns;

@@ -196,7 +196,7 @@ void Form::focusOn(QWidget& widget)
 
 void Form::noteEnabling(QWidget& widget, bool enabled)
 {
-    if (enabled && !widget.isEnabled() && qobject_cast<QPushButton*>(&widget) != nullptr)
+    if (enabled && qobject_cast<QPushButton*>(&widget) != nullptr)
         enabledButtons.emplace_back(&widget);
     if (!enabled && frame->focusWidget() == &widget)
         lostFocus = true;

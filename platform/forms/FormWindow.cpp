@@ -59,23 +59,27 @@ void FormWindow::setLeastSize(QSize size)
 
 void FormWindow::keepTogether()
 {
-    constexpr int percent = 125;
-    content()->setMaximumSize(minimumSize() * percent / 100);
+    isKeptTogether = true;
     view()->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    keepRoom();
 }
 
-/// The size at which nothing has to scroll.
-QSize FormWindow::neededSize() const
+/// The size of the content at which nothing has to scroll.
+QSize FormWindow::neededByContent() const
 {
-    const QSize rest = minimumSizeHint() - view()->minimumSizeHint(); // the menu bar
-    const QSize needed = content()->minimumSizeHint().expandedTo(content()->minimumSize());
-    return leastSize.expandedTo({needed.width(), needed.height() + rest.height()});
+    return content()->minimumSizeHint().expandedTo(content()->minimumSize());
 }
 
 void FormWindow::keepRoom()
 {
+    const int menuHeight = minimumSizeHint().height() - view()->minimumSizeHint().height();
+    const QSize menu(0, menuHeight);
+    const QSize wanted = leastSize.expandedTo(neededByContent() + menu);
     const QSize room = screen()->availableSize() - frameSizeOf(*this);
-    setMinimumSize(neededSize().boundedTo(room));
+    setMinimumSize(wanted.boundedTo(room));
+    constexpr int percent = 125; // of the size that the content is designed for
+    if (isKeptTogether)
+        content()->setMaximumSize((wanted - menu) * percent / 100);
 }
 
 /// The upper left corner has precedence where the window is larger than the screen.

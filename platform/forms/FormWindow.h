@@ -34,11 +34,12 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    QSize neededSize() const;
+    QSize neededByContent() const;
     void keepRoom();
 
     Form& owner;
     QSize leastSize;
+    bool isKeptTogether = false;
 };
 
 } // namespace forms

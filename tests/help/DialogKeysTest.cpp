@@ -111,8 +111,8 @@ TEST_F(KeysOfDialogs, EscCancelsTheAirVolume)
         user.type("txtCFMinput", "1000");
         user.key(Qt::Key_Escape);
     });
-    EXPECT_EQ(AirVolume, 0.0);
-    EXPECT_EQ(AirVolume.kind(), NumberKind::Int16);
+    EXPECT_EQ(HeatingEnteringAir.AirVolume, 0.0F);
+    EXPECT_EQ(user.text("txtAirVolume"), "0");
 }
 
 TEST_F(KeysOfDialogs, EnterAcceptsTheHeatingLeavingAir)

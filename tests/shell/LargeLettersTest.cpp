@@ -75,7 +75,7 @@ TEST_F(LargeLetters, OfUsualSizeLeaveTheMixedAirTableItsOwn)
     start();
     form<Answers1>().fill();
     const auto* const cell = shown<Answers1>().findChild<QLabel*>("lblTdb(0)");
-    EXPECT_GE(QFontInfo(cell->font()).pixelSize(), 13);
+    EXPECT_EQ(QFontInfo(cell->font()).pixelSize(), 13);
 }
 
 using LargeWindow = LargeLetters;

@@ -93,14 +93,27 @@ TEST_F(FocusAfterAHandler, IgnoresAButtonThatIsDisabledAgain)
     EXPECT_NE(user.focus(), "btnSecond");
 }
 
-TEST_F(FocusAfterAHandler, DoesNotRememberAnEarlierHandler)
+TEST_F(FocusAfterAHandler, GoesToAButtonThatWasEnabledBefore)
 {
     FirstScreen& screen = showFirstScreen();
-    screen.btnSecond.disable();
-    press([&screen] { screen.btnSecond.enable(); });
-    press([&screen] { screen.btnFirst.disable(); });
-    screen.txtFirst.takeFocus();
-    EXPECT_EQ(user.focus(), "txtFirst");
+    screen.btnSecond.onClick([&screen] {
+        screen.btnSecond.disable();
+        screen.btnFirst.enable();
+    });
+    screen.btnSecond.takeFocus();
+    user.key(Qt::Key_Space);
+    EXPECT_EQ(user.focus(), "btnFirst");
+}
+
+TEST_F(FocusAfterAHandler, DoesNotGoToAButtonThatAnEarlierHandlerEnabled)
+{
+    FirstScreen& screen = showFirstScreen();
+    screen.btnSecond.onClick([&screen] { screen.btnFirst.enable(); });
+    screen.btnSecond.takeFocus();
+    user.key(Qt::Key_Space);
+    screen.btnSecond.onClick([&screen] { screen.btnSecond.disable(); });
+    user.key(Qt::Key_Space);
+    EXPECT_EQ(user.focus(), "Combo1"); // the next control
 }
 
 class KeysOfAForm : public FormsTest
