@@ -187,7 +187,7 @@ TEST_F(HtmlHelp, OpensAfreshAfterItWasClosed)
 TEST_F(HtmlHelp, IsUpWhenTheProgramEnds)
 {
     ask(100);
-    QTimer::singleShot(0, qApp, endProcess);
+    QTimer::singleShot(0, qApp, EndProcess);
     EXPECT_EQ(QApplication::exec(), 0);
     EXPECT_TRUE(help().isVisible()) << "and this process is to end without a crash";
 }
