@@ -11,7 +11,9 @@
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTextBlock>
 #include <QTextDocumentFragment>
+#include <QTextTable>
 
 #include <algorithm>
 #include <utility>
@@ -30,6 +32,32 @@ constexpr int largestStep = 12;
 constexpr QLatin1String helpScheme("help");
 
 QString nameIn(const QUrl& address) { return address.path(QUrl::FullyDecoded).mid(1); }
+
+/// The text, with a tab between the cells of a table's row and a space between the lines of a cell.
+QString textWithTabs(const QTextDocumentFragment& fragment)
+{
+    QTextDocument copy;
+    QTextCursor(&copy).insertFragment(fragment);
+    QString text;
+    const QTextTable* lastTable = nullptr;
+    QTextTableCell last;
+    for (QTextBlock block = copy.begin(); block.isValid(); block = block.next()) {
+        const QTextTable* const table = QTextCursor(block).currentTable();
+        const QTextTableCell cell = table != nullptr ? table->cellAt(block.position()) : QTextTableCell();
+        if (!cell.isValid() && last.isValid() && block.length() == 1)
+            continue; // the toolkit adds an empty line after a table
+        if (cell.isValid() && cell == last)
+            text += ' ';
+        else if (cell.isValid() && table == lastTable && cell.row() == last.row())
+            text += QString(cell.column() - last.column(), '\t');
+        else
+            text += (text.isEmpty() ? "" : "\n") + QString(cell.isValid() ? cell.column() : 0, '\t');
+        text += block.text().replace(QChar::LineSeparator, cell.isValid() ? ' ' : '\n');
+        lastTable = table;
+        last = cell;
+    }
+    return text.replace(QChar::Nbsp, ' ');
+}
 
 } // namespace
 
@@ -55,7 +83,6 @@ void HelpPage::open(const QString& reference, const QStringList& wordsToMark)
         return;
     setSource(QUrl(helpScheme + ":/" + reference));
     markWords(wordsToMark);
-    goToNextMark();
 }
 
 QString HelpPage::pageName() const { return nameIn(current); }
@@ -146,6 +173,7 @@ void HelpPage::markWords(const QStringList& wordsToMark)
     }
     setExtraSelections(marks);
     nextMark = 0;
+    goToNextMark();
 }
 
 bool HelpPage::goToNextMark()
@@ -154,9 +182,7 @@ bool HelpPage::goToNextMark()
     if (marks.isEmpty())
         return false;
     nextMark %= marks.size();
-    QTextCursor there = marks[nextMark++].cursor;
-    there.setPosition(there.selectionStart());
-    setTextCursor(there);
+    setTextCursor(marks[nextMark++].cursor); // its selection shows which mark it is
     ensureCursorVisible();
     return true;
 }
@@ -184,7 +210,7 @@ QMimeData* HelpPage::createMimeDataFromSelection() const
 {
     const QTextDocumentFragment selected(textCursor());
     auto* const copied = new QMimeData;
-    copied->setText(selected.toPlainText());
+    copied->setText(textWithTabs(selected));
     copied->setHtml(selected.toHtml());
     return copied;
 }

@@ -23,6 +23,9 @@ public:
     void open(const QString& reference, const QStringList& wordsToMark = {});
     QString pageName() const; ///< the current page
 
+    /// Marks these words instead of others, and goes to the first mark.
+    void markWords(const QStringList& wordsToMark);
+    const QStringList& markedWords() const { return words; }
     /// Goes to the next mark, and from the last to the first. Returns false if nothing is marked.
     bool goToNextMark();
     int marks() const { return static_cast<int>(extraSelections().size()); }
@@ -45,7 +48,6 @@ private:
     QImage picture(const QUrl& address) const;
     int widthAskedFor(const QUrl& address) const;
     void restyle();
-    void markWords(const QStringList& wordsToMark);
 
     std::shared_ptr<const HelpBook> book;
     QUrl current;      // the current page; set before the toolkit loads the page's resources

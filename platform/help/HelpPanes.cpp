@@ -39,16 +39,6 @@ QLabel* makeLabel(const QString& text, QWidget* buddy)
     return label;
 }
 
-QLineEdit* makeField(const QString& name, const QString& accessibleName)
-{
-    auto* const field = new QLineEdit;
-    field->setObjectName(name);
-    field->setAccessibleName(accessibleName);
-    field->setClearButtonEnabled(true);
-    field->setMaxLength(200);
-    return field;
-}
-
 /// Adds a line below another, with some space above and below the text.
 QTreeWidgetItem* addLine(QTreeWidgetItem* parent, const QString& text, const QString& page)
 {
@@ -72,11 +62,21 @@ void filter(QTreeWidget& list, const QString& text)
 
 } // namespace
 
+QLineEdit* MakeField(const QString& name, const QString& accessibleName)
+{
+    auto* const field = new QLineEdit;
+    field->setObjectName(name);
+    field->setAccessibleName(accessibleName);
+    field->setClearButtonEnabled(true);
+    field->setMaxLength(200);
+    return field;
+}
+
 HelpPanes::HelpPanes(std::shared_ptr<const HelpBook> shown, HelpPage& beside)
     : book(std::move(shown)),
       page(beside),
       contents(makeList("helpContents", "Contents")),
-      searchField(makeField("helpSearchField", "Words to search for")),
+      searchField(MakeField("helpSearchField", "Words to search for")),
       summary(new QLabel(searchHint)),
       results(makeList("helpSearchResults", "Pages found"))
 {
@@ -119,7 +119,7 @@ void HelpPanes::addContents()
 
 void HelpPanes::addIndex()
 {
-    auto* const field = makeField("helpIndexFilter", "Keyword");
+    auto* const field = MakeField("helpIndexFilter", "Keyword");
     auto* const list = makeList("helpIndex", "Keywords");
     QVBoxLayout* const column = makePane(field);
     column->addWidget(makeLabel("&Keyword", field));
@@ -196,6 +196,7 @@ void HelpPanes::search()
     if (count == 0)
         return;
     results->setCurrentItem(results->topLevelItem(0));
+    emit results->itemActivated(results->currentItem(), 0);
     results->setFocus(Qt::OtherFocusReason);
 }
 

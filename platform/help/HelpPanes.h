@@ -14,6 +14,9 @@ namespace help {
 
 class HelpPage;
 
+/// A field for a search text.
+QLineEdit* MakeField(const QString& name, const QString& accessibleName);
+
 /// The contents tree, the index with a field that filters it, and the full-text search. They open pages in
 /// the view beside them.
 class HelpPanes : public QTabWidget

@@ -3,11 +3,13 @@
 #include "platform/PrintServer.h"
 #include "platform/help/HelpPage.h"
 #include "platform/help/HelpPanes.h"
+#include "platform/help/HelpSearch.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QScreen>
@@ -29,6 +31,7 @@ HelpWindow::HelpWindow(std::shared_ptr<const HelpBook> shown)
       tools(new QToolBar),
       page(new HelpPage(book, this)),
       panes(new HelpPanes(book, *page)),
+      findField(MakeField("helpFindField", "Words to find on this page")),
       notice(new QLabel)
 {
     setObjectName("HelpWindow");
@@ -37,6 +40,8 @@ HelpWindow::HelpWindow(std::shared_ptr<const HelpBook> shown)
     notice->setObjectName("helpNotice");
     notice->hide();
     notice->setContentsMargins(12, 6, 12, 6);
+    findField->setPlaceholderText(findField->accessibleName());
+    findField->hide();
 
     auto* const sides = new QSplitter;
     sides->addWidget(panes);
@@ -50,8 +55,10 @@ HelpWindow::HelpWindow(std::shared_ptr<const HelpBook> shown)
     column->setSpacing(0);
     column->addWidget(tools);
     column->addWidget(sides, 1);
+    column->addWidget(findField);
     column->addWidget(notice);
     makeCommands();
+    makeFindCommands();
     connect(page, &QTextBrowser::sourceChanged, this, [this] {
         notice->hide();
         panes->showPage(page->pageName());
@@ -81,21 +88,48 @@ void HelpWindow::makeCommands()
     addCommand("helpPrint", "Print", "Print", QKeySequence::Print, [this] { print(); });
 
     addCommand("helpLargerToo", {}, "Larger text", Qt::CTRL | Qt::Key_Equal, larger); // + without Shift
-    addCommand("helpSearch", {}, "Search", QKeySequence::Find, [this] { panes->startSearch(); });
-    addCommand("helpSearchOn", {}, "Search on", Qt::Key_F3, [this] {
-        if (!page->goToNextMark())
-            panes->startSearch();
-    });
     addCommand("helpSwitchPanes", {}, "Switch panes", Qt::Key_F6, [this] {
         QWidget* const there = page->hasFocus() ? panes->currentWidget() : page;
         there->setFocus(Qt::ShortcutFocusReason);
     });
-    addCommand("helpClose", {}, "Close", Qt::Key_Escape, [this] { close(); });
 
     copy->setEnabled(false); // the page tells of changes only
     connect(page, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
     connect(page, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
     connect(page, &QTextBrowser::copyAvailable, copy, &QAction::setEnabled);
+}
+
+void HelpWindow::makeFindCommands()
+{
+    addCommand("helpFindOnPage", {}, "Find on this page", QKeySequence::Find, [this] {
+        findField->show();
+        findField->setFocus(Qt::ShortcutFocusReason);
+        findField->selectAll();
+    });
+    addCommand("helpSearch", {}, "Search", Qt::CTRL | Qt::SHIFT | Qt::Key_F,
+               [this] { panes->startSearch(); });
+    addCommand("helpSearchOn", {}, "Search on", Qt::Key_F3, [this] {
+        if (page->goToNextMark())
+            return;
+        if (findField->isVisible())
+            find();
+        else
+            panes->startSearch();
+    });
+    addCommand("helpClose", {}, "Close", Qt::Key_Escape, [this] {
+        if (!findField->isVisible()) {
+            close();
+            return;
+        }
+        findField->clear(); // and the marks
+        findField->hide();
+        page->setFocus(Qt::OtherFocusReason);
+    });
+    connect(findField, &QLineEdit::returnPressed, this, &HelpWindow::find);
+    connect(findField, &QLineEdit::textChanged, this, [this] {
+        page->markWords({});
+        find();
+    });
 }
 
 /// Adds a command with a key, and with a tool bar button if it has a label. The label is text, not an icon:
@@ -126,6 +160,18 @@ void HelpWindow::goToPage(const QString& name)
 {
     page->open(name);
     notice->hide();
+}
+
+/// Marks the words of the find field on the page, or goes to the next mark if they are marked already.
+void HelpWindow::find()
+{
+    const QStringList words = SearchWords(findField->text());
+    if (page->markedWords() == words)
+        page->goToNextMark();
+    else
+        page->markWords(words);
+    notice->setText("This page has none of these words.");
+    notice->setVisible(!words.isEmpty() && page->marks() == 0);
 }
 
 void HelpWindow::print()

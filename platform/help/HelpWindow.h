@@ -9,6 +9,7 @@
 
 class QAction;
 class QLabel;
+class QLineEdit;
 class QToolBar;
 class QWindow;
 
@@ -35,16 +36,19 @@ protected:
 
 private:
     void makeCommands();
+    void makeFindCommands();
     QAction* addCommand(const QString& name, const QString& label, const QString& text,
                         const QKeySequence& key, const std::function<void()>& handler);
     void attachTo(QWindow* before);
     void placeBeside(const QWidget& asking);
+    void find();
     void print();
 
     std::shared_ptr<const HelpBook> book;
     QToolBar* tools;
     HelpPage* page;
     HelpPanes* panes;
+    QLineEdit* findField;
     QLabel* notice;
 };
 
