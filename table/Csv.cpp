@@ -12,17 +12,17 @@ constexpr Single StandardPsi = 14.696F;
 constexpr Single StandardKPa = 101.325F;
 
 /// The text of a field without its quotes. Numbers and names contain no doubled quotes.
-std::string_view Unquoted(std::string_view field)
+std::string_view unquoted(std::string_view field)
 {
     const bool isQuoted = field.size() >= 2 && field.front() == '"' && field.back() == '"';
     return isQuoted ? field.substr(1, field.size() - 2) : field;
 }
 
 /// A column's name for comparison: without quotes and blanks around it, in lower case.
-std::string NameIn(std::string_view field)
+std::string nameIn(std::string_view field)
 {
     std::string name;
-    for (const char c : Unquoted(field))
+    for (const char c : unquoted(field))
         name += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     name.erase(0, name.find_first_not_of(' '));
     name.erase(name.find_last_not_of(' ') + 1);
@@ -40,7 +40,7 @@ struct Columns
 };
 
 /// @throws TableError if two columns have that name
-std::optional<std::size_t> Find(const std::vector<std::string>& names, std::string_view name)
+std::optional<std::size_t> find(const std::vector<std::string>& names, std::string_view name)
 {
     const auto found = std::find(names.begin(), names.end(), name);
     if (found == names.end())
@@ -50,19 +50,19 @@ std::optional<std::size_t> Find(const std::vector<std::string>& names, std::stri
     return static_cast<std::size_t>(found - names.begin());
 }
 
-Columns ColumnsIn(const std::vector<std::string_view>& header)
+Columns columnsIn(const std::vector<std::string_view>& header)
 {
     std::vector<std::string> names;
-    std::transform(header.begin(), header.end(), std::back_inserter(names), NameIn);
-    const auto tdb = Find(names, "tdb");
+    std::transform(header.begin(), header.end(), std::back_inserter(names), nameIn);
+    const auto tdb = find(names, "tdb");
     if (!tdb)
         throw TableError("the header has no column tdb");
 
-    Columns columns{names.size(), *tdb, 0, Find(names, "p"), Item::WetBulb};
+    Columns columns{names.size(), *tdb, 0, find(names, "p"), Item::WetBulb};
     int items = 0;
     for (const Item item :
          {Item::WetBulb, Item::DewPoint, Item::RelativeHumidity, Item::HumidityRatio, Item::Grains}) {
-        if (const auto found = Find(names, NameOf(item))) {
+        if (const auto found = find(names, NameOf(item))) {
             columns.humidity = *found;
             columns.item = item;
             ++items;
@@ -76,7 +76,7 @@ Columns ColumnsIn(const std::vector<std::string_view>& header)
 }
 
 /// Writes a row's own columns: as they are, or cut or filled up to the header's number of columns.
-void AddOwnColumns(Output& output, const Records& records, std::size_t count)
+void addOwnColumns(Output& output, const Records& records, std::size_t count)
 {
     const auto& fields = records.fields();
     if (fields.size() == count) {
@@ -89,15 +89,15 @@ void AddOwnColumns(Output& output, const Records& records, std::size_t count)
     }
 }
 
-bool SolveRow(const Records& records, const Columns& columns, const RowSolver& solver, std::string& note)
+bool solveRow(const Records& records, const Columns& columns, const RowSolver& solver, std::string& note)
 {
     const auto& fields = records.fields();
     if (fields.size() != columns.count) {
         note = std::to_string(fields.size()) + " columns instead of " + std::to_string(columns.count);
         return false;
     }
-    const std::string_view pressure = columns.pressure ? Unquoted(fields[*columns.pressure]) : "";
-    return solver.solve({Unquoted(fields[columns.tdb]), Unquoted(fields[columns.humidity]), pressure}, note);
+    const std::string_view pressure = columns.pressure ? unquoted(fields[*columns.pressure]) : "";
+    return solver.solve({unquoted(fields[columns.tdb]), unquoted(fields[columns.humidity]), pressure}, note);
 }
 
 } // namespace
@@ -106,7 +106,7 @@ RowCount SolveCsv(Records& records, Output& output, const TableOptions& options)
 {
     if (!records.next())
         throw TableError("no header: the input is empty");
-    const Columns columns = ColumnsIn(records.fields());
+    const Columns columns = columnsIn(records.fields());
     output.add(records.text());
     AddPropertyNames(output, columns.item);
     output.endRow(records.lineEnd());
@@ -118,8 +118,8 @@ RowCount SolveCsv(Records& records, Output& output, const TableOptions& options)
     RowCount count;
     std::string note;
     while (records.next()) {
-        const bool isSolved = SolveRow(records, columns, solver, note);
-        AddOwnColumns(output, records, columns.count);
+        const bool isSolved = solveRow(records, columns, solver, note);
+        addOwnColumns(output, records, columns.count);
         AddProperties(output, columns.item, isSolved, note);
         output.endRow(records.lineEnd());
         ++count.rows;

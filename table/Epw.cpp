@@ -19,7 +19,7 @@ enum Field : std::size_t
     UsedFields
 };
 
-void SkipHeader(Records& records)
+void skipHeader(Records& records)
 {
     for (int i = 0; i < HeaderLines; ++i) {
         if (!records.next() || (i == 0 && records.fields()[0] != "LOCATION"))
@@ -29,7 +29,7 @@ void SkipHeader(Records& records)
 }
 
 /// A field, or an empty text if it holds the format's figure for a missing value: nines only.
-std::string_view Present(std::string_view field, std::string_view missing)
+std::string_view present(std::string_view field, std::string_view missing)
 {
     return field.starts_with(missing) &&
                    field.find_first_not_of("0.", missing.size()) == std::string_view::npos
@@ -37,22 +37,22 @@ std::string_view Present(std::string_view field, std::string_view missing)
                : field;
 }
 
-void AddTwoDigits(Output& output, std::string_view number)
+void addTwoDigits(Output& output, std::string_view number)
 {
     output.add(number.size() == 1 ? "0" : "");
     output.add(number);
 }
 
 /// The time stamp as in the file: hour 1 is the hour that ends at 01:00.
-void AddTime(Output& output, const std::vector<std::string_view>& fields)
+void addTime(Output& output, const std::vector<std::string_view>& fields)
 {
     output.add(fields[Year]);
     output.add("-");
-    AddTwoDigits(output, fields[Month]);
+    addTwoDigits(output, fields[Month]);
     output.add("-");
-    AddTwoDigits(output, fields[Day]);
+    addTwoDigits(output, fields[Day]);
     output.add("T");
-    AddTwoDigits(output, fields[Hour]);
+    addTwoDigits(output, fields[Hour]);
     output.add(":00");
 }
 
@@ -63,9 +63,9 @@ struct HourTexts
     std::string kilopascals;
 
     explicit HourTexts(const std::vector<std::string_view>& fields)
-        : tdb(Present(fields[DryBulb], "99.9")),
-          td(Present(fields[DewPoint], "99.9")),
-          pascals(Present(fields[Pressure], "999999")),
+        : tdb(present(fields[DryBulb], "99.9")),
+          td(present(fields[DewPoint], "99.9")),
+          pascals(present(fields[Pressure], "999999")),
           kilopascals(pascals)
     {
         if (!kilopascals.empty())
@@ -73,9 +73,9 @@ struct HourTexts
     }
 };
 
-void AddGiven(Output& output, const std::vector<std::string_view>& fields, const HourTexts& hour)
+void addGiven(Output& output, const std::vector<std::string_view>& fields, const HourTexts& hour)
 {
-    AddTime(output, fields);
+    addTime(output, fields);
     for (const std::string_view text : {hour.tdb, hour.td, hour.pascals}) {
         output.add(",");
         output.add(text);
@@ -86,7 +86,7 @@ void AddGiven(Output& output, const std::vector<std::string_view>& fields, const
 
 RowCount SolveEpw(Records& records, Output& output, const TableOptions& options)
 {
-    SkipHeader(records);
+    skipHeader(records);
     output.add("time,tdb_C,td_C,p_Pa");
     AddPropertyNames(output, Item::DewPoint);
     output.endRow();
@@ -100,7 +100,7 @@ RowCount SolveEpw(Records& records, Output& output, const TableOptions& options)
             throw TableError("line " + std::to_string(records.line()) + ": not an hour in EPW form");
         const HourTexts hour(fields);
         const bool isSolved = solver.solve({hour.tdb, hour.td, hour.kilopascals}, note);
-        AddGiven(output, fields, hour);
+        addGiven(output, fields, hour);
         AddProperties(output, Item::DewPoint, isSolved, note);
         output.endRow();
         ++count.rows;

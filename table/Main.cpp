@@ -16,7 +16,7 @@ constexpr int StatusError = 2;
 
 using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
-File Open(const std::string& name)
+File open(const std::string& name)
 {
     if (name.empty() || name == "-")
         return {stdin, [](std::FILE*) { return 0; }};
@@ -26,11 +26,11 @@ File Open(const std::string& name)
     return file;
 }
 
-void Solve(const TableOptions& options)
+void solve(const TableOptions& options)
 {
     UnitSystem = options.isMetric ? True16 : False16;
     numberLocale = {.decimalPoint = ".", .groupSeparator = ""};
-    const File file = Open(options.file);
+    const File file = open(options.file);
     Records records(file.get());
     Output output(stdout);
     const RowCount count =
@@ -52,7 +52,7 @@ int main(int argc, char** argv)
         else if (options.wantsVersion)
             std::puts("dunmoor-table " DUNMOOR_VERSION);
         else
-            Solve(options);
+            solve(options);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "dunmoor-table: %s\n", error.what());
         return StatusError;

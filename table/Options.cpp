@@ -24,7 +24,7 @@ w, grains; p is optional.
 
 namespace {
 
-Single NumberOption(const std::string& name, const std::string& text)
+Single numberOption(const std::string& name, const std::string& text)
 {
     try {
         return RoundToSingle(ParseDouble(text));
@@ -36,7 +36,7 @@ Single NumberOption(const std::string& name, const std::string& text)
 /// The standard atmosphere, P = P0 (1 - a Z)^5.2559, as given in the ASHRAE Handbook of Fundamentals.
 /// @param Z  altitude, ft or m
 /// @return   psi or kPa
-Single PressureAtAltitude(Single Z, bool isMetric)
+Single pressureAtAltitude(Single Z, bool isMetric)
 {
     const double base = 1.0 - (isMetric ? 2.25577e-5 : 6.8754e-6) * Z;
     return RoundToSingle((isMetric ? 101.325 : 14.696) * std::pow(std::fmax(base, 0.0), 5.2559));
@@ -46,45 +46,45 @@ Single PressureAtAltitude(Single Z, bool isMetric)
 class Arguments
 {
 public:
-    explicit Arguments(const std::vector<std::string>& all) : all_(all) {}
+    explicit Arguments(const std::vector<std::string>& all) : allArguments(all) {}
 
     bool next()
     {
-        if (at_ == all_.size())
+        if (nextAt == allArguments.size())
             return false;
-        const std::string& argument = all_[at_++];
+        const std::string& argument = allArguments[nextAt++];
         const std::size_t equals = argument.starts_with("--") ? argument.find('=') : std::string::npos;
         name = argument.substr(0, equals);
-        value_.reset();
+        attached.reset();
         if (equals != std::string::npos)
-            value_ = argument.substr(equals + 1);
+            attached = argument.substr(equals + 1);
         return true;
     }
 
     std::string value()
     {
-        if (!value_ && at_ < all_.size())
-            value_ = all_[at_++];
-        if (!value_)
+        if (!attached && nextAt < allArguments.size())
+            attached = allArguments[nextAt++];
+        if (!attached)
             throw TableError(name + " needs a value");
-        return *std::exchange(value_, std::nullopt);
+        return *std::exchange(attached, std::nullopt);
     }
 
     void refuseUnusedValue() const
     {
-        if (value_)
+        if (attached)
             throw TableError(name + " takes no value");
     }
 
     std::string name;
 
 private:
-    const std::vector<std::string>& all_;
-    std::size_t at_ = 0;
-    std::optional<std::string> value_;
+    const std::vector<std::string>& allArguments;
+    std::size_t nextAt = 0;
+    std::optional<std::string> attached;
 };
 
-bool IsMetricUnits(const std::string& units)
+bool isMetricUnits(const std::string& units)
 {
     if (units != "english" && units != "metric")
         throw TableError("--units is english or metric, not \"" + units + "\"");
@@ -98,13 +98,13 @@ struct PressureOptions
     std::optional<Single> altitude;
 };
 
-void CompletePressure(TableOptions& options, const PressureOptions& given)
+void completePressure(TableOptions& options, const PressureOptions& given)
 {
     if (given.pressure && given.altitude)
         throw TableError("give --pressure or --altitude, not both");
     options.pressure = given.pressure;
     if (given.altitude)
-        options.pressure = PressureAtAltitude(*given.altitude, options.isMetric);
+        options.pressure = pressureAtAltitude(*given.altitude, options.isMetric);
     if (options.pressure && !(*options.pressure > 0.0F))
         throw TableError("the pressure must be above 0");
 }
@@ -119,11 +119,11 @@ TableOptions ParseOptions(const std::vector<std::string>& arguments)
     Arguments each(arguments);
     while (each.next()) {
         if (each.name == "--units")
-            isMetric = IsMetricUnits(each.value());
+            isMetric = isMetricUnits(each.value());
         else if (each.name == "--pressure")
-            given.pressure = NumberOption(each.name, each.value());
+            given.pressure = numberOption(each.name, each.value());
         else if (each.name == "--altitude")
-            given.altitude = NumberOption(each.name, each.value());
+            given.altitude = numberOption(each.name, each.value());
         else if (each.name == "--epw")
             options.isEpw = true;
         else if (each.name == "--help")
@@ -141,6 +141,6 @@ TableOptions ParseOptions(const std::vector<std::string>& arguments)
     if (options.isEpw && isMetric == false)
         throw TableError("a weather file is metric: leave out --units english");
     options.isMetric = isMetric.value_or(options.isEpw);
-    CompletePressure(options, given);
+    completePressure(options, given);
     return options;
 }

@@ -14,32 +14,32 @@ void Output::addNumber(const TaggedNumber& number)
     char* const last = first + digits.size();
     const auto result = number.kind() == NumberKind::Single ? std::to_chars(first, last, number.asSingle())
                                                             : std::to_chars(first, last, number.asDouble());
-    buffer_.append(first, result.ptr);
+    buffer.append(first, result.ptr);
 }
 
 void Output::addQuoted(std::string_view text)
 {
     if (text.find_first_of(",\"\r\n") == std::string_view::npos) {
-        buffer_ += text;
+        buffer += text;
         return;
     }
-    buffer_ += '"';
+    buffer += '"';
     for (const char c : text)
-        buffer_.append(c == '"' ? 2 : 1, c);
-    buffer_ += '"';
+        buffer.append(c == '"' ? 2 : 1, c);
+    buffer += '"';
 }
 
 void Output::endRow(std::string_view lineEnd)
 {
-    buffer_ += lineEnd;
-    if (buffer_.size() >= Enough)
+    buffer += lineEnd;
+    if (buffer.size() >= Enough)
         flush();
 }
 
 void Output::flush()
 {
-    const bool isWritten = std::fwrite(buffer_.data(), 1, buffer_.size(), file_) == buffer_.size();
-    if (!isWritten || std::fflush(file_) != 0)
+    const bool isWritten = std::fwrite(buffer.data(), 1, buffer.size(), target) == buffer.size();
+    if (!isWritten || std::fflush(target) != 0)
         throw TableError(std::string("can't write: ") + std::strerror(errno));
-    buffer_.clear();
+    buffer.clear();
 }

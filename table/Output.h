@@ -10,9 +10,9 @@
 class Output
 {
 public:
-    explicit Output(std::FILE* file) : file_(file) {}
+    explicit Output(std::FILE* file) : target(file) {}
 
-    void add(std::string_view text) { buffer_ += text; }
+    void add(std::string_view text) { buffer += text; }
     void addNumber(const TaggedNumber& number);
 
     /// Adds a field, quoted if it must be.
@@ -28,6 +28,6 @@ public:
 private:
     static constexpr std::size_t Enough = 1 << 16;
 
-    std::FILE* file_;
-    std::string buffer_;
+    std::FILE* target;
+    std::string buffer;
 };

@@ -25,11 +25,11 @@ const std::array<Property, 7> Properties{{
     {std::nullopt, "v_ft3_per_lb", "v_m3_per_kg", [] { return StatePoint.SpVol; }},
 }};
 
-const char* NameOf(const Property& property) { return IsMetric() ? property.metric : property.english; }
+const char* nameOf(const Property& property) { return IsMetric() ? property.metric : property.english; }
 
-bool IsWritten(const Property& property, Item given)
+bool isWritten(const Property& property, Item given)
 {
-    return NameOf(property) != nullptr && property.item != given;
+    return nameOf(property) != nullptr && property.item != given;
 }
 
 } // namespace
@@ -37,9 +37,9 @@ bool IsWritten(const Property& property, Item given)
 void AddPropertyNames(Output& output, Item given)
 {
     for (const Property& property : Properties) {
-        if (IsWritten(property, given)) {
+        if (isWritten(property, given)) {
             output.add(",");
-            output.add(NameOf(property));
+            output.add(nameOf(property));
         }
     }
     output.add(",note");
@@ -48,7 +48,7 @@ void AddPropertyNames(Output& output, Item given)
 void AddProperties(Output& output, Item given, bool isSolved, const std::string& note)
 {
     for (const Property& property : Properties) {
-        if (IsWritten(property, given)) {
+        if (isWritten(property, given)) {
             output.add(",");
             if (isSolved)
                 output.addNumber(property.value());

@@ -21,10 +21,10 @@ public:
     bool next();
 
     // The current record. The views are valid until the next call of next().
-    std::string_view text() const { return text_; }       ///< as in the file, without the line end
-    std::string_view lineEnd() const { return lineEnd_; } ///< "\n" or "\r\n"
-    const std::vector<std::string_view>& fields() const { return fields_; } ///< with their quotes
-    long line() const { return line_; } ///< number of its first line, from 1
+    std::string_view text() const { return currentText; }       ///< as in the file, without the line end
+    std::string_view lineEnd() const { return currentLineEnd; } ///< "\n" or "\r\n"
+    const std::vector<std::string_view>& fields() const { return currentFields; } ///< with their quotes
+    long line() const { return currentLine; } ///< number of its first line, from 1
 
 private:
     static constexpr int EndOfFile = -1;
@@ -36,17 +36,17 @@ private:
     void endField();
     void skipByteOrderMark();
 
-    std::FILE* file_;
-    std::vector<char> buffer_;
-    std::size_t begin_ = 0; ///< of the current record
-    std::size_t at_ = 0;
-    std::size_t end_ = 0; ///< of the bytes in the buffer
-    std::size_t fieldBegin_ = 0;
-    std::vector<std::pair<std::size_t, std::size_t>> spans_; ///< of the fields, from begin_
-    long nextLine_ = 1;
+    std::FILE* source;
+    std::vector<char> buffer;
+    std::size_t recordBegin = 0; ///< of the current record
+    std::size_t position = 0;
+    std::size_t bufferEnd = 0; ///< of the bytes in the buffer
+    std::size_t fieldBegin = 0;
+    std::vector<std::pair<std::size_t, std::size_t>> spans; ///< of the fields, from recordBegin
+    long nextLine = 1;
 
-    std::string_view text_;
-    std::string_view lineEnd_;
-    std::vector<std::string_view> fields_;
-    long line_ = 0;
+    std::string_view currentText;
+    std::string_view currentLineEnd;
+    std::vector<std::string_view> currentFields;
+    long currentLine = 0;
 };

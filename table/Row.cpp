@@ -29,7 +29,7 @@ const std::array<ItemRules, 5> Rules{{
     {"grains", &MoistAirState::Grains, ClipGrains, SolveFromGrains},
 }};
 
-const ItemRules& RulesOf(Item item) { return Rules[static_cast<std::size_t>(item)]; }
+const ItemRules& rulesOf(Item item) { return Rules[static_cast<std::size_t>(item)]; }
 
 /// A refused row, with its reason.
 class Refusal : public std::runtime_error
@@ -40,7 +40,7 @@ public:
 
 /// Parses as ParseSingle does, but refuses an empty text. Plain decimals take a faster way to the same
 /// number.
-Single Parse(std::string_view name, std::string_view text)
+Single parse(std::string_view name, std::string_view text)
 {
     double value = 0.0;
     const char* const end = text.data() + text.size();
@@ -58,7 +58,7 @@ Single Parse(std::string_view name, std::string_view text)
 }
 
 /// The ranges of the air properties calculator, with its messages.
-void CheckTdb()
+void checkTdb()
 {
     if (!(StatePoint.Tdb >= LowestTdb && StatePoint.Tdb <= HighestTdb))
         throw Refusal("Temperature Input Out of Range");
@@ -68,28 +68,28 @@ void CheckTdb()
 
 } // namespace
 
-std::string_view NameOf(Item item) { return RulesOf(item).name; }
+std::string_view NameOf(Item item) { return rulesOf(item).name; }
 
 void RowSolver::read(const RowInput& input) const
 {
-    StatePoint.Tdb = Parse("tdb", input.tdb);
-    CheckTdb();
-    const bool isDefault = input.pressure.empty() && pressure_;
-    const Single shown = isDefault ? *pressure_ : Parse("p", input.pressure);
+    StatePoint.Tdb = parse("tdb", input.tdb);
+    checkTdb();
+    const bool isDefault = input.pressure.empty() && defaultPressure;
+    const Single shown = isDefault ? *defaultPressure : parse("p", input.pressure);
     if (!(shown > 0.0F))
         throw Refusal("p is not above 0");
     StatePoint.P = IsMetric() ? RoundToSingle(shown * 1000.0) : shown;
-    const Single humidity = Parse(NameOf(item_), input.humidity);
-    const bool isGramsPerKilogram = item_ == Item::HumidityRatio && IsMetric();
-    StatePoint.*RulesOf(item_).value = isGramsPerKilogram ? RoundToSingle(humidity / 1000.0) : humidity;
+    const Single humidity = parse(NameOf(given), input.humidity);
+    const bool isGramsPerKilogram = given == Item::HumidityRatio && IsMetric();
+    StatePoint.*rulesOf(given).value = isGramsPerKilogram ? RoundToSingle(humidity / 1000.0) : humidity;
 }
 
 void RowSolver::run() const
 {
-    RulesOf(item_).solve();
-    if (item_ == Item::HumidityRatio && HumidityRatioTooHigh != 0)
+    rulesOf(given).solve();
+    if (given == Item::HumidityRatio && HumidityRatioTooHigh != 0)
         throw Refusal("Humidity Ratio Input is High");
-    if (item_ == Item::Grains && GrainsTooHigh != 0)
+    if (given == Item::Grains && GrainsTooHigh != 0)
         throw Refusal("Humidity Ratio Input is too High");
 }
 
@@ -97,7 +97,7 @@ bool RowSolver::solve(const RowInput& input, std::string& note) const
 {
     try {
         read(input);
-        const char* const warning = RulesOf(item_).clip();
+        const char* const warning = rulesOf(given).clip();
         run();
         note = warning == nullptr ? "" : warning;
         return true;

@@ -27,7 +27,7 @@ class RowSolver
 {
 public:
     /// @param pressure  the default, psi or kPa; without one, a row without a pressure is refused
-    RowSolver(Item item, std::optional<Single> pressure) : item_(item), pressure_(pressure) {}
+    RowSolver(Item item, std::optional<Single> pressure) : given(item), defaultPressure(pressure) {}
 
     /// Solves the state into StatePoint.
     /// @param note  receives the warning for a clipped item, or the reason for a refusal; empty otherwise
@@ -38,8 +38,8 @@ private:
     void read(const RowInput& input) const;
     void run() const;
 
-    Item item_;
-    std::optional<Single> pressure_;
+    Item given;
+    std::optional<Single> defaultPressure;
 };
 
 /// The name of the item's column in a table's header.
