@@ -172,21 +172,21 @@ void measure(const Units& units)
         calculator.enter(units.lowestTdb + units.tdbSpan * count / presses, item);
         times.push_back(calculator.press());
     }
-    std::printf("  %-8s %7.2f %7.2f %7.2f   %5.1f %%\n", units.title, median(times), quantile(times, 0.99),
-                quantile(times, 1), 100 * quantile(times, 1) / frameMilliseconds);
+    std::printf("  %-8s %7.2f %7.2f %7.2f   %5.1f %%\n", units.title, Median(times), Quantile(times, 0.99),
+                Quantile(times, 1), 100 * Quantile(times, 1) / frameMilliseconds);
     FormRegistry::clear();
 }
 
 void measureAll()
 {
     const ScratchSettings settings;
-    useOffscreenWithoutDisplay();
+    UseOffscreenWithoutDisplay();
     int argumentCount = 1;
     char name[] = "bench_calculate";
     char* arguments[] = {name, nullptr};
     const QApplication application(argumentCount, arguments);
     std::printf("Calculate Properties: %d presses, until all fields are shown, on %s\n", presses,
-                displayInUse());
+                DisplayInUse());
     std::printf("  %-8s %7s %7s %7s   worst of a frame of %.1f ms\n", "ms", "median", "99 %", "worst",
                 frameMilliseconds);
     measure(english);

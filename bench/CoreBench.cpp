@@ -14,7 +14,7 @@ namespace {
 constexpr int SampleSize = 4096; // too many for the processor to predict the branches of a search
 
 /// Solved states over the usual range of the screens.
-std::vector<MoistAirState> Sample()
+std::vector<MoistAirState> sample()
 {
     std::mt19937 random(1);
     std::uniform_real_distribution<Single> dryBulb(IsMetric() ? 0.0F : 35.0F, IsMetric() ? 45.0F : 115.0F);
@@ -31,7 +31,7 @@ std::vector<MoistAirState> Sample()
     return states;
 }
 
-void SetMode(benchmark::State& state)
+void setMode(benchmark::State& state)
 {
     UnitSystem = state.range(0) != 0 ? True16 : False16;
     state.SetLabel(IsMetric() ? "Metric" : "English");
@@ -40,10 +40,10 @@ void SetMode(benchmark::State& state)
 using StateItem = TaggedNumber MoistAirState::*;
 
 /// Solves the complete state from one item, taken from a solved state.
-void SolveFrom(benchmark::State& state, StateItem item, void (*solve)())
+void solveFrom(benchmark::State& state, StateItem item, void (*solve)())
 {
-    SetMode(state);
-    std::vector<MoistAirState> states = Sample();
+    setMode(state);
+    std::vector<MoistAirState> states = sample();
     if (item == &MoistAirState::RH) {
         for (MoistAirState& each : states)
             each.RH = (each.RH * 100).asSingle();
@@ -58,10 +58,10 @@ void SolveFrom(benchmark::State& state, StateItem item, void (*solve)())
     }
 }
 
-void Search(benchmark::State& state, Single (*search)(Single, Single, Single))
+void searchStates(benchmark::State& state, Single (*search)(Single, Single, Single))
 {
-    SetMode(state);
-    const std::vector<MoistAirState> states = Sample();
+    setMode(state);
+    const std::vector<MoistAirState> states = sample();
     std::size_t i = 0;
     for ([[maybe_unused]] auto _ : state) {
         const MoistAirState& air = states[i++ % SampleSize];
@@ -71,12 +71,12 @@ void Search(benchmark::State& state, Single (*search)(Single, Single, Single))
 
 } // namespace
 
-BENCHMARK_CAPTURE(SolveFrom, Grains, &MoistAirState::Grains, SolveFromGrains)->Arg(0); // English only
-BENCHMARK_CAPTURE(SolveFrom, W, &MoistAirState::W, SolveFromW)->Arg(0)->Arg(1);
-BENCHMARK_CAPTURE(SolveFrom, WetBulb, &MoistAirState::Twb, SolveFromWetBulb)->Arg(0)->Arg(1);
-BENCHMARK_CAPTURE(SolveFrom, DewPoint, &MoistAirState::td, SolveFromDewPoint)->Arg(0)->Arg(1);
-BENCHMARK_CAPTURE(SolveFrom, RH, &MoistAirState::RH, SolveFromRH)->Arg(0)->Arg(1);
-BENCHMARK_CAPTURE(Search, Fast, SolveWetBulb)->Arg(0)->Arg(1);
-BENCHMARK_CAPTURE(Search, Plain, PlainSolveWetBulb)->Arg(0)->Arg(1);
+BENCHMARK_CAPTURE(solveFrom, Grains, &MoistAirState::Grains, SolveFromGrains)->Arg(0); // English only
+BENCHMARK_CAPTURE(solveFrom, W, &MoistAirState::W, SolveFromW)->Arg(0)->Arg(1);
+BENCHMARK_CAPTURE(solveFrom, WetBulb, &MoistAirState::Twb, SolveFromWetBulb)->Arg(0)->Arg(1);
+BENCHMARK_CAPTURE(solveFrom, DewPoint, &MoistAirState::td, SolveFromDewPoint)->Arg(0)->Arg(1);
+BENCHMARK_CAPTURE(solveFrom, RH, &MoistAirState::RH, SolveFromRH)->Arg(0)->Arg(1);
+BENCHMARK_CAPTURE(searchStates, Fast, SolveWetBulb)->Arg(0)->Arg(1);
+BENCHMARK_CAPTURE(searchStates, Plain, PlainSolveWetBulb)->Arg(0)->Arg(1);
 
 BENCHMARK_MAIN();

@@ -6,7 +6,7 @@
 
 /// A quantile of the measurements, e.g. the median for part 0.5, interpolated linearly. There must be at
 /// least one measurement.
-inline double quantile(std::vector<double> measurements, double part)
+inline double Quantile(std::vector<double> measurements, double part)
 {
     std::sort(measurements.begin(), measurements.end());
     const double place = part * static_cast<double>(measurements.size() - 1);
@@ -16,4 +16,4 @@ inline double quantile(std::vector<double> measurements, double part)
            (measurements[above] - measurements[below]) * (place - static_cast<double>(below));
 }
 
-inline double median(const std::vector<double>& measurements) { return quantile(measurements, 0.5); }
+inline double Median(const std::vector<double>& measurements) { return Quantile(measurements, 0.5); }

@@ -30,14 +30,14 @@ private:
 };
 
 /// Paints windows to memory if there is no display.
-inline void useOffscreenWithoutDisplay()
+inline void UseOffscreenWithoutDisplay()
 {
     if (std::getenv("DISPLAY") == nullptr && std::getenv("WAYLAND_DISPLAY") == nullptr)
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
 }
 
 /// The display in use, for the heading of the results.
-inline const char* displayInUse()
+inline const char* DisplayInUse()
 {
     const char* const platform = std::getenv("QT_QPA_PLATFORM");
     return platform == nullptr ? "the desktop" : platform;

@@ -45,7 +45,7 @@ const Item Items[] = {
 };
 
 /// Solved states over the usual range of the screens, with the relative humidity in percent again.
-std::vector<MoistAirState> Sample()
+std::vector<MoistAirState> sample()
 {
     std::mt19937 random(1);
     std::uniform_real_distribution<Single> dryBulb(IsMetric() ? 0.0F : 35.0F, IsMetric() ? 45.0F : 115.0F);
@@ -64,7 +64,7 @@ std::vector<MoistAirState> Sample()
 }
 
 /// The processor time of this process so far, which excludes the time of other programs.
-double Nanoseconds()
+double nanoseconds()
 {
     timespec used{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
@@ -72,29 +72,29 @@ double Nanoseconds()
 }
 
 /// Nanoseconds per state.
-double TimeOf(const std::vector<MoistAirState>& states, StateItem item, void (*solve)())
+double timeOf(const std::vector<MoistAirState>& states, StateItem item, void (*solve)())
 {
-    const double start = Nanoseconds();
+    const double start = nanoseconds();
     for (const MoistAirState& given : states) {
         StatePoint.Tdb = given.Tdb;
         StatePoint.*item = (given.*item).asSingle();
         solve();
     }
-    return (Nanoseconds() - start) / SampleSize;
+    return (nanoseconds() - start) / SampleSize;
 }
 
-void Measure(const std::vector<MoistAirState>& states, const Item& each)
+void measure(const std::vector<MoistAirState>& states, const Item& each)
 {
     std::vector<double> times;
     std::vector<double> plainTimes;
     std::vector<double> ratios;
     for (int round = 0; round < Rounds; ++round) {
-        times.push_back(TimeOf(states, each.item, each.solve));
-        plainTimes.push_back(TimeOf(states, each.item, each.solvePlain));
+        times.push_back(timeOf(states, each.item, each.solve));
+        plainTimes.push_back(timeOf(states, each.item, each.solvePlain));
         ratios.push_back(times.back() / plainTimes.back());
     }
-    std::printf("  %-18s %8.0f %8.0f %8.3f  (%.3f - %.3f)\n", each.title, median(times), median(plainTimes),
-                median(ratios), quantile(ratios, 0.25), quantile(ratios, 0.75));
+    std::printf("  %-18s %8.0f %8.0f %8.3f  (%.3f - %.3f)\n", each.title, Median(times), Median(plainTimes),
+                Median(ratios), Quantile(ratios, 0.25), Quantile(ratios, 0.75));
 }
 
 } // namespace
@@ -105,10 +105,10 @@ int main()
         UnitSystem = mode;
         std::printf("State, %-12s %8s %8s %8s  (quartiles), %d rounds\n", IsMetric() ? "Metric" : "English",
                     "ns", "plain ns", "ratio", Rounds);
-        const std::vector<MoistAirState> states = Sample();
+        const std::vector<MoistAirState> states = sample();
         for (const Item& each : Items) {
             if (!each.isEnglishOnly || !IsMetric())
-                Measure(states, each);
+                measure(states, each);
         }
     }
 }

@@ -67,18 +67,18 @@ using Figure = std::vector<double> Measured::*;
 void printTable(const char* what, const std::array<Measured, 3>& programs, Figure values)
 {
     std::printf("%-19s %9s %9s %9s %9s\n", what, "quartile", "median", "quartile", "multiple");
-    const double least = median(programs.front().*values);
+    const double least = Median(programs.front().*values);
     for (const Measured& program : programs) {
         const std::vector<double>& those = program.*values;
-        std::printf("  %-17s %9.2f %9.2f %9.2f %9.2f\n", program.title, quantile(those, 0.25), median(those),
-                    quantile(those, 0.75), median(those) / least);
+        std::printf("  %-17s %9.2f %9.2f %9.2f %9.2f\n", program.title, Quantile(those, 0.25), Median(those),
+                    Quantile(those, 0.75), Median(those) / least);
     }
 }
 
 void measureStarts()
 {
     const ScratchSettings settings;
-    useOffscreenWithoutDisplay();
+    UseOffscreenWithoutDisplay();
     const std::string folder = std::filesystem::canonical("/proc/self/exe").parent_path();
     std::array<Measured, 3> programs{{{"empty window", "start_empty", {}, {}, {}},
                                       {"controls alone", "start_controls", {}, {}, {}},
@@ -87,7 +87,7 @@ void measureStarts()
         for (Measured& program : programs)
             start(program, folder, round > 0);
     }
-    std::printf("Starts: %d of each, in turn, on %s\n", rounds - 1, displayInUse());
+    std::printf("Starts: %d of each, in turn, on %s\n", rounds - 1, DisplayInUse());
     printTable("first picture, ms", programs, &Measured::milliseconds);
     printTable("processor time, ms", programs, &Measured::processorMilliseconds);
     printTable("memory (PSS), MiB", programs, &Measured::mebibytes);

@@ -21,14 +21,14 @@ constexpr int Rounds = 9;
 
 using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
-File FileOf(const std::string& text)
+File fileOf(const std::string& text)
 {
     File file(std::tmpfile(), std::fclose);
     std::fwrite(text.data(), 1, text.size(), file.get());
     return file;
 }
 
-std::string Table()
+std::string table()
 {
     std::mt19937 random(1);
     std::string text = "hour,tdb,rh\n";
@@ -38,7 +38,7 @@ std::string Table()
     return text;
 }
 
-std::string WeatherYear()
+std::string weatherYear()
 {
     std::mt19937 random(1);
     std::string text = "LOCATION,Nowhere\n";
@@ -52,7 +52,7 @@ std::string WeatherYear()
     return text;
 }
 
-void ReadAlone(Records& records, Output&)
+void readAlone(Records& records, Output&)
 {
     std::size_t fields = 0;
     while (records.next())
@@ -62,7 +62,7 @@ void ReadAlone(Records& records, Output&)
 }
 
 /// Writes one state again and again.
-void WriteAlone(Records& records, Output& output)
+void writeAlone(Records& records, Output& output)
 {
     records.next();
     StatePoint.Tdb = 71.3F;
@@ -78,7 +78,7 @@ void WriteAlone(Records& records, Output& output)
 
 /// Milliseconds of processor time. The output goes to /dev/null.
 template <typename Work>
-void Measure(const char* title, const File& input, Work work)
+void measure(const char* title, const File& input, Work work)
 {
     const File null(std::fopen("/dev/null", "w"), std::fclose);
     std::vector<double> milliseconds;
@@ -91,8 +91,8 @@ void Measure(const char* title, const File& input, Work work)
         output.flush();
         milliseconds.push_back(static_cast<double>(std::clock() - start) * 1e3 / CLOCKS_PER_SEC);
     }
-    std::printf("  %-24s %8.1f ms  (%.1f - %.1f)\n", title, median(milliseconds),
-                quantile(milliseconds, 0.25), quantile(milliseconds, 0.75));
+    std::printf("  %-24s %8.1f ms  (%.1f - %.1f)\n", title, Median(milliseconds),
+                Quantile(milliseconds, 0.25), Quantile(milliseconds, 0.75));
 }
 
 } // namespace
@@ -100,14 +100,14 @@ void Measure(const char* title, const File& input, Work work)
 int main()
 {
     numberLocale = {.decimalPoint = ".", .groupSeparator = ""};
-    const File table = FileOf(Table());
+    const File rows = fileOf(table());
     std::printf("A million rows, processor time: median (quartiles) of %d rounds\n", Rounds);
-    Measure("reading alone", table, ReadAlone);
-    Measure("writing alone", table, WriteAlone);
-    Measure("the whole", table, [](Records& in, Output& out) { SolveCsv(in, out, {}); });
+    measure("reading alone", rows, readAlone);
+    measure("writing alone", rows, writeAlone);
+    measure("the whole", rows, [](Records& in, Output& out) { SolveCsv(in, out, {}); });
 
     UnitSystem = True16;
-    const File year = FileOf(WeatherYear());
+    const File year = fileOf(weatherYear());
     std::puts("A weather year");
-    Measure("the whole", year, [](Records& in, Output& out) { SolveEpw(in, out, {}); });
+    measure("the whole", year, [](Records& in, Output& out) { SolveEpw(in, out, {}); });
 }

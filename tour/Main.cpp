@@ -57,7 +57,7 @@ int main(int argc, char** argv)
     StartProgram();
     std::thread walker([&folder] {
         Hand hand(folder);
-        walkThroughProgram(hand);
+        WalkThroughProgram(hand);
     });
     const int status = QApplication::exec();
     walker.join();

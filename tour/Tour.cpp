@@ -235,7 +235,7 @@ void visitCalculators(Hand& hand, const Walk& walk)
 
 } // namespace
 
-void walkThroughProgram(Hand& hand)
+void WalkThroughProgram(Hand& hand)
 {
     hand.picture("english-main-menu");
     visitCalculators(hand, english);
