@@ -13,6 +13,9 @@
 
 #include <sys/stat.h>
 
+/// Read by the leak checker. The font library keeps its configuration when a test ends its process within.
+extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig\n"; }
+
 namespace {
 
 /// The simulated screens, the primary one first, as "x,y,width,height/...". They are in pixels of the device.
