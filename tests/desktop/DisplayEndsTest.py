@@ -13,20 +13,34 @@ from AirProperties import CALCULATOR, calculate
 from DesktopProgram import LIMIT, DesktopProgram, wait_for
 
 
+def start_server():
+    """A display server that answers, and its display. Another one that ends at this moment can take the new one's socket
+    away."""
+    for _ in range(5):
+        read_end, write_end = os.pipe()
+        server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
+            pass_fds=[write_end],
+            stderr=subprocess.DEVNULL,
+        )
+        os.close(write_end)
+        with os.fdopen(read_end) as number:
+            display = ":" + number.readline().strip()
+        question = ["xdotool", "getdisplaygeometry"]
+        if subprocess.run(question, env={**os.environ, "DISPLAY": display}, check=False).returncode == 0:
+            return server, display
+        server.kill()
+        server.wait()
+    raise AssertionError("no display server that answers")
+
+
 @contextlib.contextmanager
 def display_of_its_own():
     """A display server that the test may end; programs started meanwhile go there."""
-    read_end, write_end = os.pipe()
-    server = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
-        pass_fds=[write_end],
-        stderr=subprocess.DEVNULL,
-    )
-    os.close(write_end)
+    server, display = start_server()
     before = os.environ["DISPLAY"]
+    os.environ["DISPLAY"] = display
     try:
-        with os.fdopen(read_end) as number:
-            os.environ["DISPLAY"] = ":" + number.readline().strip()
         yield server
     finally:
         os.environ["DISPLAY"] = before
