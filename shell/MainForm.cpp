@@ -54,9 +54,7 @@ void MainForm::layOut()
     grid->setRowMinimumHeight(2, 16);
     grid->addLayout(buttons, 3, 0);
     grid->add(Image1, 0, 1, 4, 1);
-    const int chartSize = NaturalWidth(lblProduct) * 5 / 2; // keeps its share beside large letters
-    SetLeastWidth(Image1, chartSize);
-    SetLeastHeight(Image1, chartSize);
+    SetLeastWidth(Image1, NaturalWidth(lblProduct) * 5 / 2); // keeps its share beside large letters
     grid->setColumnStretch(1, 1);
     grid->setColumnMinimumWidth(0, 190);
     grid->setRowStretch(3, 1);

@@ -196,6 +196,8 @@ void Form::focusOn(QWidget& widget)
 
 void Form::noteEnabling(QWidget& widget, bool enabled)
 {
+    if (runningHandlers == 0)
+        return;
     if (enabled && qobject_cast<QPushButton*>(&widget) != nullptr)
         enabledButtons.emplace_back(&widget);
     if (!enabled && frame->focusWidget() == &widget)

@@ -16,12 +16,12 @@ namespace forms {
 
 namespace {
 
-/// The width or height that the window manager adds to a window. Before the window is shown, an estimate.
+/// The width and height that the window manager adds to a window, or an estimate where that is larger: the
+/// toolkit learns the true size some time after the window is shown.
 QSize frameSizeOf(const QWidget& window)
 {
-    if (window.isVisible())
-        return window.frameGeometry().size() - window.size();
-    return {0, window.style()->pixelMetric(QStyle::PM_TitleBarHeight)};
+    const QSize estimate(0, window.style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    return estimate.expandedTo(window.frameGeometry().size() - window.size());
 }
 
 } // namespace

@@ -116,6 +116,16 @@ TEST_F(FocusAfterAHandler, DoesNotGoToAButtonThatAnEarlierHandlerEnabled)
     EXPECT_EQ(user.focus(), "Combo1"); // the next control
 }
 
+TEST_F(FocusAfterAHandler, DoesNotGoToAButtonThatNoHandlerEnabled)
+{
+    FirstScreen& screen = showFirstScreen();
+    screen.btnFirst.enable();
+    screen.btnSecond.onClick([&screen] { screen.btnSecond.disable(); });
+    screen.btnSecond.takeFocus();
+    user.key(Qt::Key_Space);
+    EXPECT_EQ(user.focus(), "Combo1"); // the next control
+}
+
 class KeysOfAForm : public FormsTest
 {
 protected:
