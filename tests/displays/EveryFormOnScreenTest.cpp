@@ -93,4 +93,4 @@ TEST_F(PressureBox, HasAllItsSidesInThisScaling)
     EXPECT_TRUE(hasLine(corner.x() + 8, corner.y() + box->height() - 0.5, false)) << "bottom";
 }
 
-INSTANTIATE_TEST_SUITE_P(InBothModes, EveryFormOnScreen, testing::ValuesIn(everyFormInBothModes()), nameOf);
+INSTANTIATE_TEST_SUITE_P(InBothModes, EveryFormOnScreen, testing::ValuesIn(EveryFormInBothModes()), NameOf);
