@@ -3,15 +3,14 @@
 // alike.
 
 #include "bench/Quantiles.h"
+#include "bench/Sample.h"
 #include "core/CoreMessage.h"
-#include "core/MainMod.h"
 #include "core/Relations.h"
 #include "core/WetBulbSearch.h"
 #include "tests/core/PlainForms.h"
 
 #include <cstdio>
 #include <ctime>
-#include <random>
 
 // The same solvers with the plain search. Their headers are included above.
 namespace plain {
@@ -22,10 +21,7 @@ namespace plain {
 
 namespace {
 
-constexpr int SampleSize = 4096; // too many for the processor to predict the branches of a search
 constexpr int Rounds = 101;
-
-using StateItem = TaggedNumber MoistAirState::*;
 
 struct Item
 {
@@ -43,25 +39,6 @@ const Item Items[] = {
     {"grains", &MoistAirState::Grains, SolveFromGrains, plain::SolveFromGrains, true},
     {"wet bulb", &MoistAirState::Twb, SolveFromWetBulb, plain::SolveFromWetBulb, false}, // has no search
 };
-
-/// Solved states over the usual range of the screens, with the relative humidity in percent again.
-std::vector<MoistAirState> sample()
-{
-    std::mt19937 random(1);
-    std::uniform_real_distribution<Single> dryBulb(IsMetric() ? 0.0F : 35.0F, IsMetric() ? 45.0F : 115.0F);
-    std::uniform_real_distribution<Single> percent(5.0F, 95.0F);
-    std::vector<MoistAirState> states;
-    for (int i = 0; i < SampleSize; ++i) {
-        StatePoint = {};
-        StatePoint.Tdb = dryBulb(random);
-        StatePoint.P = IsMetric() ? 101325.0F : 14.696F;
-        StatePoint.RH = percent(random);
-        SolveFromRH();
-        StatePoint.RH = (StatePoint.RH * 100).asSingle();
-        states.push_back(StatePoint);
-    }
-    return states;
-}
 
 /// The processor time of this process so far, which excludes the time of other programs.
 double nanoseconds()
@@ -105,7 +82,7 @@ int main()
         UnitSystem = mode;
         std::printf("State, %-12s %8s %8s %8s  (quartiles), %d rounds\n", IsMetric() ? "Metric" : "English",
                     "ns", "plain ns", "ratio", Rounds);
-        const std::vector<MoistAirState> states = sample();
+        const std::vector<MoistAirState> states = SampleOfStates();
         for (const Item& each : Items) {
             if (!each.isEnglishOnly || !IsMetric())
                 measure(states, each);

@@ -57,14 +57,17 @@ void proposeFile(QPrintDialog& dialog)
     file->setText(folder.filePath("Dunmoor.pdf"));
 }
 
+/// Each setting on its own: a printer that refuses one still gets the others.
 void copySettings(QPrinter& from, QPrinter& to)
 {
     to.setCopyCount(from.copyCount());
     to.setDuplex(from.duplex());
-    to.setPageLayout(from.pageLayout());
+    to.setPageOrientation(from.pageLayout().orientation());
+    to.setPageSize(from.pageLayout().pageSize());
     to.setResolution(from.resolution());
     to.setColorMode(from.colorMode());
     to.setPaperSource(from.paperSource());
+    to.setPageMargins(from.pageLayout().margins(), from.pageLayout().units());
     to.setCollateCopies(from.collateCopies());
     to.setPageOrder(from.pageOrder());
     copyPrintSystemOptions(from, to);

@@ -19,6 +19,7 @@ extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfi
 namespace {
 
 /// The simulated screens, the primary one first, as "x,y,width,height/...". They are in pixels of the device.
+/// A fifth number is the scaling of the screen.
 QByteArray screens()
 {
     QJsonArray all;
@@ -31,7 +32,7 @@ QByteArray screens()
                                {"height", numbers[3].toInt()},
                                {"logicalDpi", 96},
                                {"logicalBaseDpi", 96},
-                               {"dpr", 1}});
+                               {"dpr", numbers.size() > 4 ? numbers[4].toDouble() : 1}});
     }
     return QJsonDocument(QJsonObject{{"screens", all}}).toJson();
 }
@@ -60,7 +61,8 @@ int main(int argc, char** argv)
     qputenv("HOME", home.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", (home.path() + "/config").toUtf8());
     qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
-    setScreens(home.filePath("screens.json"));
+    if (!qEnvironmentVariableIsSet("DUNMOOR_TEST_ON_DISPLAY"))
+        setScreens(home.filePath("screens.json"));
     qputenv("XDG_DATA_HOME", (home.path() + "/data").toUtf8());
     QApplication application(argc, argv);
     return RUN_ALL_TESTS();
