@@ -69,7 +69,7 @@ TEST_F(ChartOnMenu, FollowsTheOptions)
     const QImage english = shown();
     changeUnits("Metric, SI");
     const QImage metric = shown();
-    EXPECT_GT(pixelsThatDiffer(english, metric), 5000);
+    EXPECT_GT(PixelsThatDiffer(english, metric), 5000);
     EXPECT_EQ(layout().marks.size(), 0U);
     EXPECT_EQ(layout().plane.span.tdb.high, 50);
 
@@ -79,7 +79,7 @@ TEST_F(ChartOnMenu, FollowsTheOptions)
         user.type("txtBP", "12");
         user.click("btnOK");
     });
-    EXPECT_GT(pixelsThatDiffer(english, shown()), 5000);
+    EXPECT_GT(PixelsThatDiffer(english, shown()), 5000);
     EXPECT_EQ(layout().marks.size(), 2U);
     EXPECT_NE(tipAt(layout().placeOf({"", entering.Tdb, entering.W, 0})).find("at 14.696 psi"),
               std::string::npos);

@@ -145,19 +145,19 @@ protected:
 };
 
 /// True if the colors differ by more than the rounding of a blended color.
-inline bool differ(QRgb one, QRgb other)
+inline bool Differ(QRgb one, QRgb other)
 {
     constexpr int rounding = 3;
     return std::abs(qRed(one) - qRed(other)) > rounding || std::abs(qGreen(one) - qGreen(other)) > rounding ||
            std::abs(qBlue(one) - qBlue(other)) > rounding;
 }
 
-inline int pixelsThatDiffer(const QImage& one, const QImage& other)
+inline int PixelsThatDiffer(const QImage& one, const QImage& other)
 {
     int count = 0;
     for (int y = 0; y < one.height(); ++y) {
         for (int x = 0; x < one.width(); ++x)
-            count += differ(one.pixel(x, y), other.pixel(x, y)) ? 1 : 0;
+            count += Differ(one.pixel(x, y), other.pixel(x, y)) ? 1 : 0;
     }
     return count;
 }

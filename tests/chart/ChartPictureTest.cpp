@@ -41,7 +41,7 @@ TEST_F(ChartOnMenu, ComesAfterTheFirstPictureOfTheMenu)
     start();
     const QImage first = picture()->grab().toImage();
     EXPECT_TRUE(isBlank(first));
-    EXPECT_GT(pixelsThatDiffer(first, shown()), 10000);
+    EXPECT_GT(PixelsThatDiffer(first, shown()), 10000);
 }
 
 TEST_F(ChartOnMenu, FollowsTheColoursOfTheDesktop)
@@ -106,7 +106,7 @@ TEST_F(ChartOnMenu, IsCopiedAsAPictureByItsMenu)
     User::chooseFromMenu(*menu, menu->actions().constFirst());
     const QImage copied = QGuiApplication::clipboard()->image();
     EXPECT_EQ(copied.size(), picture()->size());
-    EXPECT_EQ(pixelsThatDiffer(copied, shown()), 0);
+    EXPECT_EQ(PixelsThatDiffer(copied, shown()), 0);
 }
 
 TEST_F(ChartOnMenu, IsCopiedByTheKeyboard)
@@ -161,7 +161,7 @@ TEST_F(ChartOnMenu, IsDrawnInTheScreensOwnPixels)
             const QImage copied = QGuiApplication::clipboard()->image();
             const QImage blurred = copied.scaled(copied.size() / 2).scaled(copied.size());
             const bool isSharp =
-                copied.size() == picture()->size() * 2 && pixelsThatDiffer(copied, blurred) > 9000;
+                copied.size() == picture()->size() * 2 && PixelsThatDiffer(copied, blurred) > 9000;
             std::_Exit(isSharp ? 0 : 1);
         },
         testing::ExitedWithCode(0), "");

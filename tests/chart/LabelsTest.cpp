@@ -47,24 +47,24 @@ void keepNone() { LastRuns = {}; }
 void keepStatesCloseTogether()
 {
     const Single tdb = IsMetric() ? 24 : 75;
-    const AirSnapshot air = airAt(tdb, 50);
+    const AirSnapshot air = AirAt(tdb, 50);
     KeepLastRun(Calculator::AirProperties, {{"air", air}});
-    KeepLastRun(Calculator::MixedAir, {{"outside", air}, {"return", airAt(tdb + 1, 50)}});
+    KeepLastRun(Calculator::MixedAir, {{"outside", air}, {"return", AirAt(tdb + 1, 50)}});
     KeepLastRun(Calculator::Cooling,
-                {{"entering", airAt(tdb + 0.5F, 51)}, {"leaving", airAt(tdb - 0.5F, 51)}});
-    KeepLastRun(Calculator::Heating, {{"entering", air}, {"leaving", airOfRatio(tdb + 2, air.W)}});
-    KeepLastRun(Calculator::Humidification, {{"outside", air}, {"desired", airAt(tdb, 52)}});
+                {{"entering", AirAt(tdb + 0.5F, 51)}, {"leaving", AirAt(tdb - 0.5F, 51)}});
+    KeepLastRun(Calculator::Heating, {{"entering", air}, {"leaving", AirOfRatio(tdb + 2, air.W)}});
+    KeepLastRun(Calculator::Humidification, {{"outside", air}, {"desired", AirAt(tdb, 52)}});
 }
 
 void keepStatesFarApart()
 {
-    const AirSnapshot heated = airAt(IsMetric() ? 20 : 68, 40);
+    const AirSnapshot heated = AirAt(IsMetric() ? 20 : 68, 40);
     KeepLastRun(Calculator::Heating,
-                {{"entering", heated}, {"leaving", airOfRatio(IsMetric() ? 110 : 230, heated.W)}});
-    KeepLastRun(Calculator::Humidification, {{"outside", airAt(IsMetric() ? -20 : -4, 60)},
-                                             {"desired", airAt(IsMetric() ? 50 : 122, 100)}});
-    KeepLastRun(Calculator::Cooling, {{"entering", airAt(IsMetric() ? 35 : 95, 70)},
-                                      {"leaving", airAt(IsMetric() ? 13 : 55, 100)}});
+                {{"entering", heated}, {"leaving", AirOfRatio(IsMetric() ? 110 : 230, heated.W)}});
+    KeepLastRun(Calculator::Humidification, {{"outside", AirAt(IsMetric() ? -20 : -4, 60)},
+                                             {"desired", AirAt(IsMetric() ? 50 : 122, 100)}});
+    KeepLastRun(Calculator::Cooling, {{"entering", AirAt(IsMetric() ? 35 : 95, 70)},
+                                      {"leaving", AirAt(IsMetric() ? 13 : 55, 100)}});
 }
 
 } // namespace
@@ -133,8 +133,8 @@ TEST(ChartNaming, NamesEveryStateInTheLegendAndAtItsPoint)
 TEST(ChartNaming, GivesStatesOnOnePlaceOneLabel)
 {
     modes.front().putInForce();
-    KeepLastRun(Calculator::MixedAir, {{"return", airAt(70, 50)}});
-    KeepLastRun(Calculator::Heating, {{"entering", airAt(70, 50)}});
+    KeepLastRun(Calculator::MixedAir, {{"return", AirAt(70, 50)}});
+    KeepLastRun(Calculator::Heating, {{"entering", AirAt(70, 50)}});
     const chart::Layout chart({560, 610}, QApplication::font());
     EXPECT_TRUE(isNamed(chart, "1, 2"));
 }

@@ -26,22 +26,22 @@ inline const std::vector<Mode> modes{{False16, 11},     {False16, 14.696F}, {Fal
                                      {True16, 75.842F}, {True16, 101.325F}, {True16, 108}};
 
 /// The current pressure in the unit of the relations.
-inline Single relationsPressure() { return IsMetric() ? RoundToSingle(BaroPressure * 1000.0) : BaroPressure; }
+inline Single RelationsPressure() { return IsMetric() ? RoundToSingle(BaroPressure * 1000.0) : BaroPressure; }
 
 /// Air as the calculators solve it, at the current pressure.
-inline AirSnapshot airAt(Single tdb, Single percent, Single volume = 1000)
+inline AirSnapshot AirAt(Single tdb, Single percent, Single volume = 1000)
 {
     StatePoint.Tdb = tdb;
-    StatePoint.P = relationsPressure();
+    StatePoint.P = RelationsPressure();
     StatePoint.RH = percent;
     SolveFromRH();
     return AirSnapshot::of(StatePoint, volume);
 }
 
-inline AirSnapshot airOfRatio(Single tdb, Single w, Single volume = 1000)
+inline AirSnapshot AirOfRatio(Single tdb, Single w, Single volume = 1000)
 {
     StatePoint.Tdb = tdb;
-    StatePoint.P = relationsPressure();
+    StatePoint.P = RelationsPressure();
     StatePoint.W = w;
     SolveFromW();
     return AirSnapshot::of(StatePoint, volume);

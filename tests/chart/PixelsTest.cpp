@@ -20,7 +20,7 @@ constexpr QSize size(560, 610);
 Single saturatedW(double t)
 {
     return HumidityRatioFromVaporPressure(SaturationPressure(ToAbsolute(static_cast<Single>(t))),
-                                          relationsPressure());
+                                          RelationsPressure());
 }
 
 /// The humidity ratio of a curve at a dry bulb, directly from the relations.
@@ -33,7 +33,7 @@ double ratioOn(chart::Family family, double value, double t)
         return saturatedW(t);
     case chart::Family::RelativeHumidity:
         return HumidityRatioFromVaporPressure(VaporPressureFromRH(static_cast<Single>(value / 100), pws),
-                                              relationsPressure());
+                                              RelationsPressure());
     case chart::Family::WetBulb:
         return HumidityRatioFromWetBulb(static_cast<Single>(value), tdb, saturatedW(value));
     default:
@@ -56,7 +56,7 @@ double tdbOfVolume(double volume, double w, const chart::Axis& tdb)
 {
     return whereIs(volume, tdb.low - 50, tdb.high + 50, [&](double t) {
         return SpecificVolumeOf(ToAbsolute(static_cast<Single>(t)), static_cast<Single>(w),
-                                relationsPressure());
+                                RelationsPressure());
     });
 }
 

@@ -35,7 +35,7 @@ std::size_t lines()
 void heat(const AirSnapshot& entering, Single leavingTdb)
 {
     KeepLastRun(Calculator::Heating,
-                {{"entering", entering}, {"leaving", airOfRatio(leavingTdb, entering.W)}});
+                {{"entering", entering}, {"leaving", AirOfRatio(leavingTdb, entering.W)}});
 }
 
 void keepAir(const AirSnapshot& air) { KeepLastRun(Calculator::AirProperties, {{"air", air}}); }
@@ -57,12 +57,12 @@ TEST_F(ChartedRuns, AreNoneBeforeTheFirstRun)
 
 TEST_F(ChartedRuns, AreShownInTheOrderOfTheMainMenuAndJoined)
 {
-    KeepLastRun(Calculator::Humidification, {{"outside", airAt(40, 50)}, {"desired", airAt(70, 45)}});
-    heat(airAt(70, 50), 100);
-    KeepLastRun(Calculator::Cooling, {{"entering", airAt(80, 50)}, {"leaving", airAt(55, 95)}});
+    KeepLastRun(Calculator::Humidification, {{"outside", AirAt(40, 50)}, {"desired", AirAt(70, 45)}});
+    heat(AirAt(70, 50), 100);
+    KeepLastRun(Calculator::Cooling, {{"entering", AirAt(80, 50)}, {"leaving", AirAt(55, 95)}});
     KeepLastRun(Calculator::MixedAir,
-                {{"outside", airAt(95, 40)}, {"return", airAt(75, 50)}, {"mix", airAt(80, 47)}});
-    keepAir(airAt(70, 50));
+                {{"outside", AirAt(95, 40)}, {"return", AirAt(75, 50)}, {"mix", AirAt(80, 47)}});
+    keepAir(AirAt(70, 50));
     EXPECT_EQ(shown(), (Names{"Air properties air", "Mixed air outside", "Mixed air return", "Mixed air mix",
                               "Cooling entering", "Cooling leaving", "Heating entering", "Heating leaving",
                               "Humidification outside", "Humidification desired"}));
@@ -73,14 +73,14 @@ TEST_F(ChartedRuns, AreShownInTheOrderOfTheMainMenuAndJoined)
 
 TEST_F(ChartedRuns, OfTheOtherUnitsAreNotShown)
 {
-    heat(airAt(70, 50), 100);
-    keepAir(airAt(75, 50));
+    heat(AirAt(70, 50), 100);
+    keepAir(AirAt(75, 50));
     Mode{True16, 101.325F}.putInForce();
     EXPECT_EQ(shown(), Names());
     Mode{True16, 14.696F}.putInForce(); // the mode after a refused pressure
     EXPECT_EQ(shown(), Names());
     Mode{True16, 101.325F}.putInForce();
-    keepAir(airAt(20, 50));
+    keepAir(AirAt(20, 50));
     EXPECT_EQ(shown(), Names{"Air properties air"});
     Mode{False16, 14.696F}.putInForce();
     EXPECT_EQ(shown(), (Names{"Heating entering", "Heating leaving"}));
@@ -88,7 +88,7 @@ TEST_F(ChartedRuns, OfTheOtherUnitsAreNotShown)
 
 TEST_F(ChartedRuns, AtAnotherPressureAreShownStill)
 {
-    keepAir(airAt(75, 50));
+    keepAir(AirAt(75, 50));
     Mode{False16, 12}.putInForce();
     ASSERT_EQ(shown(), Names{"Air properties air"});
     EXPECT_EQ(chart::ShownRuns().front().states.front().P, 14.696F);
@@ -99,7 +99,7 @@ TEST_F(ChartedRuns, ShowSaturatedAirByEveryItem)
     for (const Mode& mode : modes) {
         mode.putInForce();
         for (const Single tdb : {33.0F, 40.0F, 49.0F}) {
-            keepAir(airAt(tdb, 100));
+            keepAir(AirAt(tdb, 100));
             EXPECT_EQ(shown().size(), 1U) << tdb;
             StatePoint.Twb = tdb - 0.005;
             SolveFromWetBulb();
@@ -115,18 +115,18 @@ TEST_F(ChartedRuns, ShowSaturatedAirByEveryItem)
 
 TEST_F(ChartedRuns, LeaveOutStatesAboveSaturationAndTheirLine)
 {
-    AirSnapshot desired = airAt(70, 100);
-    KeepLastRun(Calculator::Humidification, {{"outside", airAt(40, 50)}, {"desired", desired}});
+    AirSnapshot desired = AirAt(70, 100);
+    KeepLastRun(Calculator::Humidification, {{"outside", AirAt(40, 50)}, {"desired", desired}});
     EXPECT_EQ(shown(), (Names{"Humidification outside", "Humidification desired"}));
     EXPECT_EQ(lines(), 1U);
     desired.W *= 1.001F;
-    KeepLastRun(Calculator::Humidification, {{"outside", airAt(40, 50)}, {"desired", desired}});
+    KeepLastRun(Calculator::Humidification, {{"outside", AirAt(40, 50)}, {"desired", desired}});
     EXPECT_EQ(shown(), Names{"Humidification outside"});
     EXPECT_EQ(lines(), 0U);
-    AirSnapshot fog = airAt(60, 100);
+    AirSnapshot fog = AirAt(60, 100);
     fog.W *= 1.1F;
     KeepLastRun(Calculator::MixedAir,
-                {{"outside", airAt(40, 100)}, {"return", airAt(80, 100)}, {"mix", fog}});
+                {{"outside", AirAt(40, 100)}, {"return", AirAt(80, 100)}, {"mix", fog}});
     EXPECT_EQ(shown(), (Names{"Mixed air outside", "Mixed air return", "Humidification outside"}));
     EXPECT_EQ(lines(), 0U);
 }
@@ -136,9 +136,9 @@ TEST_F(ChartedRuns, WidenTheSpanToIncludeThem)
     for (const Mode& mode : modes) {
         mode.putInForce();
         const bool isMetric = IsMetric();
-        KeepLastRun(Calculator::Humidification, {{"outside", airAt(isMetric ? -20 : -4, 60)},
-                                                 {"desired", airAt(isMetric ? 50 : 122, 100)}});
-        heat(airAt(20, 50), isMetric ? 110 : 230);
+        KeepLastRun(Calculator::Humidification, {{"outside", AirAt(isMetric ? -20 : -4, 60)},
+                                                 {"desired", AirAt(isMetric ? 50 : 122, 100)}});
+        heat(AirAt(20, 50), isMetric ? 110 : 230);
         const chart::Layout layout({560, 610}, QApplication::font());
         ASSERT_EQ(layout.marks.size(), 4U);
         for (const chart::Mark& mark : layout.marks)
@@ -148,7 +148,7 @@ TEST_F(ChartedRuns, WidenTheSpanToIncludeThem)
 
 TEST_F(ChartedRuns, LeaveTheUsualSpanIfItIncludesThem)
 {
-    keepAir(airAt(70, 50));
+    keepAir(AirAt(70, 50));
     const chart::Layout layout({560, 610}, QApplication::font());
     EXPECT_EQ(layout.plane.span.tdb.low, 30);
     EXPECT_EQ(layout.plane.span.tdb.high, 120);
@@ -157,7 +157,7 @@ TEST_F(ChartedRuns, LeaveTheUsualSpanIfItIncludesThem)
 
 TEST_F(ChartedRuns, FarOutsideDoNotStretchTheChart)
 {
-    const AirSnapshot entering = airAt(70, 50);
+    const AirSnapshot entering = AirAt(70, 50);
     AirSnapshot leaving = entering;
     leaving.Tdb = 390; // in the range of the relations but not of the chart
     KeepLastRun(Calculator::Heating, {{"entering", entering}, {"leaving", leaving}});

@@ -30,55 +30,60 @@ protected:
         const QRect place = window->frameGeometry();
         return testing::PrintToString(std::array{place.x(), place.y(), place.width(), place.height()});
     }
+
+    void showsItsUpperLeftCorner() const
+    {
+        const auto isShown = [this] {
+            const QPoint corner = window->frameGeometry().topLeft();
+            return corner.y() >= available().top() && corner.x() >= available().left();
+        };
+        EXPECT_TRUE(QTest::qWaitFor(isShown)) << placeOfWindow();
+    }
+
+    void fitsTheScreen() const
+    {
+        const auto isWithin = [this] { return available().contains(window->frameGeometry()); };
+        EXPECT_TRUE(QTest::qWaitFor(isWithin)) << placeOfWindow();
+    }
+
+    void letsTheUserReachEachControl() const
+    {
+        auto* const view = window->findChild<QScrollArea*>();
+        int reached = 0;
+        for (QWidget* const control : view->findChildren<QWidget*>()) {
+            const bool isInput = qobject_cast<QLineEdit*>(control) != nullptr ||
+                                 qobject_cast<QAbstractButton*>(control) != nullptr ||
+                                 qobject_cast<QComboBox*>(control) != nullptr;
+            if (!isInput || !control->isVisible())
+                continue;
+            view->ensureWidgetVisible(control);
+            EXPECT_EQ(control->visibleRegion().boundingRect(), control->rect())
+                << control->objectName().toStdString();
+            ++reached;
+        }
+        EXPECT_GE(reached, 1);
+    }
+
+    /// A screen is as large as it was designed if the display has room for it. A dialog fits its controls.
+    void keepsItsSizeWhereTheScreenHasRoom() const
+    {
+        const bool isDialog = window->windowType() == Qt::Dialog;
+        const bool hasRoom = available().height() >= 700 && available().width() >= 800;
+        if (!isDialog && hasRoom) {
+            EXPECT_GE(window->width(), 800);
+            EXPECT_GE(window->height(), 660);
+        }
+    }
 };
 
-TEST_P(EveryFormOnScreen, OpensOnThePrimaryScreen)
+// One test for all of these, because most of a test's time is the start of its process.
+TEST_P(EveryFormOnScreen, OpensWholeOnThePrimaryScreenWithEachControlWithinReach)
 {
     EXPECT_EQ(window->screen(), QGuiApplication::primaryScreen());
-}
-
-TEST_P(EveryFormOnScreen, ShowsItsUpperLeftCorner)
-{
-    const auto isShown = [this] {
-        const QPoint corner = window->frameGeometry().topLeft();
-        return corner.y() >= available().top() && corner.x() >= available().left();
-    };
-    EXPECT_TRUE(QTest::qWaitFor(isShown)) << placeOfWindow();
-}
-
-TEST_P(EveryFormOnScreen, FitsTheScreen)
-{
-    const auto isWithin = [this] { return available().contains(window->frameGeometry()); };
-    EXPECT_TRUE(QTest::qWaitFor(isWithin)) << placeOfWindow();
-}
-
-TEST_P(EveryFormOnScreen, LetsTheUserReachEachControl)
-{
-    auto* const view = window->findChild<QScrollArea*>();
-    int reached = 0;
-    for (QWidget* const control : view->findChildren<QWidget*>()) {
-        const bool isInput = qobject_cast<QLineEdit*>(control) != nullptr ||
-                             qobject_cast<QAbstractButton*>(control) != nullptr ||
-                             qobject_cast<QComboBox*>(control) != nullptr;
-        if (!isInput || !control->isVisible())
-            continue;
-        view->ensureWidgetVisible(control);
-        EXPECT_EQ(control->visibleRegion().boundingRect(), control->rect())
-            << control->objectName().toStdString();
-        ++reached;
-    }
-    EXPECT_GE(reached, 1);
-}
-
-TEST_P(EveryFormOnScreen, KeepsItsSizeWhereTheScreenHasRoom)
-{
-    const std::string name = GetParam().form.name;
-    const bool isDialog = window->windowType() == Qt::Dialog;
-    const bool hasRoom = available().height() >= 700 && available().width() >= 800;
-    if (isDialog || !hasRoom)
-        return; // FitsTheScreen holds these
-    EXPECT_GE(window->width(), 800) << name;
-    EXPECT_GE(window->height(), 660) << name;
+    showsItsUpperLeftCorner();
+    fitsTheScreen();
+    keepsItsSizeWhereTheScreenHasRoom();
+    letsTheUserReachEachControl();
 }
 
 /// The pressure of a calculator, in its frame.
@@ -112,4 +117,4 @@ TEST_F(PressureBox, HasAllItsSidesInThisScaling)
     EXPECT_TRUE(hasLine(corner.x() + 8, corner.y() + box->height() - 0.5, false)) << "bottom";
 }
 
-INSTANTIATE_TEST_SUITE_P(InBothModes, EveryFormOnScreen, testing::ValuesIn(everyFormInBothModes()), nameOf);
+INSTANTIATE_TEST_SUITE_P(InBothModes, EveryFormOnScreen, testing::ValuesIn(EveryFormInBothModes()), NameOf);

@@ -34,7 +34,7 @@ protected:
         const QString extracted = folder.filePath("member");
         QFile::remove(extracted);
         runChmls({"extract", file, name, extracted});
-        return bytesOf(extracted);
+        return BytesOf(extracted);
     }
 
     const QTemporaryDir folder;
@@ -79,7 +79,7 @@ TEST_F(CompiledHelp, NamesItsTitleDefaultTopicContentsAndIndex)
 TEST_F(CompiledHelp, HoldsEveryPageAsItIs)
 {
     for (const QString& name : helpPages())
-        EXPECT_EQ(member('/' + name), bytesOf(helpFolder() + '/' + name)) << name.toStdString();
+        EXPECT_EQ(member('/' + name), BytesOf(helpFolder() + '/' + name)) << name.toStdString();
 }
 
 TEST_F(CompiledHelp, HoldsPicturesContentsIndexAndSearch)
@@ -103,23 +103,23 @@ TEST_F(CompiledHelp, NamesNoFolderOfTheBuild)
     int read = 0;
     QDirIterator paths(members, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (paths.hasNext()) {
-        const QByteArray bytes = bytesOf(paths.next());
+        const QByteArray bytes = BytesOf(paths.next());
         for (const char* path : {"/proc/", DUNMOOR_SOURCES, DUNMOOR_BUILD})
             EXPECT_FALSE(bytes.contains(path)) << path << " in " << paths.fileName().toStdString();
         ++read;
     }
     EXPECT_GT(read, helpPages().size());
-    EXPECT_FALSE(bytesOf(file).contains(DUNMOOR_BUILD)) << "nor outside its members";
+    EXPECT_FALSE(BytesOf(file).contains(DUNMOOR_BUILD)) << "nor outside its members";
 }
 
 TEST_F(CompiledHelp, IsTheSameWhereverAndWheneverItIsBuilt)
 {
-    EXPECT_TRUE(bytesOf(file) == bytesOf(DUNMOOR_HELP_FILE_AGAIN));
+    EXPECT_TRUE(BytesOf(file) == BytesOf(DUNMOOR_HELP_FILE_AGAIN));
 }
 
 TEST_F(CompiledHelp, HasBothIdentifiersInItsHeader)
 {
-    const QByteArray header = bytesOf(file).first(0x38);
+    const QByteArray header = BytesOf(file).first(0x38);
     EXPECT_EQ(header.mid(0x18, 16).toHex(), "10fd017caa7bd0119e0c00a0c922e6ec");
     EXPECT_EQ(header.mid(0x28, 16).toHex(), "11fd017caa7bd0119e0c00a0c922e6ec");
 }

@@ -67,7 +67,7 @@ private:
 
 /// A child that a test needs. @throws std::runtime_error if there is none
 template <class Widget>
-Widget& child(QWidget& dialog, const char* name)
+Widget& Child(QWidget& dialog, const char* name)
 {
     auto* const found = dialog.findChild<Widget*>(name);
     if (found == nullptr)
@@ -76,7 +76,7 @@ Widget& child(QWidget& dialog, const char* name)
 }
 
 /// Presses the dialog's button of that role: OK or Cancel.
-inline void pressIn(QDialog& dialog, QDialogButtonBox::ButtonRole role)
+inline void PressIn(QDialog& dialog, QDialogButtonBox::ButtonRole role)
 {
     auto* const box = dialog.findChild<QDialogButtonBox*>();
     for (QAbstractButton* button : box->buttons()) {
@@ -87,23 +87,23 @@ inline void pressIn(QDialog& dialog, QDialogButtonBox::ButtonRole role)
     }
     throw std::runtime_error("no such button");
 }
-inline void confirm(QDialog& dialog) { pressIn(dialog, QDialogButtonBox::AcceptRole); }
-inline void cancel(QDialog& dialog) { pressIn(dialog, QDialogButtonBox::RejectRole); }
+inline void Confirm(QDialog& dialog) { PressIn(dialog, QDialogButtonBox::AcceptRole); }
+inline void Cancel(QDialog& dialog) { PressIn(dialog, QDialogButtonBox::RejectRole); }
 
 /// The answer that saves under a name, as typed.
-inline Dialogs::Answer saveAs(const QString& name)
+inline Dialogs::Answer SaveAs(const QString& name)
 {
     return [name](QDialog& dialog) {
-        child<QLineEdit>(dialog, "fileNameEdit").setText(name);
-        confirm(dialog);
+        Child<QLineEdit>(dialog, "fileNameEdit").setText(name);
+        Confirm(dialog);
     };
 }
 
 /// The answer that prints to a file.
-inline Dialogs::Answer printTo(const QString& file)
+inline Dialogs::Answer PrintToFile(const QString& file)
 {
     return [file](QDialog& dialog) {
-        child<QLineEdit>(dialog, "filename").setText(file);
-        confirm(dialog);
+        Child<QLineEdit>(dialog, "filename").setText(file);
+        Confirm(dialog);
     };
 }

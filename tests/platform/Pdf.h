@@ -8,7 +8,7 @@
 #include <vector>
 
 /// The output of a program about a PDF file. @throws std::runtime_error if the program is missing or fails
-inline QString sayOf(const QString& program, const QStringList& arguments)
+inline QString OutputOf(const QString& program, const QStringList& arguments)
 {
     QProcess process;
     process.start(program, arguments);
@@ -18,18 +18,18 @@ inline QString sayOf(const QString& program, const QStringList& arguments)
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
-inline int pagesOf(const QString& file)
+inline int PagesOf(const QString& file)
 {
     const QRegularExpression pages("Pages:\\s+(\\d+)");
-    return pages.match(sayOf("pdfinfo", {file})).captured(1).toInt();
+    return pages.match(OutputOf("pdfinfo", {file})).captured(1).toInt();
 }
 
 /// The text of a page in reading order, one line of text per line of the page, with blanks between words
 /// collapsed.
-inline std::string textOf(const QString& file, int page = 1)
+inline std::string TextOf(const QString& file, int page = 1)
 {
     const QString number = QString::number(page);
-    return sayOf("pdftotext", {"-f", number, "-l", number, "-layout", file, "-"})
+    return OutputOf("pdftotext", {"-f", number, "-l", number, "-layout", file, "-"})
         .replace(QRegularExpression("[ ]+"), " ")
         .replace(QRegularExpression("(^|\\n) "), "\\1")
         .remove('\f')
@@ -46,12 +46,12 @@ struct Word
     double bottom = 0;
 };
 
-inline std::vector<Word> wordsOf(const QString& file)
+inline std::vector<Word> WordsOf(const QString& file)
 {
     static const QRegularExpression word(
         R"x(<word xMin="([^"]*)" yMin="([^"]*)" xMax="([^"]*)" yMax="([^"]*)">([^<]*)</word>)x");
     std::vector<Word> words;
-    auto matches = word.globalMatch(sayOf("pdftotext", {"-bbox", file, "-"}));
+    auto matches = word.globalMatch(OutputOf("pdftotext", {"-bbox", file, "-"}));
     while (matches.hasNext()) {
         const auto match = matches.next();
         words.push_back({.text = match.captured(5),

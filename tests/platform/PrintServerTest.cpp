@@ -115,9 +115,9 @@ protected:
     void printToFile()
     {
         dialogs.answer("PrintDialog", [this](QDialog& dialog) {
-            EXPECT_EQ(child<QComboBox>(dialog, "printers").count(), 1);
-            EXPECT_EQ(child<QComboBox>(dialog, "printers").currentText(), "Print to File (PDF)");
-            printTo(pdf())(dialog);
+            EXPECT_EQ(Child<QComboBox>(dialog, "printers").count(), 1);
+            EXPECT_EQ(Child<QComboBox>(dialog, "printers").currentText(), "Print to File (PDF)");
+            PrintToFile(pdf())(dialog);
         });
         ASSERT_TRUE(ShowPrintDialog(form<AnyForm>()));
         EXPECT_TRUE(CurrentPrinter().printLine("text"));
@@ -143,7 +143,7 @@ TEST_F(PrintServerTest, ThatNeverAnswersLeavesTheWindowPainted)
     Paintings window(*form<AnyForm>().area());
     dialogs.answer("PrintDialog", [&](QDialog& dialog) {
         paintings = window.count;
-        cancel(dialog);
+        Cancel(dialog);
     });
     EXPECT_FALSE(ShowPrintDialog(form<AnyForm>()));
     EXPECT_GT(paintings, 5);

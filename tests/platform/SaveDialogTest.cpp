@@ -48,7 +48,7 @@ TEST_F(SaveDialogTest, CarriesItsTitleAndBelongsToTheFormThatAsks)
     ask([](QDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), "Save Data to File");
         EXPECT_EQ(dialog.parentWidget(), form<AnyForm>().window());
-        cancel(dialog);
+        Cancel(dialog);
     });
 }
 
@@ -56,19 +56,19 @@ TEST_F(SaveDialogTest, StartsInItsFolderWithoutAName)
 {
     ask([this](QDialog& dialog) {
         EXPECT_EQ(static_cast<QFileDialog&>(dialog).directory().path(), folder.path());
-        EXPECT_EQ(child<QLineEdit>(dialog, "fileNameEdit").text(), "");
-        cancel(dialog);
+        EXPECT_EQ(Child<QLineEdit>(dialog, "fileNameEdit").text(), "");
+        Cancel(dialog);
     });
 }
 
 TEST_F(SaveDialogTest, ShowsFilesWithAndWithoutAnExtension)
 {
     ask([](QDialog& dialog) {
-        auto& types = child<QComboBox>(dialog, "fileTypeCombo");
+        auto& types = Child<QComboBox>(dialog, "fileTypeCombo");
         EXPECT_EQ(types.count(), 1);
         EXPECT_EQ(types.currentText().trimmed(), "All Files (*.*)");
         EXPECT_EQ(static_cast<QFileDialog&>(dialog).nameFilters(), QStringList{"All Files (*.*) (*)"});
-        cancel(dialog);
+        Cancel(dialog);
     });
 }
 
@@ -78,51 +78,51 @@ TEST_F(SaveDialogTest, TakesSeveralFilters)
         [](QDialog& dialog) {
             EXPECT_EQ(static_cast<QFileDialog&>(dialog).nameFilters(),
                       (QStringList{"Text (*.txt)", "All (*)"}));
-            cancel(dialog);
+            Cancel(dialog);
         },
         "Text\0*.txt\0All\0*.*\0"sv);
 }
 
 TEST_F(SaveDialogTest, GivesThePathOfTheNameThatWasTyped)
 {
-    EXPECT_EQ(ask(saveAs("report.txt")), path("report.txt"));
+    EXPECT_EQ(ask(SaveAs("report.txt")), path("report.txt"));
 }
 
-TEST_F(SaveDialogTest, AddsNoExtension) { EXPECT_EQ(ask(saveAs("report")), path("report")); }
+TEST_F(SaveDialogTest, AddsNoExtension) { EXPECT_EQ(ask(SaveAs("report")), path("report")); }
 
 TEST_F(SaveDialogTest, KeepsBlanksAndLettersOfAnyLanguageInAName)
 {
-    EXPECT_EQ(ask(saveAs("Zürich  Büro 3.txt")), path("Zürich  Büro 3.txt"));
+    EXPECT_EQ(ask(SaveAs("Zürich  Büro 3.txt")), path("Zürich  Büro 3.txt"));
 }
 
 TEST_F(SaveDialogTest, DropsBlanksAroundThePath)
 {
-    EXPECT_EQ(ask(saveAs(folder.filePath("report  "))), path("report"));
+    EXPECT_EQ(ask(SaveAs(folder.filePath("report  "))), path("report"));
 }
 
 TEST_F(SaveDialogTest, AsksNothingAboutAFileThatExists)
 {
     makeFile("report");
-    EXPECT_EQ(ask(saveAs("report")), path("report"));
+    EXPECT_EQ(ask(SaveAs("report")), path("report"));
     EXPECT_EQ(dialogs.shown, std::vector<QString>{"SaveDialog"});
 }
 
 TEST_F(SaveDialogTest, TakesAFileInAFolderThatIsNotThere)
 {
-    EXPECT_EQ(ask(saveAs(folder.filePath("missing/report"))), path("missing/report"));
+    EXPECT_EQ(ask(SaveAs(folder.filePath("missing/report"))), path("missing/report"));
 }
 
 TEST_F(SaveDialogTest, MakesNoFile)
 {
-    ask(saveAs("report"));
+    ask(SaveAs("report"));
     EXPECT_FALSE(QFile::exists(folder.filePath("report")));
 }
 
 TEST_F(SaveDialogTest, GivesAnEmptyPathOnCancel)
 {
     EXPECT_EQ(ask([](QDialog& dialog) {
-                  child<QLineEdit>(dialog, "fileNameEdit").setText("report");
-                  cancel(dialog);
+                  Child<QLineEdit>(dialog, "fileNameEdit").setText("report");
+                  Cancel(dialog);
               }),
               "");
 }
@@ -135,11 +135,11 @@ TEST_F(SaveDialogTest, GivesAnEmptyPathWhenItIsClosedByItsBox)
 TEST_F(SaveDialogTest, RemembersNothingBetweenCalls)
 {
     const QTemporaryDir other;
-    EXPECT_EQ(ask(saveAs(other.filePath("report"))), other.filePath("report").toStdString());
+    EXPECT_EQ(ask(SaveAs(other.filePath("report"))), other.filePath("report").toStdString());
     ask([this](QDialog& dialog) {
         EXPECT_EQ(static_cast<QFileDialog&>(dialog).directory().path(), folder.path());
-        EXPECT_EQ(child<QLineEdit>(dialog, "fileNameEdit").text(), "");
-        cancel(dialog);
+        EXPECT_EQ(Child<QLineEdit>(dialog, "fileNameEdit").text(), "");
+        Cancel(dialog);
     });
 }
 

@@ -11,7 +11,7 @@ class AirPropertiesReport : public ReportCommandTest
 protected:
     std::string written(AirBlock::Conversion fractionOf = SavedFraction) const
     {
-        return textOfReport(
+        return TextOfReport(
             [&](ReportWriter& report) { WriteAirPropertiesReport(report, fields, fractionOf); });
     }
 
@@ -36,13 +36,13 @@ protected:
 
 TEST_F(AirPropertiesReport, ListsTheFieldsInEnglish)
 {
-    EXPECT_EQ(written(SavedFraction), expectedReport("air-properties-english"));
-    EXPECT_EQ(written(PrintedFraction), expectedReport("air-properties-english"));
+    EXPECT_EQ(written(SavedFraction), ExpectedReport("air-properties-english"));
+    EXPECT_EQ(written(PrintedFraction), ExpectedReport("air-properties-english"));
 }
 
 TEST_F(AirPropertiesReport, ListsTheFieldsInMetricWithoutTheGrains)
 {
-    inMetric();
+    InMetric();
     fields = {.Tdb = "21.0",
               .Twb = "14.6",
               .td = "10.2",
@@ -51,13 +51,13 @@ TEST_F(AirPropertiesReport, ListsTheFieldsInMetricWithoutTheGrains)
               .Grains = "54.1",
               .SpVol = "0.844",
               .h = "40.77"};
-    EXPECT_EQ(written(), expectedReport("air-properties-metric"));
+    EXPECT_EQ(written(), ExpectedReport("air-properties-metric"));
 }
 
 TEST_F(AirPropertiesReport, LeavesTheValueOfAnEmptyFieldEmpty)
 {
     fields = {.Tdb = "", .Twb = "", .td = "", .RH = "100.0", .W = "", .Grains = "", .SpVol = "", .h = ""};
-    EXPECT_EQ(written(), expectedReport("air-properties-blank"));
+    EXPECT_EQ(written(), ExpectedReport("air-properties-blank"));
 }
 
 TEST_F(AirPropertiesReport, ShowsWhatIsNoNumberAsItStands)
@@ -68,7 +68,7 @@ TEST_F(AirPropertiesReport, ShowsWhatIsNoNumberAsItStands)
 
 TEST_F(AirPropertiesReport, StopsBeforeAHumidityThatIsNoNumber)
 {
-    const std::string whole = expectedReport("air-properties-english");
+    const std::string whole = ExpectedReport("air-properties-english");
     const std::string before = whole.substr(0, whole.find(" Relative"));
     for (const char* text : {"", " ", "a text"}) {
         fields.RH = text;
@@ -89,59 +89,54 @@ TEST_F(AirPropertiesReport, ReadsTheHumidityAsSingleForThePrinterAndAsDoubleForA
 
 TEST_F(AirPropertiesReport, IsSavedToTheFileOfTheUsersChoice)
 {
-    dialogs.answer("SaveDialog", [this](QDialog& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), "Save Data to File");
-        saveAs(file("report.txt"))(dialog);
-    });
+    const QString path = saveInDialog("Save Data to File");
     SaveAirProperties(form<AnyForm>(), fields);
-    EXPECT_EQ(bytesOf(file("report.txt")), expectedReport("air-properties-english"));
+    EXPECT_EQ(BytesOf(path), ExpectedReport("air-properties-english"));
 }
 
 TEST_F(AirPropertiesReport, IsSavedWithTheHumidityAsDouble)
 {
     fields.RH = "0.25";
-    dialogs.answer("SaveDialog", saveAs(file("report.txt")));
+    dialogs.answer("SaveDialog", SaveAs(file("report.txt")));
     SaveAirProperties(form<AnyForm>(), fields);
-    EXPECT_NE(bytesOf(file("report.txt")).find("0.3%"), std::string::npos);
+    EXPECT_NE(BytesOf(file("report.txt")).find("0.3%"), std::string::npos);
 }
 
 TEST_F(AirPropertiesReport, IsPrintedThroughItsTemporaryFile)
 {
-    dialogs.answer("PrintDialog", printTo(file("report.pdf")));
+    dialogs.answer("PrintDialog", PrintToFile(file("report.pdf")));
     PrintAirProperties(form<AnyForm>(), fields);
-    EXPECT_EQ(bytesOf(base + "/tempdata/Airprop.txt"), expectedReport("air-properties-english"));
-    const std::string printed = textOf(file("report.pdf"));
-    for (const char* words :
-         {"Calculated Psychrometric Properties", "Relative Humidity = 50.0%",
-          "Humidity Ratio (grains) = 54.5 grains", "Specific Volume = 13.514 ft3 per Lb."})
-        EXPECT_NE(printed.find(words), std::string::npos) << words << " in\n" << printed;
+    EXPECT_EQ(BytesOf(base + "/tempdata/Airprop.txt"), ExpectedReport("air-properties-english"));
+    expectWords(TextOf(file("report.pdf")),
+                {"Calculated Psychrometric Properties", "Relative Humidity = 50.0%",
+                 "Humidity Ratio (grains) = 54.5 grains", "Specific Volume = 13.514 ft3 per Lb."});
 }
 
 TEST_F(AirPropertiesReport, IsPrintedWithTheHumidityAsSingle)
 {
     fields.RH = "0.25";
-    dialogs.answer("PrintDialog", printTo(file("report.pdf")));
+    dialogs.answer("PrintDialog", PrintToFile(file("report.pdf")));
     PrintAirProperties(form<AnyForm>(), fields);
-    EXPECT_NE(bytesOf(base + "/tempdata/Airprop.txt").find("0.2%"), std::string::npos);
+    EXPECT_NE(BytesOf(base + "/tempdata/Airprop.txt").find("0.2%"), std::string::npos);
 }
 
 TEST_F(AirPropertiesReport, LeavesTheFirstLinesAndBlocksAllLaterReportsWhereTheHumidityIsEmpty)
 {
-    const std::string whole = expectedReport("air-properties-english");
+    const std::string whole = ExpectedReport("air-properties-english");
     fields.RH = "";
-    dialogs.answer("SaveDialog", saveAs(file("first.txt")));
+    dialogs.answer("SaveDialog", SaveAs(file("first.txt")));
     SaveAirProperties(form<AnyForm>(), fields);
-    EXPECT_EQ(bytesOf(file("first.txt")), whole.substr(0, whole.find(" Relative")));
+    EXPECT_EQ(BytesOf(file("first.txt")), whole.substr(0, whole.find(" Relative")));
 
     fields.RH = "50";
-    dialogs.answer("SaveDialog", saveAs(file("second.txt")));
+    dialogs.answer("SaveDialog", SaveAs(file("second.txt")));
     SaveAirProperties(form<AnyForm>(), fields);
-    EXPECT_EQ(bytesOf(file("second.txt")), "(none)");
+    EXPECT_EQ(BytesOf(file("second.txt")), "(none)");
 
-    dialogs.answer("PrintDialog", printTo(file("report.pdf")));
+    dialogs.answer("PrintDialog", PrintToFile(file("report.pdf")));
     PrintAirProperties(form<AnyForm>(), fields);
-    EXPECT_EQ(bytesOf(base + "/tempdata/Airprop.txt"), "(none)");
-    EXPECT_EQ(bytesOf(file("report.pdf")), "(none)");
+    EXPECT_EQ(BytesOf(base + "/tempdata/Airprop.txt"), "(none)");
+    EXPECT_EQ(BytesOf(file("report.pdf")), "(none)");
     EXPECT_EQ(dialogs.shown.size(), 3U); // each command still asks
 }
 

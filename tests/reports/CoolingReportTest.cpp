@@ -11,7 +11,7 @@ namespace {
 class CoolingReport : public ReportCommandTest
 {
 protected:
-    static std::string report() { return textOfReport(WriteCoolingReport); }
+    static std::string report() { return TextOfReport(WriteCoolingReport); }
 
     static void saveEnteringAir(const TaggedNumber& volume)
     {
@@ -58,7 +58,7 @@ protected:
 
     static void coolWetInMetric()
     {
-        inMetric();
+        InMetric();
         CoolingEnteringAir = {.AirVolume = 3400.0F,
                               .RH = 0.505F,
                               .SpVol = 0.85F,
@@ -76,25 +76,25 @@ protected:
 
 TEST_F(CoolingReport, ShowsZerosBeforeAnythingIsCalculated)
 {
-    EXPECT_EQ(report(), expectedReport("cooling-zeros-english"));
+    EXPECT_EQ(report(), ExpectedReport("cooling-zeros-english"));
 }
 
 TEST_F(CoolingReport, ShowsZerosBeforeAnythingIsCalculatedInMetric)
 {
-    inMetric();
-    EXPECT_EQ(report(), expectedReport("cooling-zeros-metric"));
+    InMetric();
+    EXPECT_EQ(report(), ExpectedReport("cooling-zeros-metric"));
 }
 
 TEST_F(CoolingReport, ListsAWetCoil)
 {
     coolWetInEnglish();
-    EXPECT_EQ(report(), expectedReport("cooling-wet-english"));
+    EXPECT_EQ(report(), ExpectedReport("cooling-wet-english"));
 }
 
 TEST_F(CoolingReport, ListsAWetCoilInMetric)
 {
     coolWetInMetric();
-    EXPECT_EQ(report(), expectedReport("cooling-wet-metric"));
+    EXPECT_EQ(report(), ExpectedReport("cooling-wet-metric"));
 }
 
 // The latent load is the rounding error of the total. The report doesn't show it.
@@ -119,12 +119,12 @@ TEST_F(CoolingReport, ListsADryCoil)
                          .Tdb = 60.0F};
     CalculateCoolingLoads();
     EXPECT_NE(LatentLoad.asDouble(), 0.0);
-    EXPECT_EQ(report(), expectedReport("cooling-dry-english"));
+    EXPECT_EQ(report(), ExpectedReport("cooling-dry-english"));
 }
 
 TEST_F(CoolingReport, ListsADryCoilInMetric)
 {
-    inMetric();
+    InMetric();
     CoolingEnteringAir = {.AirVolume = 3600.0F,
                           .RH = 0.33F,
                           .SpVol = 0.86F,
@@ -137,7 +137,7 @@ TEST_F(CoolingReport, ListsADryCoilInMetric)
         .RH = 0.685F, .SpVol = 0.84F, .h = 33.42F, .W = 0.00725F, .td = 9.3F, .Twb = 12.1F, .Tdb = 15.0F};
     CalculateCoolingLoads();
     EXPECT_NE(LatentLoad.asDouble(), 0.0);
-    EXPECT_EQ(report(), expectedReport("cooling-dry-metric"));
+    EXPECT_EQ(report(), ExpectedReport("cooling-dry-metric"));
 }
 
 // The leaving air has the new temperature and relative humidity; its other properties are from the previous
@@ -145,14 +145,14 @@ TEST_F(CoolingReport, ListsADryCoilInMetric)
 TEST_F(CoolingReport, ShowsARefusedStateAsItStands)
 {
     refuseLeavingAir(70.0F, 14.696F, 1500.0F, 45.0F);
-    EXPECT_EQ(report(), expectedReport("cooling-refused-english"));
+    EXPECT_EQ(report(), ExpectedReport("cooling-refused-english"));
 }
 
 TEST_F(CoolingReport, ShowsARefusedStateAsItStandsInMetric)
 {
-    inMetric();
+    InMetric();
     refuseLeavingAir(20.0F, 101352.0F, 2500.0F, 5.0F);
-    EXPECT_EQ(report(), expectedReport("cooling-refused-metric"));
+    EXPECT_EQ(report(), ExpectedReport("cooling-refused-metric"));
 }
 
 TEST_F(CoolingReport, PairsANewEnteringAirWithTheLoadsOfThePassBefore)
@@ -167,7 +167,7 @@ TEST_F(CoolingReport, PairsANewEnteringAirWithTheLoadsOfThePassBefore)
                           .td = 62.4F,
                           .Twb = 70.0F,
                           .Tdb = 85.5F};
-    EXPECT_EQ(report(), expectedReport("cooling-second-pass-english"));
+    EXPECT_EQ(report(), ExpectedReport("cooling-second-pass-english"));
 }
 
 TEST_F(CoolingReport, PairsANewEnteringAirWithTheLoadsOfThePassBeforeInMetric)
@@ -181,40 +181,36 @@ TEST_F(CoolingReport, PairsANewEnteringAirWithTheLoadsOfThePassBeforeInMetric)
                           .td = 17.8F,
                           .Twb = 22.0F,
                           .Tdb = 31.5F};
-    EXPECT_EQ(report(), expectedReport("cooling-second-pass-metric"));
+    EXPECT_EQ(report(), ExpectedReport("cooling-second-pass-metric"));
 }
 
 TEST_F(CoolingReport, ReadsTheSnapshotsAndTheLoadsAlone)
 {
     StatePoint.Tdb = 99.0F;
     AirVolume = 77.0F;
-    EXPECT_EQ(report(), expectedReport("cooling-zeros-english"));
+    EXPECT_EQ(report(), ExpectedReport("cooling-zeros-english"));
 }
 
 TEST_F(CoolingReport, IsSaved)
 {
     coolWetInEnglish();
-    dialogs.answer("SaveDialog", [this](QDialog& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), "Save Cooling Load Data to File");
-        saveAs(file("cooling"))(dialog);
-    });
+    const QString path = saveInDialog("Save Cooling Load Data to File");
     SaveCooling(form<AnyForm>());
-    EXPECT_EQ(bytesOf(file("cooling")), expectedReport("cooling-wet-english"));
+    EXPECT_EQ(BytesOf(path), ExpectedReport("cooling-wet-english"));
 }
 
 TEST_F(CoolingReport, IsPrintedThroughItsTemporaryFileInBoldArial)
 {
     coolWetInMetric();
-    dialogs.answer("PrintDialog", printTo(file("cooling.pdf")));
+    dialogs.answer("PrintDialog", PrintToFile(file("cooling.pdf")));
     PrintCooling(form<AnyForm>());
-    EXPECT_EQ(bytesOf(base + "/tempdata/cooling.txt"), expectedReport("cooling-wet-metric"));
+    EXPECT_EQ(BytesOf(base + "/tempdata/cooling.txt"), ExpectedReport("cooling-wet-metric"));
     EXPECT_EQ(CurrentPrinter().font().name, "Arial");
     EXPECT_EQ(CurrentPrinter().font().size, 14);
     EXPECT_TRUE(CurrentPrinter().font().bold);
-    const std::string printed = textOf(file("cooling.pdf"));
-    for (const char* words : {"Cooling Entering Air Properties", "Cooling Leaving Air Properties",
-                              "Cooling Load Summary", "Total Cooling = 28.7 kW"})
-        EXPECT_NE(printed.find(words), std::string::npos) << words << " in\n" << printed;
+    expectWords(TextOf(file("cooling.pdf")),
+                {"Cooling Entering Air Properties", "Cooling Leaving Air Properties", "Cooling Load Summary",
+                 "Total Cooling = 28.7 kW"});
 }
 
 } // namespace

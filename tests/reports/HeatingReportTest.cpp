@@ -11,8 +11,8 @@ namespace {
 class HeatingReport : public ReportCommandTest
 {
 protected:
-    static std::string printed() { return textOfReport(WritePrintedHeatingReport); }
-    static std::string saved() { return textOfReport(WriteSavedHeatingReport); }
+    static std::string printed() { return TextOfReport(WritePrintedHeatingReport); }
+    static std::string saved() { return TextOfReport(WriteSavedHeatingReport); }
 
     /// Saves entering air at 70 deg F.
     static void enterInEnglish()
@@ -31,7 +31,7 @@ protected:
     /// Saves entering air at 20 deg C.
     static void enterInMetric()
     {
-        inMetric();
+        InMetric();
         HeatingEnteringAir = {.AirVolume = 1700.0F,
                               .RH = 0.549F,
                               .SpVol = 0.84F,
@@ -88,53 +88,53 @@ protected:
 
 TEST_F(HeatingReport, ShowsZerosAndNoLoadBeforeAnyCalculation)
 {
-    EXPECT_EQ(printed(), expectedReport("heating-zeros-printed-english"));
-    EXPECT_EQ(saved(), expectedReport("heating-zeros-saved-english"));
+    EXPECT_EQ(printed(), ExpectedReport("heating-zeros-printed-english"));
+    EXPECT_EQ(saved(), ExpectedReport("heating-zeros-saved-english"));
 }
 
 TEST_F(HeatingReport, ShowsZerosAndNoLoadBeforeAnyCalculationInMetric)
 {
-    inMetric();
-    EXPECT_EQ(printed(), expectedReport("heating-zeros-printed-metric"));
-    EXPECT_EQ(saved(), expectedReport("heating-zeros-saved-metric"));
+    InMetric();
+    EXPECT_EQ(printed(), ExpectedReport("heating-zeros-printed-metric"));
+    EXPECT_EQ(saved(), ExpectedReport("heating-zeros-saved-metric"));
 }
 
 TEST_F(HeatingReport, ListsAFullRun)
 {
     heatInEnglish();
-    EXPECT_EQ(printed(), expectedReport("heating-run-printed-english"));
-    EXPECT_EQ(saved(), expectedReport("heating-run-saved-english"));
+    EXPECT_EQ(printed(), ExpectedReport("heating-run-printed-english"));
+    EXPECT_EQ(saved(), ExpectedReport("heating-run-saved-english"));
 }
 
 // 8.55 kW. The report drops the decimals that the screen shows.
 TEST_F(HeatingReport, ListsAFullRunInMetricInWholeKilowatts)
 {
     heatInMetric();
-    EXPECT_EQ(printed(), expectedReport("heating-run-printed-metric"));
-    EXPECT_EQ(saved(), expectedReport("heating-run-saved-metric"));
+    EXPECT_EQ(printed(), ExpectedReport("heating-run-printed-metric"));
+    EXPECT_EQ(saved(), ExpectedReport("heating-run-saved-metric"));
 }
 
 TEST_F(HeatingReport, ShowsARefusedStateWithItsNegativeLoad)
 {
     enterInEnglish();
     refuse(40.0F, 1.532F);
-    EXPECT_EQ(printed(), expectedReport("heating-refused-printed-english"));
-    EXPECT_EQ(saved(), expectedReport("heating-refused-saved-english"));
+    EXPECT_EQ(printed(), ExpectedReport("heating-refused-printed-english"));
+    EXPECT_EQ(saved(), ExpectedReport("heating-refused-saved-english"));
 }
 
 TEST_F(HeatingReport, ShowsARefusedStateWithItsNegativeLoadInMetric)
 {
     enterInMetric();
     refuse(5.0F, 1.481F);
-    EXPECT_EQ(printed(), expectedReport("heating-refused-printed-metric"));
-    EXPECT_EQ(saved(), expectedReport("heating-refused-saved-metric"));
+    EXPECT_EQ(printed(), ExpectedReport("heating-refused-printed-metric"));
+    EXPECT_EQ(saved(), ExpectedReport("heating-refused-saved-metric"));
 }
 
 TEST_F(HeatingReport, LeavesTheValueOfALoadUnderHalfAUnitEmpty)
 {
-    inMetric();
+    InMetric();
     HeatingLoadSingle = 0.49F;
-    EXPECT_EQ(saved(), expectedReport("heating-zeros-saved-metric"));
+    EXPECT_EQ(saved(), ExpectedReport("heating-zeros-saved-metric"));
     HeatingLoadSingle = 12.6F;
     EXPECT_TRUE(saved().ends_with("\n Heating Load =             13             kW\n")) << saved();
 }
@@ -144,18 +144,15 @@ TEST_F(HeatingReport, ReadsTheSnapshotsAndTheDividedLoadAlone)
     StatePoint.Tdb = 99.0F;
     AirVolume = 77.0F;
     HeatingLoadValue = 1234.5;
-    EXPECT_EQ(printed(), expectedReport("heating-zeros-printed-english"));
+    EXPECT_EQ(printed(), ExpectedReport("heating-zeros-printed-english"));
 }
 
 TEST_F(HeatingReport, IsSaved)
 {
     heatInEnglish();
-    dialogs.answer("SaveDialog", [this](QDialog& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), "Save Heating Load Data to File");
-        saveAs(file("heating"))(dialog);
-    });
+    const QString path = saveInDialog("Save Heating Load Data to File");
     SaveHeating(form<AnyForm>());
-    EXPECT_EQ(bytesOf(file("heating")), expectedReport("heating-run-saved-english"));
+    EXPECT_EQ(BytesOf(path), ExpectedReport("heating-run-saved-english"));
 }
 
 TEST_F(HeatingReport, IsPrintedThroughItsTemporaryFileInThePrintersFont)
@@ -163,11 +160,11 @@ TEST_F(HeatingReport, IsPrintedThroughItsTemporaryFileInThePrintersFont)
     heatInMetric();
     const PrinterFont font{.name = "Arial", .size = 9, .bold = false};
     CurrentPrinter().setFont(font);
-    dialogs.answer("PrintDialog", printTo(file("heating.pdf")));
+    dialogs.answer("PrintDialog", PrintToFile(file("heating.pdf")));
     PrintHeating(form<AnyForm>());
-    EXPECT_EQ(bytesOf(base + "/tempdata/heating.txt"), expectedReport("heating-run-printed-metric"));
+    EXPECT_EQ(BytesOf(base + "/tempdata/heating.txt"), ExpectedReport("heating-run-printed-metric"));
     EXPECT_EQ(CurrentPrinter().font().size, 9);
-    EXPECT_NE(textOf(file("heating.pdf")).find("Heating Load = 9 kW"), std::string::npos);
+    EXPECT_NE(TextOf(file("heating.pdf")).find("Heating Load = 9 kW"), std::string::npos);
 }
 
 } // namespace

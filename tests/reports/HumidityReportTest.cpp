@@ -20,11 +20,11 @@ protected:
 
     static std::string printed()
     {
-        return textOfReport([](ReportWriter& report) { WritePrintedHumidityReport(report, read); });
+        return TextOfReport([](ReportWriter& report) { WritePrintedHumidityReport(report, read); });
     }
     static std::string saved()
     {
-        return textOfReport([](ReportWriter& report) { WriteSavedHumidityReport(report, read); });
+        return TextOfReport([](ReportWriter& report) { WriteSavedHumidityReport(report, read); });
     }
 
     /// The texts of a new form, without numbers.
@@ -42,7 +42,7 @@ protected:
 
     static void labelInMetric()
     {
-        inMetric();
+        InMetric();
         texts = {};
         texts.spaceVolume.unit = " cubic meters";
         texts.airChanges.unit = "  AC";
@@ -117,15 +117,15 @@ protected:
 TEST_F(HumidityReport, ListsAFullRun)
 {
     runInEnglish();
-    EXPECT_EQ(printed(), expectedReport("humidity-run-printed-english"));
-    EXPECT_EQ(saved(), expectedReport("humidity-run-saved-english"));
+    EXPECT_EQ(printed(), ExpectedReport("humidity-run-printed-english"));
+    EXPECT_EQ(saved(), ExpectedReport("humidity-run-saved-english"));
 }
 
 TEST_F(HumidityReport, ListsAFullRunInMetricWithoutGrains)
 {
     runInMetric();
-    EXPECT_EQ(printed(), expectedReport("humidity-run-printed-metric"));
-    EXPECT_EQ(saved(), expectedReport("humidity-run-saved-metric"));
+    EXPECT_EQ(printed(), ExpectedReport("humidity-run-printed-metric"));
+    EXPECT_EQ(saved(), ExpectedReport("humidity-run-saved-metric"));
 }
 
 TEST_F(HumidityReport, ShowsANegativeRequirement)
@@ -133,8 +133,8 @@ TEST_F(HumidityReport, ShowsANegativeRequirement)
     solveAirInEnglish();
     enterSpace("0", "0", "500");
     showMoisture("-1234.50", "-29628.00", "-147.93", "-3550.39");
-    EXPECT_EQ(printed(), expectedReport("humidity-negative-printed-english"));
-    EXPECT_EQ(saved(), expectedReport("humidity-negative-saved-english"));
+    EXPECT_EQ(printed(), ExpectedReport("humidity-negative-printed-english"));
+    EXPECT_EQ(saved(), ExpectedReport("humidity-negative-saved-english"));
 }
 
 TEST_F(HumidityReport, ShowsANegativeRequirementInMetric)
@@ -142,22 +142,22 @@ TEST_F(HumidityReport, ShowsANegativeRequirementInMetric)
     solveAirInMetric();
     enterSpace("0", "0", "2000.5");
     showMoisture("-0.025", "-0.600", "-0.03", "-0.60");
-    EXPECT_EQ(printed(), expectedReport("humidity-negative-printed-metric"));
-    EXPECT_EQ(saved(), expectedReport("humidity-negative-saved-metric"));
+    EXPECT_EQ(printed(), ExpectedReport("humidity-negative-printed-metric"));
+    EXPECT_EQ(saved(), ExpectedReport("humidity-negative-saved-metric"));
 }
 
 TEST_F(HumidityReport, ShowsLabelsAndNoNumbersOfABlankForm)
 {
     labelInEnglish();
-    EXPECT_EQ(printed(), expectedReport("humidity-blank-printed-english"));
-    EXPECT_EQ(saved(), expectedReport("humidity-blank-saved-english"));
+    EXPECT_EQ(printed(), ExpectedReport("humidity-blank-printed-english"));
+    EXPECT_EQ(saved(), ExpectedReport("humidity-blank-saved-english"));
 }
 
 TEST_F(HumidityReport, ShowsLabelsAndNoNumbersOfABlankFormInMetric)
 {
     labelInMetric();
-    EXPECT_EQ(printed(), expectedReport("humidity-blank-printed-metric"));
-    EXPECT_EQ(saved(), expectedReport("humidity-blank-saved-metric"));
+    EXPECT_EQ(printed(), ExpectedReport("humidity-blank-printed-metric"));
+    EXPECT_EQ(saved(), ExpectedReport("humidity-blank-saved-metric"));
 }
 
 TEST_F(HumidityReport, PutsOutATextThatIsNoNumberAsItStands)
@@ -171,7 +171,7 @@ TEST_F(HumidityReport, PutsOutATextThatIsNoNumberAsItStands)
 
 TEST_F(HumidityReport, ReadsTheFormOnceAfterBothAirs)
 {
-    inMetric();
+    InMetric();
     HumidDesiredAir.W = 3.0e38F; // overflows in g/kg
     EXPECT_TRUE(printed().ends_with(" Relative Humidity =        0.0%\n(Overflow)"));
     EXPECT_TRUE(saved().ends_with(" Relative Humidity =        0.0%\n(Overflow)"));
@@ -185,14 +185,12 @@ TEST_F(HumidityReport, ReadsTheFormOnceAfterBothAirs)
 
 TEST_F(HumidityReport, IsSavedWithTheTextsOfTheMomentTheDialogIsConfirmed)
 {
-    dialogs.answer("SaveDialog", [this](QDialog& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), "Save Humidity Load Data to File");
+    const QString path = saveInDialog("Save Humidity Load Data to File", [this] {
         EXPECT_EQ(timesRead, 0);
         runInEnglish();
-        saveAs(file("humidity"))(dialog);
     });
     SaveHumidity(form<AnyForm>(), read);
-    EXPECT_EQ(bytesOf(file("humidity")), expectedReport("humidity-run-saved-english"));
+    EXPECT_EQ(BytesOf(path), ExpectedReport("humidity-run-saved-english"));
 }
 
 TEST_F(HumidityReport, IsPrintedThroughItsTemporaryFile)
@@ -200,18 +198,18 @@ TEST_F(HumidityReport, IsPrintedThroughItsTemporaryFile)
     dialogs.answer("PrintDialog", [this](QDialog& dialog) {
         EXPECT_EQ(timesRead, 0);
         runInMetric();
-        printTo(file("humidity.pdf"))(dialog);
+        PrintToFile(file("humidity.pdf"))(dialog);
     });
     PrintHumidity(form<AnyForm>(), read);
-    EXPECT_EQ(bytesOf(base + "/tempdata/humidity.txt"), expectedReport("humidity-run-printed-metric"));
-    EXPECT_NE(textOf(file("humidity.pdf")).find("12.3 kg per hour"), std::string::npos);
+    EXPECT_EQ(BytesOf(base + "/tempdata/humidity.txt"), ExpectedReport("humidity-run-printed-metric"));
+    EXPECT_NE(TextOf(file("humidity.pdf")).find("12.3 kg per hour"), std::string::npos);
 }
 
 TEST_F(HumidityReport, DoesNotReadTheFormOnCancel)
 {
-    dialogs.answer("SaveDialog", [](QDialog& dialog) { cancel(dialog); });
+    dialogs.answer("SaveDialog", [](QDialog& dialog) { Cancel(dialog); });
     SaveHumidity(form<AnyForm>(), read);
-    dialogs.answer("PrintDialog", [](QDialog& dialog) { cancel(dialog); });
+    dialogs.answer("PrintDialog", [](QDialog& dialog) { Cancel(dialog); });
     PrintHumidity(form<AnyForm>(), read);
     EXPECT_EQ(timesRead, 0);
 }

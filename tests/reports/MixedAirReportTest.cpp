@@ -35,69 +35,65 @@ protected:
 
 TEST_F(MixedAirReport, ShowsZerosBeforeAnyMix)
 {
-    EXPECT_EQ(textOfReport(WriteMixedAirReport), expectedReport("mixed-air-zeros"));
+    EXPECT_EQ(TextOfReport(WriteMixedAirReport), ExpectedReport("mixed-air-zeros"));
 }
 
 TEST_F(MixedAirReport, ListsTheThreeAirsInEnglish)
 {
     mixInEnglish();
-    EXPECT_EQ(textOfReport(WriteMixedAirReport), expectedReport("mixed-air-english"));
+    EXPECT_EQ(TextOfReport(WriteMixedAirReport), ExpectedReport("mixed-air-english"));
 }
 
 TEST_F(MixedAirReport, ListsTheThreeAirsInMetricWithoutGrains)
 {
-    inMetric();
+    InMetric();
     MixedOutsideAir = air(2100.0F, 35.0F, 24.0F, 19.6F, 0.401F, 0.0142346F, 99.6F, 0.893F, 71.67F);
     MixedReturnAir = air(0.0F, -10.0F, -10.5F, -12.0F, 0.0F, 0.0F, 0.0F, 0.0F, 0.0F);
     MixedResultAir = air(5.0e6F, 24.0F, 17.1F, 12.9F, 0.5F, 0.0093F, 65.1F, 0.855F, 47.8F);
-    EXPECT_EQ(textOfReport(WriteMixedAirReport), expectedReport("mixed-air-metric"));
+    EXPECT_EQ(TextOfReport(WriteMixedAirReport), ExpectedReport("mixed-air-metric"));
 }
 
 TEST_F(MixedAirReport, ReadsTheSnapshotsAlone)
 {
     StatePoint.Tdb = 99.0F;
     AirVolume = 77.0F;
-    EXPECT_EQ(textOfReport(WriteMixedAirReport), expectedReport("mixed-air-zeros"));
+    EXPECT_EQ(TextOfReport(WriteMixedAirReport), ExpectedReport("mixed-air-zeros"));
 }
 
 TEST_F(MixedAirReport, IsSaved)
 {
     mixInEnglish();
-    dialogs.answer("SaveDialog", [this](QDialog& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), "Save Data to File");
-        saveAs(file("mix"))(dialog);
-    });
+    const QString path = saveInDialog("Save Data to File");
     SaveMixedAir(form<AnyForm>());
-    EXPECT_EQ(bytesOf(file("mix")), expectedReport("mixed-air-english"));
+    EXPECT_EQ(BytesOf(path), ExpectedReport("mixed-air-english"));
 }
 
 TEST_F(MixedAirReport, IsPrintedThroughItsTemporaryFile)
 {
     mixInEnglish();
-    dialogs.answer("PrintDialog", printTo(file("mix.pdf")));
+    dialogs.answer("PrintDialog", PrintToFile(file("mix.pdf")));
     PrintMixedAir(form<AnyForm>());
-    EXPECT_EQ(bytesOf(base + "/tempdata/mixedair.txt"), expectedReport("mixed-air-english"));
-    const std::string printed = textOf(file("mix.pdf"));
-    for (const char* words : {"Outside Air Properties", "Return Air Properties", "Mixed Air Properties",
-                              "Air Flow Rate = 1,234,568 cfm", "Enthalpy = 28. Btu/lb."})
-        EXPECT_NE(printed.find(words), std::string::npos) << words << " in\n" << printed;
+    EXPECT_EQ(BytesOf(base + "/tempdata/mixedair.txt"), ExpectedReport("mixed-air-english"));
+    expectWords(TextOf(file("mix.pdf")),
+                {"Outside Air Properties", "Return Air Properties", "Mixed Air Properties",
+                 "Air Flow Rate = 1,234,568 cfm", "Enthalpy = 28. Btu/lb."});
 }
 
 TEST_F(MixedAirReport, IsPrintedBeforeAnyMixWithItsZeros)
 {
-    dialogs.answer("PrintDialog", printTo(file("mix.pdf")));
+    dialogs.answer("PrintDialog", PrintToFile(file("mix.pdf")));
     PrintMixedAir(form<AnyForm>());
-    EXPECT_EQ(bytesOf(base + "/tempdata/mixedair.txt"), expectedReport("mixed-air-zeros"));
-    EXPECT_EQ(pagesOf(file("mix.pdf")), 1);
+    EXPECT_EQ(BytesOf(base + "/tempdata/mixedair.txt"), ExpectedReport("mixed-air-zeros"));
+    EXPECT_EQ(PagesOf(file("mix.pdf")), 1);
 }
 
 TEST_F(MixedAirReport, EndsSilentlyWhereTheHumidityRatioOverflows)
 {
-    inMetric();
+    InMetric();
     MixedReturnAir.W = 3.0e38F;
-    dialogs.answer("SaveDialog", saveAs(file("mix")));
+    dialogs.answer("SaveDialog", SaveAs(file("mix")));
     SaveMixedAir(form<AnyForm>());
-    const std::string text = bytesOf(file("mix"));
+    const std::string text = BytesOf(file("mix"));
     EXPECT_TRUE(text.ends_with(" Relative Humidity =        0.0%\n")) << text;
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 15 + 12);
     EXPECT_TRUE(ReportFile.isOpen());

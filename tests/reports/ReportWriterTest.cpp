@@ -6,8 +6,8 @@ namespace {
 
 TEST(ReportWriter, WritesEveryFormAsALine)
 {
-    const std::string date = today().toStdString();
-    const std::string text = textOfReport([](ReportWriter& report) {
+    const std::string date = Today().toStdString();
+    const std::string text = TextOfReport([](ReportWriter& report) {
         report.blankLines(2);
         report.dateLine();
         report.heading("Heading");
@@ -53,7 +53,7 @@ protected:
 
     std::string block() const
     {
-        return textOfReport([this](ReportWriter& report) { WriteAirBlock(report, air); });
+        return TextOfReport([this](ReportWriter& report) { WriteAirBlock(report, air); });
     }
 
     AirSnapshot air;
@@ -77,7 +77,7 @@ TEST_F(AirBlockTest, HasEightLinesInEnglish)
 
 TEST_F(AirBlockTest, HasSevenLinesInMetricWithTheHumidityRatioInGrams)
 {
-    inMetric();
+    InMetric();
     air = {.Grains = 54.47F, .RH = 0.5F, .SpVol = 0.844F, .h = 40.77F, .W = 0.00773F};
     air.td = 10.2F;
     air.Twb = 14.6F;
@@ -93,7 +93,7 @@ TEST_F(AirBlockTest, HasSevenLinesInMetricWithTheHumidityRatioInGrams)
 
 TEST_F(AirBlockTest, MultipliesTheHumidityRatioIntoASingle)
 {
-    inMetric();
+    InMetric();
     // The single nearest to 0.00090625 is 0.000906249974. Times 1000, that is 0.906249974, below the half
     // between 0.9062 and 0.9063. The single nearest to that is the half itself, 0.90625.
     air.W = 0.00090625F;
@@ -110,7 +110,7 @@ TEST_F(AirBlockTest, KeepsThePointOfAWholeValueWithNoDigitBehindIt)
 
 TEST_F(AirBlockTest, StopsBeforeTheLineWhoseHumidityRatioOverflows)
 {
-    inMetric();
+    InMetric();
     air.W = 3.0e38F;
     EXPECT_EQ(block(), " Dry Bulb Temp =            0.0            deg C\n"
                        " Wet Bulb Temp =            0.0            deg C\n"

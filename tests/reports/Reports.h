@@ -13,8 +13,12 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <functional>
+#include <string>
+#include <vector>
+
 /// Today's date in the tests' locale.
-inline QString today()
+inline QString Today()
 {
     const QDate date = QDate::currentDate();
     const char* const months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
@@ -23,21 +27,21 @@ inline QString today()
 }
 
 /// The bytes of a file, or "(none)".
-inline std::string bytesOf(const QString& path)
+inline std::string BytesOf(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(none)";
 }
 
 /// The expected text of a report, laid out by hand, with today's date.
-inline std::string expectedReport(const char* name)
+inline std::string ExpectedReport(const char* name)
 {
-    const std::string text = bytesOf(QString(DUNMOOR_TEST_DATA "/reports/") + name + ".txt");
-    return QString::fromStdString(text).replace("@DATE@", today()).toStdString();
+    const std::string text = BytesOf(QString(DUNMOOR_TEST_DATA "/reports/") + name + ".txt");
+    return QString::fromStdString(text).replace("@DATE@", Today()).toStdString();
 }
 
 /// The text that a report writes; after a failure, the lines before it and the error.
-inline std::string textOfReport(const WriteReport& writeReport)
+inline std::string TextOfReport(const WriteReport& writeReport)
 {
     std::string text;
     ReportWriter report([&text](const std::string& line) { text += line + '\n'; });
@@ -74,10 +78,30 @@ protected:
     /// A user's file, outside the application's folder.
     QString file(const QString& name) const { return folder.filePath("user/" + name); }
 
+    /// Expects words in the text of a printed page.
+    static void expectWords(const std::string& printed, const std::vector<std::string>& expected)
+    {
+        for (const std::string& words : expected)
+            EXPECT_NE(printed.find(words), std::string::npos) << words << " in\n" << printed;
+    }
+
+    /// Names a file in the next save dialog, which has this title. Acts there first.
+    QString saveInDialog(
+        const QString& title, const std::function<void()>& actions = [] {})
+    {
+        const QString path = file("saved");
+        dialogs.answer("SaveDialog", [title, path, actions](QDialog& dialog) {
+            EXPECT_EQ(dialog.windowTitle(), title);
+            actions();
+            SaveAs(path)(dialog);
+        });
+        return path;
+    }
+
     Dialogs dialogs;
     QTemporaryDir folder;
     static inline QString base;
 };
 
 /// The unit mode for the rest of the test.
-inline void inMetric() { UnitSystem = True16; }
+inline void InMetric() { UnitSystem = True16; }

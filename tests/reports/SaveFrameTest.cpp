@@ -39,7 +39,7 @@ TEST_F(SaveFrame, MakesTheDataFolderAndStartsTheDialogThere)
         EXPECT_TRUE(QDir(base + "/data").exists());
         EXPECT_EQ(static_cast<QFileDialog&>(dialog).directory().path(), base + "/data");
         EXPECT_EQ(dialog.windowTitle(), "Save Cooling Load Data to File");
-        cancel(dialog);
+        Cancel(dialog);
     });
     EXPECT_EQ(QDir(base).entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList{"data"});
 }
@@ -47,62 +47,62 @@ TEST_F(SaveFrame, MakesTheDataFolderAndStartsTheDialogThere)
 TEST_F(SaveFrame, UsesTheDataFolderThatIsThere)
 {
     QDir().mkpath(base + "/data/kept");
-    save(saveAs("report"));
+    save(SaveAs("report"));
     EXPECT_TRUE(QDir(base + "/data/kept").exists());
-    EXPECT_EQ(bytesOf(base + "/data/report"), " text\n");
+    EXPECT_EQ(BytesOf(base + "/data/report"), " text\n");
 }
 
 TEST_F(SaveFrame, WritesStraightIntoTheChosenFileAndClosesIt)
 {
-    dialogs.answer("SaveDialog", saveAs(file("report.txt")));
+    dialogs.answer("SaveDialog", SaveAs(file("report.txt")));
     SaveReport(form<AnyForm>(), "Save Data to File", [this](ReportWriter& report) {
         EXPECT_TRUE(ReportFile.isOpen());
         report.heading("one");
-        EXPECT_EQ(bytesOf(file("report.txt")), " one\n");
+        EXPECT_EQ(BytesOf(file("report.txt")), " one\n");
         report.heading("two");
     });
-    EXPECT_EQ(bytesOf(file("report.txt")), " one\n two\n");
+    EXPECT_EQ(BytesOf(file("report.txt")), " one\n two\n");
     EXPECT_FALSE(ReportFile.isOpen());
     EXPECT_FALSE(QDir(base + "/tempdata").exists());
 }
 
 TEST_F(SaveFrame, KeepsANameWithoutExtension)
 {
-    save(saveAs("report"));
+    save(SaveAs("report"));
     EXPECT_EQ(QDir(base + "/data").entryList(QDir::Files), QStringList{"report"});
 }
 
 TEST_F(SaveFrame, TakesNamesWithBlanksAndLettersOfAnyLanguage)
 {
-    save(saveAs(file("Büro Nord 3 Ω.txt")));
-    EXPECT_EQ(bytesOf(file("Büro Nord 3 Ω.txt")), " text\n");
+    save(SaveAs(file("Büro Nord 3 Ω.txt")));
+    EXPECT_EQ(BytesOf(file("Büro Nord 3 Ω.txt")), " text\n");
 }
 
 TEST_F(SaveFrame, ReplacesAnExistingReportWithoutAQuestion)
 {
-    save(saveAs("report"), "a long first report");
-    save(saveAs("report"), "second");
-    EXPECT_EQ(bytesOf(base + "/data/report"), " second\n");
+    save(SaveAs("report"), "a long first report");
+    save(SaveAs("report"), "second");
+    EXPECT_EQ(BytesOf(base + "/data/report"), " second\n");
     EXPECT_EQ(dialogs.shown, (std::vector<QString>{"SaveDialog", "SaveDialog"}));
 }
 
 TEST_F(SaveFrame, TouchesNoFileOnCancel)
 {
-    save(saveAs("report"), "before");
+    save(SaveAs("report"), "before");
     save([](QDialog& dialog) {
-        child<QLineEdit>(dialog, "fileNameEdit").setText("report");
-        cancel(dialog);
+        Child<QLineEdit>(dialog, "fileNameEdit").setText("report");
+        Cancel(dialog);
     });
-    EXPECT_EQ(bytesOf(base + "/data/report"), " before\n");
+    EXPECT_EQ(BytesOf(base + "/data/report"), " before\n");
     EXPECT_EQ(QDir(base + "/data").entryList(QDir::Files), QStringList{"report"});
     EXPECT_FALSE(ReportFile.isOpen());
 }
 
 TEST_F(SaveFrame, WorksAgainAfterCancel)
 {
-    save([](QDialog& dialog) { cancel(dialog); });
-    save(saveAs("report"));
-    EXPECT_EQ(bytesOf(base + "/data/report"), " text\n");
+    save([](QDialog& dialog) { Cancel(dialog); });
+    save(SaveAs("report"));
+    EXPECT_EQ(BytesOf(base + "/data/report"), " text\n");
 }
 
 TEST_F(SaveFrame, EndsBeforeTheDialogWhereTheDataFolderCannotBeMade)
@@ -119,9 +119,9 @@ TEST_F(SaveFrame, ProposesTheUsersOwnFolderWhereTheApplicationsCannotBeWritten)
     base += "/missing";
     save([&own](QDialog& dialog) {
         EXPECT_EQ(static_cast<QFileDialog&>(dialog).directory().path(), own);
-        saveAs("report")(dialog);
+        SaveAs("report")(dialog);
     });
-    EXPECT_EQ(bytesOf(own + "/report"), " text\n");
+    EXPECT_EQ(BytesOf(own + "/report"), " text\n");
 }
 
 TEST_F(SaveFrame, EndsSilentlyWhereTheFileCannotBeOpenedAndWorksAgain)
@@ -130,11 +130,11 @@ TEST_F(SaveFrame, EndsSilentlyWhereTheFileCannotBeOpenedAndWorksAgain)
     ASSERT_TRUE(obstacle.open(QIODevice::WriteOnly));
     for (const QString& bad :
          {file("obstacle/report"), file("missing/report"), QString("/proc/no-such-file")})
-        save(saveAs(bad));
+        save(SaveAs(bad));
     EXPECT_FALSE(ReportFile.isOpen());
     EXPECT_FALSE(QDir(file("missing")).exists());
-    save(saveAs("report"));
-    EXPECT_EQ(bytesOf(base + "/data/report"), " text\n");
+    save(SaveAs("report"));
+    EXPECT_EQ(BytesOf(base + "/data/report"), " text\n");
     EXPECT_EQ(dialogs.shown.size(), 4U); // no message among them
 }
 
@@ -142,48 +142,48 @@ TEST_F(SaveFrame, EndsSilentlyOnWhatIsNoRegularFileAndWorksAgain)
 {
     ASSERT_EQ(mkfifo(file("pipe").toLocal8Bit(), 0600), 0);
     for (const QString& bad : {file("pipe"), QString("/dev/full"), QString("/dev/null")})
-        save(saveAs(bad));
+        save(SaveAs(bad));
     EXPECT_FALSE(ReportFile.isOpen());
-    save(saveAs("report"));
-    EXPECT_EQ(bytesOf(base + "/data/report"), " text\n");
+    save(SaveAs("report"));
+    EXPECT_EQ(BytesOf(base + "/data/report"), " text\n");
     EXPECT_EQ(dialogs.shown.size(), 4U); // no message among them
 }
 
 TEST_F(SaveFrame, FollowsALinkThatTheUserChooses)
 {
     ASSERT_TRUE(QFile::link(file("target"), file("link")));
-    save(saveAs(file("link")));
-    EXPECT_EQ(bytesOf(file("target")), " text\n");
+    save(SaveAs(file("link")));
+    EXPECT_EQ(BytesOf(file("target")), " text\n");
     EXPECT_TRUE(QFileInfo(file("link")).isSymLink());
 }
 
 TEST_F(SaveFrame, StaysOpenAfterAFullDiskSoThatLaterSavesEndSilently)
 {
-    saveFailing(saveAs("first"), [](ReportWriter& report) {
+    saveFailing(SaveAs("first"), [](ReportWriter& report) {
         const FullDisk disk;
         report.heading("text");
     });
     EXPECT_TRUE(ReportFile.isOpen());
-    save(saveAs("report"));
-    EXPECT_EQ(bytesOf(base + "/data/report"), "(none)");
+    save(SaveAs("report"));
+    EXPECT_EQ(BytesOf(base + "/data/report"), "(none)");
     EXPECT_EQ(dialogs.shown.size(), 2U);
 }
 
 TEST_F(SaveFrame, StaysOpenAfterAFailingReportWithTheLinesBeforeTheFailure)
 {
-    saveFailing(saveAs("first"), [](ReportWriter& report) {
+    saveFailing(SaveAs("first"), [](ReportWriter& report) {
         report.heading("before");
         Raise(ErrorNumber::TypeMismatch);
     });
-    EXPECT_EQ(bytesOf(base + "/data/first"), " before\n");
+    EXPECT_EQ(BytesOf(base + "/data/first"), " before\n");
     EXPECT_TRUE(ReportFile.isOpen());
-    save(saveAs("second"));
-    EXPECT_EQ(bytesOf(base + "/data/second"), "(none)");
+    save(SaveAs("second"));
+    EXPECT_EQ(BytesOf(base + "/data/second"), "(none)");
 }
 
 TEST_F(SaveFrame, EndsSilentlyWhateverTheFailure)
 {
-    saveFailing(saveAs("report"), [](ReportWriter&) {
+    saveFailing(SaveAs("report"), [](ReportWriter&) {
         UnitSystem = 7; // beyond every table
         UnitLabel(TempUnit);
     });

@@ -58,7 +58,10 @@ protected:
 
     void cancelVolume(const std::string& button)
     {
-        user.inDialog("cfmForm", [this] { user.click("btnCancel"); });
+        user.inDialog("cfmForm", [this] {
+            offeredVolume = user.text("txtCFMinput");
+            user.click("btnCancel");
+        });
         user.click(button);
     }
 
@@ -119,6 +122,29 @@ protected:
         EXPECT_EQ(fore(label), QColor(0, 0, 0));
     }
 
+    /// The items of the state that every calculator saves.
+    static void expectStateIn(const AirSnapshot& saved)
+    {
+        EXPECT_EQ(saved.RH, StatePoint.RH.asSingle());
+        EXPECT_EQ(saved.W, StatePoint.W.asSingle());
+        EXPECT_EQ(saved.SpVol, StatePoint.SpVol.asSingle());
+        EXPECT_EQ(saved.h, StatePoint.h);
+        EXPECT_EQ(saved.Twb, StatePoint.Twb.asSingle());
+        EXPECT_EQ(saved.Tdb, StatePoint.Tdb);
+        EXPECT_EQ(saved.P, StatePoint.P.asSingle());
+    }
+
+    /// The same and the items that the mixed air leaves out.
+    static void expectFullStateIn(const AirSnapshot& saved)
+    {
+        expectStateIn(saved);
+        EXPECT_EQ(saved.Grains, StatePoint.Grains.asSingle());
+        EXPECT_EQ(saved.Mu, StatePoint.Mu.asSingle());
+        EXPECT_EQ(saved.Pw, StatePoint.Pw.asSingle());
+        EXPECT_EQ(saved.Pws, StatePoint.Pws.asSingle());
+        EXPECT_EQ(saved.Ws, StatePoint.Ws.asSingle());
+    }
+
     /// What has the focus once a dialog that has just come up is the active window.
     std::string focusAtOpening()
     {
@@ -165,10 +191,18 @@ protected:
         ReportsBase = [] { return reportsFolder; };
         QFile file(folder.filePath("report"));
         user.inDialog("SaveDialog", [&file] {
-            saveAs(file.fileName())(*qobject_cast<QDialog*>(QApplication::activeModalWidget()));
+            SaveAs(file.fileName())(*qobject_cast<QDialog*>(QApplication::activeModalWidget()));
         });
         user.choose("mnuSave");
         return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(none)";
+    }
+
+    /// Saves the report and looks for texts in it.
+    void expectInReport(const Names& texts)
+    {
+        const std::string report = savedReport();
+        for (const std::string& text : texts)
+            EXPECT_NE(report.find(text), std::string::npos) << text << " is not in\n" << report;
     }
 
     static inline std::string reportsFolder;

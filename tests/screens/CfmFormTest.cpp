@@ -22,6 +22,16 @@ protected:
         user.inDialog("cfmForm", std::move(actions));
         user.click(button);
     }
+
+    /// Types without a click into the field.
+    void expectReplacedByTyping()
+    {
+        inVolume("btnSaveOSA", [this] {
+            user.keys("5000");
+            user.click("btnOK");
+        });
+        EXPECT_EQ(MixedOutsideAir.AirVolume, 5000.0F);
+    }
 };
 
 TEST_F(AirVolumeDialog, AsksForTheVolumeInTheMiddleOfTheScreen)
@@ -29,10 +39,10 @@ TEST_F(AirVolumeDialog, AsksForTheVolumeInTheMiddleOfTheScreen)
     openWithAState();
     inVolume("btnSaveOSA", [this] {
         EXPECT_EQ(user.title(), "Air Volume Input");
-        EXPECT_EQ(user.text("Label1"), "Enter the Air Volume:");
-        EXPECT_EQ(user.text("label2"), " CFM ");
-        EXPECT_EQ(user.text("btnOK"), "OK");
-        EXPECT_EQ(user.text("btnCancel"), "Cancel");
+        expectCaptions({{"Label1", "Enter the Air Volume:"},
+                        {"label2", " CFM "},
+                        {"btnOK", "OK"},
+                        {"btnCancel", "Cancel"}});
         EXPECT_EQ(user.menuEntry("mnuHelp")->text(), "&Help");
         EXPECT_EQ(user.menuEntry("mnuSearch")->text(), "&Search for Help on ...");
         EXPECT_EQ(user.focus(), "txtCFMinput");
@@ -56,10 +66,7 @@ TEST_F(AirVolumeDialog, AsksForCubicMetersInMetric)
 TEST_F(AirVolumeDialog, LeavesTheTextAsItWasTyped)
 {
     openWithAState();
-    inVolume("btnSaveOSA", [this] {
-        user.type("txtCFMinput", "1,000.50");
-        user.click("btnOK");
-    });
+    save("btnSaveOSA", "1,000.50");
     EXPECT_EQ(user.text("txtcfm1"), "1,000.50");
     EXPECT_EQ(AirVolume.kind(), NumberKind::Text);
     EXPECT_EQ(MixedOutsideAir.AirVolume, 1000.5F);
@@ -74,10 +81,7 @@ TEST_F(AirVolumeDialog, GivesTheSameAnswerForAnEmptyFieldAndForCancel)
     });
     EXPECT_EQ(AirVolume.kind(), NumberKind::Int16);
     EXPECT_EQ(AirVolume, 0.0);
-    inVolume("btnSaveOSA", [this] {
-        user.type("txtCFMinput", "");
-        user.click("btnOK");
-    });
+    save("btnSaveOSA", "");
     EXPECT_EQ(AirVolume.kind(), NumberKind::Int16);
     EXPECT_EQ(AirVolume, 0.0);
 }
@@ -96,23 +100,15 @@ TEST_F(AirVolumeDialog, OffersItsTextAgain)
 {
     openWithAState();
     save("btnSaveOSA", "1200");
-    std::string offered;
-    inVolume("btnSaveOSA", [&] {
-        offered = user.text("txtCFMinput");
-        user.click("btnCancel");
-    });
-    EXPECT_EQ(offered, "1200");
+    cancelSave("btnSaveOSA");
+    EXPECT_EQ(offeredVolume, "1200");
 }
 
 TEST_F(AirVolumeDialog, ReplacesTheOfferedTextByTyping)
 {
     openWithAState();
     save("btnSaveOSA", "1000");
-    inVolume("btnSaveOSA", [this] {
-        user.keys("5000");
-        user.click("btnOK");
-    });
-    EXPECT_EQ(MixedOutsideAir.AirVolume, 5000.0F);
+    expectReplacedByTyping();
 }
 
 TEST_F(AirVolumeDialog, ReplacesTheOfferedReturnVolumeByTyping)
@@ -120,11 +116,7 @@ TEST_F(AirVolumeDialog, ReplacesTheOfferedReturnVolumeByTyping)
     openWithAState();
     save("btnRA", "3000");
     save("btnRA", "3500");
-    inVolume("btnSaveOSA", [this] {
-        user.keys("5000");
-        user.click("btnOK");
-    });
-    EXPECT_EQ(MixedOutsideAir.AirVolume, 5000.0F);
+    expectReplacedByTyping();
 }
 
 TEST_F(AirVolumeDialog, OffersTheReturnVolumeInPlaceOfItsTextOnceItIsSet)
@@ -132,12 +124,8 @@ TEST_F(AirVolumeDialog, OffersTheReturnVolumeInPlaceOfItsTextOnceItIsSet)
     openWithAState();
     save("btnRA", "3000");
     save("btnRA", "3500"); // showing it sets the volume that is offered from now on
-    std::string offered;
-    inVolume("btnSaveOSA", [&] {
-        offered = user.text("txtCFMinput");
-        user.click("btnCancel");
-    });
-    EXPECT_EQ(offered, "3000");
+    cancelSave("btnSaveOSA");
+    EXPECT_EQ(offeredVolume, "3000");
 }
 
 TEST_F(AirVolumeDialog, LeavesTheVolumeAloneByItsCloseBoxAndComesBackEmpty)
@@ -150,10 +138,7 @@ TEST_F(AirVolumeDialog, LeavesTheVolumeAloneByItsCloseBoxAndComesBackEmpty)
     });
     EXPECT_FALSE(isLoaded<cfmForm>());
     EXPECT_EQ(MixedOutsideAir.AirVolume, 1200.0F) << "saved with the previous volume";
-    std::string offered = "?";
-    inVolume("btnSaveOSA", [&] {
-        offered = user.text("txtCFMinput");
-        user.click("btnCancel");
-    });
-    EXPECT_EQ(offered, "");
+    offeredVolume = "?";
+    cancelSave("btnSaveOSA");
+    EXPECT_EQ(offeredVolume, "");
 }

@@ -38,20 +38,16 @@ TEST_F(CoolingSummary, ShowsItsCaptions)
     openWithLeavingAir();
     inSummary([this] {
         EXPECT_EQ(user.title(), " Cooling Load Summary - (English Units)");
-        const std::pair<const char*, const char*> captions[] = {
-            {"Label2", "Air Volume:"},
-            {"lblcfm1", " CFM "},
-            {"Label1", "Cooling load summary:"},
-            {"lblBTU(1)", " BTU Sensible "},
-            {"lblBTU(2)", " BTU Latent "},
-            {"lblBTU(0)", " BTU Total "},
-            {"Label3", " @ 1.08 BTU per CFM deg F "},
-            {"Label4", "+"},
-            {"Label5", "="},
-            {"Command1", "OK"},
-        };
-        for (const auto& [name, caption] : captions)
-            EXPECT_EQ(user.text(name), caption) << name;
+        expectCaptions({{"Label2", "Air Volume:"},
+                        {"lblcfm1", " CFM "},
+                        {"Label1", "Cooling load summary:"},
+                        {"lblBTU(1)", " BTU Sensible "},
+                        {"lblBTU(2)", " BTU Latent "},
+                        {"lblBTU(0)", " BTU Total "},
+                        {"Label3", " @ 1.08 BTU per CFM deg F "},
+                        {"Label4", "+"},
+                        {"Label5", "="},
+                        {"Command1", "OK"}});
     });
 }
 
@@ -61,24 +57,20 @@ TEST_F(CoolingSummary, ShowsItsMetricCaptions)
     setLeaving("20");
     inSummary([this] {
         EXPECT_EQ(user.title(), " Cooling Load Summary - (Metric / SI Units)");
-        EXPECT_EQ(user.text("lblcfm1"), " cubic meter per hour ");
-        EXPECT_EQ(user.text("lblBTU(1)"), " kW Sensible ");
-        EXPECT_EQ(user.text("lblBTU(2)"), " kW Latent ");
-        EXPECT_EQ(user.text("lblBTU(0)"), " kW Total ");
-        EXPECT_EQ(user.text("Label3"), " @ 1.2072 kWh /m3 deg C ");
+        expectCaptions({{"lblcfm1", " cubic meter per hour "},
+                        {"lblBTU(1)", " kW Sensible "},
+                        {"lblBTU(2)", " kW Latent "},
+                        {"lblBTU(0)", " kW Total "},
+                        {"Label3", " @ 1.2072 kWh /m3 deg C "}});
     });
 }
 
 TEST_F(CoolingSummary, StandsAQuarterDownInTheMiddleOfTheScreenOnLightGrey)
 {
     openWithLeavingAir();
-    inSummary([] {
-        const QWidget* const window = User::findWindow("CoolingLoad3");
-        const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
-        EXPECT_EQ(window->x(), (screen.width() - window->width()) / 2);
-        EXPECT_EQ(window->y(), (screen.height() - window->height()) / 4);
-        const QColor back =
-            window->findChild<QWidget*>("Label1")->parentWidget()->palette().color(QPalette::Window);
+    inSummary([this] {
+        expectAQuarterDownInTheMiddle();
+        const QColor back = user.widget("Label1")->parentWidget()->palette().color(QPalette::Window);
         EXPECT_EQ(back.red(), back.green());
         EXPECT_EQ(back.red(), back.blue());
         EXPECT_GE(back.red(), 192);

@@ -18,13 +18,42 @@ protected:
     void save(const std::string& button, const std::string& volume) { answerVolume(button, volume); }
     void cancelSave(const std::string& button) { cancelVolume(button); }
 
-    /// 1000 cfm of outside air at 95 deg F and 3000 cfm of return air at 75 deg F.
+    /// Air at 95 deg F or 35 deg C.
+    void calculateOutsideAir() { calculate(IsMetric() ? "35" : "95", "txtRH", "40"); }
+    /// Air at 75 deg F or 24 deg C.
+    void calculateReturnAir() { calculate(IsMetric() ? "24" : "75", "txtRH", "50"); }
+
+    void saveOutsideAir(const std::string& volume = "1000")
+    {
+        calculateOutsideAir();
+        save("btnSaveOSA", volume);
+    }
+    void saveReturnAir(const std::string& volume = "3000")
+    {
+        calculateReturnAir();
+        save("btnRA", volume);
+    }
     void saveBothStreams()
     {
-        calculate("95", "txtRH", "40");
-        save("btnSaveOSA", "1000");
-        calculate("75", "txtRH", "50");
-        save("btnRA", "3000");
+        saveOutsideAir(IsMetric() ? "500" : "1000");
+        saveReturnAir();
+    }
+
+    void mixBothStreams(bool metric = false)
+    {
+        open(metric);
+        saveBothStreams();
+        user.click("btnMixedAir");
+    }
+
+    /// Return air, and outside air without a volume.
+    void mixReturnAirAlone()
+    {
+        open();
+        saveReturnAir();
+        calculateOutsideAir();
+        cancelSave("btnSaveOSA");
+        user.click("btnMixedAir");
     }
 
     void expectButtons(bool calculateOn, bool savesOn, bool mixOn)

@@ -22,8 +22,7 @@ TEST_F(MixedAirMixing, SaysThatVolumesAreMissing)
 TEST_F(MixedAirMixing, SaysNothingWhereOneStreamIsMissing)
 {
     open();
-    calculate("95", "txtRH", "40");
-    save("btnSaveOSA", "1000");
+    saveOutsideAir();
     user.click("btnMixedAir");
     EXPECT_TRUE(user.messages.empty());
     EXPECT_EQ(user.window(), "MixedAir");
@@ -34,9 +33,7 @@ TEST_F(MixedAirMixing, SaysNothingWhereOneStreamIsMissing)
 
 TEST_F(MixedAirMixing, MixesTheTwoStreams)
 {
-    open();
-    saveBothStreams();
-    user.click("btnMixedAir");
+    mixBothStreams();
     EXPECT_EQ(user.window(), "Answers1");
     EXPECT_EQ(MixedResultAir.AirVolume, 4000.0F);
     // The denser return air weighs more, so the mixture lies nearer to it than the plain mean of 80.
@@ -80,12 +77,7 @@ TEST_F(MixedAirMixing, MixesEqualAirToTheSameAirAndTwiceTheVolume)
 
 TEST_F(MixedAirMixing, MixesToTheReturnAirWhereTheOutsideAirHasNoVolume)
 {
-    open();
-    calculate("75", "txtRH", "50");
-    save("btnRA", "3000");
-    calculate("95", "txtRH", "40");
-    cancelSave("btnSaveOSA");
-    user.click("btnMixedAir");
+    mixReturnAirAlone();
     EXPECT_EQ(MixedResultAir.AirVolume, 3000.0F);
     EXPECT_NEAR(MixedResultAir.Tdb, 75.0, 1e-4);
 }
@@ -112,8 +104,7 @@ TEST_F(MixedAirMixing, GoesOnWithAMixtureAboveSaturation)
 TEST_F(MixedAirMixing, LiesNearerToTheColderStreamAtEqualVolumes)
 {
     open();
-    calculate("95", "txtRH", "40");
-    save("btnSaveOSA", "1000");
+    saveOutsideAir();
     calculate("50", "txtRH", "50");
     save("btnRA", "1000");
     user.click("btnMixedAir");

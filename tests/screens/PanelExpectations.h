@@ -35,52 +35,11 @@ using ButtonOutcome = std::string;
 
 inline const std::vector<std::string> allItems{"txtTwb", "txttd", "txtRH", "txtW", "txtGrains"};
 
-/// What a user sees on one of the five calculators with an air-state panel. Written out by hand: taken from
-/// PanelRules.h, it would follow every mistake there. A row names what isn't as on most of the five.
-struct PanelExpectation
-{
-    using NamesAndCaptions = std::vector<std::pair<std::string, std::string>>;
-
-    std::string form;
-    std::string menuButton; ///< of the main menu
-    bool (*isLoaded)();
-
-    TextByUnits title;
-    NamesAndCaptions
-        labels; ///< dry bulb, pressure, the five items in their order on the screen, the two results
-    std::string metricHumidityUnit;
-    NamesAndCaptions frames;
-    NamesAndCaptions buttons; ///< from the top
-
-    std::string ownMenu{}; ///< hidden, before the help
-    std::string saveCaption = "&Save Results to File";
-    std::string fileSeparator;
-    std::string helpEntry;
-    std::string searchCaption;
-
-    bool clearsState = true;
-    bool makesFolderCurrent = false;
-    bool emptiesDryBulbAtClick = false;
-    bool hasEntryShortcuts = false; ///< Enter in the dry bulb, the mouse going down on two items
-    bool limitsMetricDryBulb = true;
-    bool discardsTypedGrains = false;
-    std::vector<std::string> itemsWithChangeHandler = allItems;
-    ExpectedClip wetBulbClip;
-    ExpectedClip dewPointClip;
-
-    ButtonOutcome onChange;
-    ButtonOutcome onClick;
-    ButtonOutcome whereRefused;
-    ButtonOutcome afterCalculation;
-    ButtonOutcome afterTooHighRatio; ///< no result is written then, so that no field changes
-    std::string focusAfterCalculation;
-};
-
-inline void PrintTo(const PanelExpectation& panel, std::ostream* out) { *out << panel.form; }
+using NamesAndCaptions = std::vector<std::pair<std::string, std::string>>;
 
 inline const std::string enterOneItem = "Enter One of These 5 Items, Click \"Calculate Properties\"";
 
-inline const PanelExpectation::NamesAndCaptions plainPanelLabels{
+inline const NamesAndCaptions plainPanelLabels{
     {"lblTdb1", " Dry Bulb Temp"},         {"lblP1", " Pressure"},
     {"lblTwb1", " Wet Bulb Temp"},         {"lblDewPt1", " Dew Point Temp"},
     {"lblRH1", " Relative Humidity"},      {"lblW1", " Humidity ratio, W"},
@@ -91,13 +50,52 @@ inline const ExpectedClip hundredthBelow{0.01, 0.01, "69.99", "19.99"};
 inline const ExpectedClip tenthBelow{0.1, 0.1, "69.9", "19.9"};
 inline const ExpectedClip tenthOrTwentiethBelow{0.1, 0.05, "69.9", "19.95"};
 
+/// What a user sees on one of the five calculators with an air-state panel. Written out by hand: taken from
+/// PanelRules.h, it would follow every mistake there. A row names what isn't as on most of the five.
+struct PanelExpectation
+{
+    std::string form;
+    std::string menuButton; ///< of the main menu
+    bool (*isLoaded)();
+
+    TextByUnits title;
+    /// Dry bulb, pressure, the five items in their order on the screen, the two results.
+    NamesAndCaptions labels = plainPanelLabels;
+    std::string metricHumidityUnit = " g moisture/kg dry air";
+    NamesAndCaptions frames;
+    NamesAndCaptions buttons; ///< from the top
+
+    std::string ownMenu{}; ///< hidden, before the help
+    std::string saveCaption = "&Save Results to File";
+    std::string fileSeparator = "mnuFiledash2";
+    std::string helpEntry;
+    std::string searchCaption = "&Search for Help On";
+
+    bool clearsState = true;
+    bool makesFolderCurrent = false;
+    bool emptiesDryBulbAtClick = false;
+    bool hasEntryShortcuts = false; ///< Enter in the dry bulb, the mouse going down on two items
+    bool limitsMetricDryBulb = true;
+    bool discardsTypedGrains = false;
+    std::vector<std::string> itemsWithChangeHandler = allItems;
+    ExpectedClip wetBulbClip = tenthOrTwentiethBelow;
+    ExpectedClip dewPointClip = tenthBelow;
+
+    ButtonOutcome onChange;
+    ButtonOutcome onClick;
+    ButtonOutcome whereRefused;
+    ButtonOutcome afterCalculation;
+    ButtonOutcome afterTooHighRatio; ///< no result is written then, so that no field changes
+    std::string focusAfterCalculation = "btnCALCULATE";
+};
+
+inline void PrintTo(const PanelExpectation& panel, std::ostream* out) { *out << panel.form; }
+
 inline const PanelExpectation panels[] = {
     {.form = "AirPropertiesCalc",
      .menuButton = "btnAirCalc",
      .isLoaded = forms::isLoaded<AirPropertiesCalc>,
      .title = {" Air Properties Calculator - (English Units)", " Air Properties Calculator - (Metric Units)"},
-     .labels = plainPanelLabels,
-     .metricHumidityUnit = " g moisture/kg dry air",
      .frames = {{"Frame5", "Actions:"},
                 {"Frame2", "First Enter Dry Bulb Temperature and Pressure:"},
                 {"Frame1", enterOneItem},
@@ -115,8 +113,7 @@ inline const PanelExpectation panels[] = {
      .onClick = "+",
      .whereRefused = "-",
      .afterCalculation = "+",
-     .afterTooHighRatio = ".",
-     .focusAfterCalculation = "btnCALCULATE"},
+     .afterTooHighRatio = "."},
 
     {.form = "MixedAir",
      .menuButton = "btnMixedAir",
@@ -143,20 +140,15 @@ inline const PanelExpectation panels[] = {
                  {"btnRA", "Save Return Air"},
                  {"btnMixedAir", "Calculate Mixed Air"}},
      .ownMenu = "mnuReview=&Review",
-     .fileSeparator = "mnuFiledash2",
      .helpEntry = "mnuHelpMixedAir=Help for &Mixed Air",
-     .searchCaption = "&Search for Help On",
      .limitsMetricDryBulb = false,
      .discardsTypedGrains = true,
      .itemsWithChangeHandler = {"txtTwb", "txttd"},
-     .wetBulbClip = tenthOrTwentiethBelow,
-     .dewPointClip = tenthBelow,
      .onChange = "+---",
      .onClick = "+---",
      .whereRefused = "-...",
      .afterCalculation = "+++-", // the results change the wet bulb, which turns the mixing off
-     .afterTooHighRatio = ".++.",
-     .focusAfterCalculation = "btnCALCULATE"},
+     .afterTooHighRatio = ".++."},
 
     {.form = "CoolingLoad1",
      .menuButton = "btnCooling",
@@ -198,8 +190,6 @@ inline const PanelExpectation panels[] = {
      .menuButton = "btnHeating",
      .isLoaded = forms::isLoaded<HeatingLoad1>,
      .title = {" Heating Load Calculator - (English Units)", " Heating Load Calculator - (Metric Units)"},
-     .labels = plainPanelLabels,
-     .metricHumidityUnit = " g moisture/kg dry air",
      .frames = {{"Frame5", "Actions:"},
                 {"Frame2", "First Enter Dry Bulb Temperature and Pressure:"},
                 {"Frame1", enterOneItem},
@@ -210,12 +200,8 @@ inline const PanelExpectation panels[] = {
                  {"btnSaveEnteringAir", "Save Entering Air"},
                  {"btnInputLeavingAir", "Input Leaving Air"}},
      .saveCaption = "&Save Data to File",
-     .fileSeparator = "mnuFiledash2",
      .helpEntry = "mnuHelpHeat=Help for &Heating Loads",
-     .searchCaption = "&Search for Help On",
      .emptiesDryBulbAtClick = true,
-     .wetBulbClip = tenthOrTwentiethBelow,
-     .dewPointClip = tenthBelow,
      .onChange = "+..",
      .onClick = "+--",
      .whereRefused = "-..",
@@ -228,19 +214,13 @@ inline const PanelExpectation panels[] = {
      .isLoaded = forms::isLoaded<Humid1>,
      .title = {" Humidification Calculation - (English Units)",
                " Humidification Calculation - (Metric Units)"},
-     .labels = plainPanelLabels,
-     .metricHumidityUnit = " g moisture/kg dry air",
      .frames = {{"Frame5", "Actions :"},
                 {"Frame2", "Enter Outside Air Dry Bulb Temperature and Pressure:"},
                 {"Frame1", enterOneItem},
                 {"Frame3", ""},
                 {"Frame6", "Calculate Outside Air Properties ... then click 'Humidity Desired'"}},
      .buttons = {{"btnCALCULATE", "Calculate Properties"}, {"btnHumidityDesired", "Humidity Desired "}},
-     .fileSeparator = "mnuFiledash2",
      .helpEntry = "mnuHelpHumidity=Help for Humidity",
-     .searchCaption = "&Search for Help On",
-     .wetBulbClip = tenthOrTwentiethBelow,
-     .dewPointClip = tenthBelow,
      .onChange = "+.",
      .onClick = "+-",
      .whereRefused = "-.",

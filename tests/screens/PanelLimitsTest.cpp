@@ -151,7 +151,7 @@ TEST_P(PanelLimits, ClipGrainsThatAreTooFew)
     expectWarning("lblGrains2", " grains clipped at 0.1");
     EXPECT_EQ(user.text("txtGrains"), "0.1");
     if (expected().discardsTypedGrains)
-        return;
+        return; // MixedAirScreen.ThrowsAwayTypedGrainsForTheLastOnes holds what happens to them
     for (const char* grains : {"", "-3", "0.09"}) {
         calculate("70", "txtGrains", grains);
         expectWarning("lblGrains2", " grains clipped at 0.1");

@@ -20,7 +20,7 @@ protected:
     {
         const QString path = folder.filePath("report");
         QFile::remove(path);
-        user.inDialog("SaveDialog", [path] { saveAs(path)(dialog()); });
+        user.inDialog("SaveDialog", [path] { SaveAs(path)(dialog()); });
         user.choose(entry);
         return bytesOf(path);
     }
@@ -30,7 +30,7 @@ protected:
     {
         const QString path = folder.filePath("paper.pdf");
         QFile::remove(path);
-        user.inDialog("PrintDialog", [path] { printTo(path)(dialog()); });
+        user.inDialog("PrintDialog", [path] { PrintToFile(path)(dialog()); });
         user.choose(entry);
         EXPECT_NE(bytesOf(path), "(none)") << "a document was printed";
         return bytesOf(folder.filePath("tempdata/") + QString::fromStdString(temporaryFile));

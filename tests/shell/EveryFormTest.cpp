@@ -129,4 +129,4 @@ TEST_P(EveryForm, HasALabelForEachFieldThatTabReaches)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(InBothModes, EveryForm, testing::ValuesIn(everyFormInBothModes()), nameOf);
+INSTANTIATE_TEST_SUITE_P(InBothModes, EveryForm, testing::ValuesIn(EveryFormInBothModes()), NameOf);

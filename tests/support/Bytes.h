@@ -7,7 +7,7 @@
 #include <stdexcept>
 
 /// The contents of a file. @throws std::runtime_error if it can't be read
-inline QByteArray bytesOf(const QString& path)
+inline QByteArray BytesOf(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))

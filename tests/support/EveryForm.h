@@ -29,27 +29,27 @@ struct ShownForm
 };
 
 template <class F>
-Form& use()
+Form& Use()
 {
     return form<F>();
 }
 
 inline const ShownForm everyForm[] = {
-    {"MainForm", use<MainForm>},
-    {"Settings", use<Settings>},
-    {"About", use<About>},
-    {"AirPropertiesCalc", use<AirPropertiesCalc>},
-    {"MixedAir", use<MixedAir>},
-    {"MixedAirWithVolumes", use<MixedAir>, "Frame4"},
-    {"cfmForm", use<cfmForm>},
-    {"Answers1", use<Answers1>},
-    {"CoolingLoad1", use<CoolingLoad1>},
-    {"CoolingLoad2", use<CoolingLoad2>},
-    {"CoolingLoad3", use<CoolingLoad3>},
-    {"HeatingLoad1", use<HeatingLoad1>},
-    {"HeatingLoad2", use<HeatingLoad2>},
-    {"Humid1", use<Humid1>},
-    {"humid2", use<humid2>},
+    {"MainForm", Use<MainForm>},
+    {"Settings", Use<Settings>},
+    {"About", Use<About>},
+    {"AirPropertiesCalc", Use<AirPropertiesCalc>},
+    {"MixedAir", Use<MixedAir>},
+    {"MixedAirWithVolumes", Use<MixedAir>, "Frame4"},
+    {"cfmForm", Use<cfmForm>},
+    {"Answers1", Use<Answers1>},
+    {"CoolingLoad1", Use<CoolingLoad1>},
+    {"CoolingLoad2", Use<CoolingLoad2>},
+    {"CoolingLoad3", Use<CoolingLoad3>},
+    {"HeatingLoad1", Use<HeatingLoad1>},
+    {"HeatingLoad2", Use<HeatingLoad2>},
+    {"Humid1", Use<Humid1>},
+    {"humid2", Use<humid2>},
 };
 
 struct Case
@@ -58,7 +58,7 @@ struct Case
     bool metric;
 };
 
-inline std::vector<Case> everyFormInBothModes()
+inline std::vector<Case> EveryFormInBothModes()
 {
     std::vector<Case> cases;
     for (const ShownForm& form : everyForm) {
@@ -70,7 +70,7 @@ inline std::vector<Case> everyFormInBothModes()
 
 inline std::ostream& operator<<(std::ostream& out, const Case& shown) { return out << shown.form.name; }
 
-inline std::string nameOf(const testing::TestParamInfo<Case>& info)
+inline std::string NameOf(const testing::TestParamInfo<Case>& info)
 {
     return std::string(info.param.form.name) + (info.param.metric ? "InMetric" : "InEnglish");
 }

@@ -131,7 +131,7 @@ TEST_P(OpenPopup, AModalFormMayBeClosedByItsBox)
     });
     user.click("btnFirst");
     comeToRest();
-    EXPECT_EQ(only({"the caller goes on", "PopupForm is destroyed"}).size(), 2U);
+    EXPECT_EQ(Only({"the caller goes on", "PopupForm is destroyed"}).size(), 2U);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 

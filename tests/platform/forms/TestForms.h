@@ -26,13 +26,13 @@ using namespace forms;
 using Calls = std::vector<std::string>;
 inline Calls calls;
 
-inline Handler recorder(const std::string& what)
+inline Handler Recorder(const std::string& what)
 {
     return [what] { calls.push_back(what); };
 }
 
 /// The recorded calls that a test asks about.
-inline Calls only(std::initializer_list<std::string> asked)
+inline Calls Only(std::initializer_list<std::string> asked)
 {
     Calls found;
     std::ranges::copy_if(calls, std::back_inserter(found),

@@ -12,8 +12,8 @@ protected:
     static FirstScreen& showRecordingScreen()
     {
         FirstScreen& screen = showFirstScreen();
-        screen.txtFirst.onMouseDown(recorder("MouseDown"));
-        screen.txtFirst.onClick(recorder("Click"));
+        screen.txtFirst.onMouseDown(Recorder("MouseDown"));
+        screen.txtFirst.onClick(Recorder("Click"));
         return screen;
     }
 
@@ -105,7 +105,7 @@ TEST_F(FieldClick, DoesNotComeFromTheOtherButtons)
     showRecordingScreen();
     click(Qt::RightButton);
     click(Qt::MiddleButton);
-    EXPECT_EQ(only({"Click"}), Calls{});
+    EXPECT_EQ(Only({"Click"}), Calls{});
 }
 
 TEST_F(FieldClick, DoesNotComeFromADisabledField)

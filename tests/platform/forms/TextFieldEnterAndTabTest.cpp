@@ -91,7 +91,7 @@ TEST_F(FieldEnterAndTab, PressNoDefaultButtonThatTheirHandlerTurnsOn)
 {
     FirstScreen& screen = showPassing();
     screen.setDefaultButton(screen.btnFirst);
-    screen.btnFirst.onClick(recorder("pressed"));
+    screen.btnFirst.onClick(Recorder("pressed"));
     screen.btnFirst.disable();
     screen.txtFirst.onKeyPress([&screen](int& /*key*/) { screen.btnFirst.enable(); });
     user.key(Qt::Key_Return);

@@ -16,13 +16,13 @@ QString source(const QString& name) { return QString(DUNMOOR_TEST_DATA) + "/help
 TEST(ChmFile, HoldsEveryFileAsItWas)
 {
     QStringList files;
-    for (const ChmMember& member : UnpackChm(bytesOf(DUNMOOR_SAMPLE_HELP))) {
+    for (const ChmMember& member : UnpackChm(BytesOf(DUNMOOR_SAMPLE_HELP))) {
         const bool isTable = member.name.startsWith('#') || member.name.startsWith('$') ||
                              member.name.startsWith("::") || member.name.startsWith('_');
         if (isTable || member.name.isEmpty() || member.name.endsWith('/'))
             continue;
         files << member.name;
-        EXPECT_EQ(member.bytes, bytesOf(source(member.name))) << member.name.toStdString();
+        EXPECT_EQ(member.bytes, BytesOf(source(member.name))) << member.name.toStdString();
     }
     files.sort();
     EXPECT_EQ(files, (QStringList{"air.html", "images/chart.png", "index.html", "mixed air.html",
@@ -33,8 +33,8 @@ TEST(ChmFile, UnpacksNothingElse)
 {
     EXPECT_TRUE(UnpackChm({}).isEmpty());
     EXPECT_TRUE(UnpackChm("ITSF").isEmpty());
-    EXPECT_TRUE(UnpackChm(bytesOf(source("images/chart.png"))).isEmpty());
-    const QByteArray sample = bytesOf(DUNMOOR_SAMPLE_HELP);
+    EXPECT_TRUE(UnpackChm(BytesOf(source("images/chart.png"))).isEmpty());
+    const QByteArray sample = BytesOf(DUNMOOR_SAMPLE_HELP);
     EXPECT_TRUE(UnpackChm(sample + QByteArray(largestChmFile, '\0')).isEmpty());
 }
 

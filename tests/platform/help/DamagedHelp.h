@@ -45,7 +45,7 @@ private:
     const HelpBook undamaged{UnpackChm(whole)};
 };
 
-inline DamagedHelp::DamagedHelp(const QString& path) : whole(bytesOf(path)) {}
+inline DamagedHelp::DamagedHelp(const QString& path) : whole(BytesOf(path)) {}
 
 inline long DamagedHelp::mostMemory()
 {

@@ -44,7 +44,7 @@ TEST_F(DamagedHelpTest, IsReadCutOffAnywhere)
 
 TEST_F(DamagedHelpTest, IsReadWithTheBytesThatTellSizesChanged)
 {
-    const QByteArray whole = bytesOf(DUNMOOR_SAMPLE_HELP);
+    const QByteArray whole = BytesOf(DUNMOOR_SAMPLE_HELP);
     for (qsizetype place = 0; place < 0xE0; ++place) { // the headers
         QByteArray bytes = whole;
         bytes[place] = place % 4 == 3 ? '\x7f' : '\xff'; // large, and not negative
@@ -55,7 +55,7 @@ TEST_F(DamagedHelpTest, IsReadWithTheBytesThatTellSizesChanged)
 
 TEST_F(DamagedHelpTest, IsWholeWithoutDamage)
 {
-    damaged.read(bytesOf(DUNMOOR_SAMPLE_HELP));
+    damaged.read(BytesOf(DUNMOOR_SAMPLE_HELP));
     EXPECT_EQ(damaged.readable, 1);
 }
 

@@ -13,7 +13,7 @@ namespace {
 class HelpBookTest : public testing::Test
 {
 protected:
-    const std::shared_ptr<const HelpBook> book = HelpBook::open(bytesOf(DUNMOOR_SAMPLE_HELP));
+    const std::shared_ptr<const HelpBook> book = HelpBook::open(BytesOf(DUNMOOR_SAMPLE_HELP));
 };
 
 TEST_F(HelpBookTest, KnowsItsTitleAndFirstPage)

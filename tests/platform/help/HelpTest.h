@@ -74,7 +74,7 @@ protected:
     template <class Widget>
     static Widget& part(const char* name)
     {
-        return child<Widget>(help(), name);
+        return Child<Widget>(help(), name);
     }
     static HelpPage& page() { return static_cast<HelpPage&>(part<QTextBrowser>("helpPage")); }
     static std::string heading() { return page().toPlainText().section('\n', 0, 0).trimmed().toStdString(); }

@@ -90,9 +90,9 @@ TEST_F(HtmlHelp, SaysWhenAFileIsNoHelpFile)
     expectUnreadable("text.chm");
     write("signature.chm", "ITSF");
     expectUnreadable("signature.chm");
-    write("cut.chm", bytesOf(DUNMOOR_SAMPLE_HELP).first(3000));
+    write("cut.chm", BytesOf(DUNMOOR_SAMPLE_HELP).first(3000));
     expectUnreadable("cut.chm");
-    write("large.chm", bytesOf(DUNMOOR_SAMPLE_HELP) + QByteArray(largestChmFile, '\0'));
+    write("large.chm", BytesOf(DUNMOOR_SAMPLE_HELP) + QByteArray(largestChmFile, '\0'));
     expectUnreadable("large.chm");
 }
 

@@ -103,7 +103,7 @@ void readAndLayOut(const QByteArray& bytes)
 
 TEST_P(DamagedPage, IsReadWithAnyBytesChanged)
 {
-    const QByteArray whole = bytesOf(QString(DUNMOOR_TEST_DATA) + "/help/" + GetParam());
+    const QByteArray whole = BytesOf(QString(DUNMOOR_TEST_DATA) + "/help/" + GetParam());
     std::mt19937 random(3);
     for (int time = 0; time < 100; ++time) {
         QByteArray bytes = whole;

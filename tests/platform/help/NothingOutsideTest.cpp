@@ -35,7 +35,7 @@ protected:
     void TearDown() override
     {
         EXPECT_FALSE(wasRead());
-        bytesOf("secret.css");
+        BytesOf("secret.css");
         EXPECT_TRUE(wasRead()) << "the watch works";
         close(watch);
         HelpTest::TearDown();
