@@ -1,5 +1,6 @@
 """A report that is printed to a queue of the print server is on its paper. The first print goes to the default queue;
-a queue chosen in the dialog stays chosen for the rest of the run."""
+a queue chosen in the dialog stays chosen for the rest of the run. When the print server goes away, even while the dialog is
+open, the program goes on."""
 
 import os
 import subprocess
@@ -60,6 +61,21 @@ def print_three_times(program, server):
     take_paper(server, OTHER)
 
 
+def print_without_server(program, server):
+    dialog = open_print_dialog(program, OTHER)
+    server.end()
+    print_it(program, dialog)
+    program.choose(CALCULATOR, "File", "Print Results")
+    dialog = program.window("Print").get_name()
+    program.find(dialog, "Print to File (PDF)", "combo box")
+    program.keys("Escape")
+    program.gone(dialog)
+    program.type(CALCULATOR, "Dry bulb temperature", "80")
+    program.click(CALCULATOR, "Relative humidity", "text")
+    program.click(CALCULATOR, "Calculate Properties")
+    program.wait_for_text(CALCULATOR, "Wet bulb temperature", "66.7")
+
+
 def main(executable):
     with print_server([DEFAULT, OTHER]) as server, tempfile.TemporaryDirectory() as home:
         os.environ["HOME"] = home
@@ -68,8 +84,9 @@ def main(executable):
             program.wait_until_active("Dunmoor")
             calculate(program)
             print_three_times(program, server)
+            print_without_server(program, server)
             assert leave(program) == 0
-            print("the default queue and a chosen one: the report is on their paper")
+            print("the default queue and a chosen one: the report is on their paper; without a server the program goes on")
         finally:
             program.end()
 

@@ -96,6 +96,7 @@ class PrintServer:
         return self.folder / f"{queue}.pdf"
 
     def end(self):
+        """Can be called again."""
         self.process.send_signal(signal.SIGTERM)
         self.process.wait(timeout=LIMIT)
 

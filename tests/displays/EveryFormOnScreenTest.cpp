@@ -117,4 +117,22 @@ TEST_F(PressureBox, HasAllItsSidesInThisScaling)
     EXPECT_TRUE(hasLine(corner.x() + 8, corner.y() + box->height() - 0.5, false)) << "bottom";
 }
 
+/// The main menu with its chart.
+using MovedWindow = ProgramTest;
+
+TEST_F(MovedWindow, IsPaintedInTheScalingOfEachScreen)
+{
+    start();
+    QWidget* const window = form<MainForm>().window();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
+    for (const QScreen* const screen : QGuiApplication::screens()) {
+        window->move(screen->geometry().topLeft() + QPoint(50, 50));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return window->screen() == screen; }))
+            << screen->name().toStdString();
+        const QWidget* const chart = window->findChild<QWidget*>("Image1");
+        EXPECT_EQ(window->grab(chart->geometry()).devicePixelRatio(), screen->devicePixelRatio());
+        EXPECT_TRUE(chart->isVisible());
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(InBothModes, EveryFormOnScreen, testing::ValuesIn(EveryFormInBothModes()), NameOf);

@@ -2,6 +2,7 @@
 
 #include "tests/reports/PrintFrame.h"
 #include "tests/platform/Pdf.h"
+#include "tests/support/FullDisk.h"
 
 #include <QFileInfo>
 
@@ -51,6 +52,16 @@ TEST_F(PrintFrame, DoesNothingOnCancel)
     EXPECT_FALSE(wasWritten);
     EXPECT_FALSE(QFileInfo::exists(base + "/tempdata"));
     EXPECT_EQ(CurrentPrinter().font().size, 10);
+}
+
+TEST_F(PrintFrame, EndsSilentlyOnAFullDisk)
+{
+    {
+        const FullDisk disk;
+        print(PrintToFile(file("out.pdf")), oneLine("text"));
+    }
+    EXPECT_EQ(TextOf(file("out.pdf")), "");
+    EXPECT_EQ(dialogs.shown.size(), 1U); // no message after it
 }
 
 TEST_F(PrintFrame, LeavesTheLastTemporaryFileOnCancel)

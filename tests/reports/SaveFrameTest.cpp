@@ -169,6 +169,27 @@ TEST_F(SaveFrame, StaysOpenAfterAFullDiskSoThatLaterSavesEndSilently)
     EXPECT_EQ(dialogs.shown.size(), 2U);
 }
 
+TEST_F(SaveFrame, EndsSilentlyWhereTheChosenFolderHasVanished)
+{
+    save([this](QDialog& dialog) {
+        SaveAs(file("report"))(dialog);
+        QDir(file("")).removeRecursively();
+    });
+    EXPECT_EQ(BytesOf(file("report")), "(none)");
+    save(SaveAs("report"));
+    EXPECT_EQ(BytesOf(base + "/data/report"), " text\n");
+}
+
+TEST_F(SaveFrame, WorksWhereTheWorkingFolderHasVanished)
+{
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(file(""));
+    QDir(file("")).removeRecursively();
+    save(SaveAs(base + "/report"));
+    QDir::setCurrent(before);
+    EXPECT_EQ(BytesOf(base + "/report"), " text\n");
+}
+
 TEST_F(SaveFrame, StaysOpenAfterAFailingReportWithTheLinesBeforeTheFailure)
 {
     saveFailing(SaveAs("first"), [](ReportWriter& report) {
