@@ -3,9 +3,9 @@
 // alike.
 
 #include "bench/Quantiles.h"
-#include "core/CoreMessage.h"
 #include "core/MainMod.h"
 #include "core/Relations.h"
+#include "core/Solvers.h"
 #include "core/WetBulbSearch.h"
 #include "tests/core/PlainForms.h"
 

@@ -4,13 +4,10 @@
 // loads and humidification have their own headers.
 
 #include "core/AirSnapshot.h"
-#include "core/CoreMessage.h"
 #include "core/LastRuns.h"
-#include "core/NumberLocale.h"
 #include "core/NumberPicture.h"
 #include "core/NumberText.h"
 #include "core/Relations.h"
-#include "core/RoundToScale.h"
 #include "core/RunTimeError.h"
 #include "core/Single.h"
 #include "core/Solvers.h"

@@ -1,6 +1,6 @@
 #include "reports/Reports.h"
 
-#include "core/HeatingLoads.h"
+#include "core/CoilLoads.h"
 #include "core/NumberPicture.h"
 #include "core/UnitTables.h"
 

@@ -1,6 +1,6 @@
 #include "screens/CoolingLoad1.h"
 
-#include "core/CoolingLoads.h"
+#include "core/CoilLoads.h"
 #include "platform/forms/Forms.h"
 #include "screens/CoolingLoad2.h"
 #include "screens/CoolingLoad3.h"

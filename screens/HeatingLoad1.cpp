@@ -1,6 +1,6 @@
 #include "screens/HeatingLoad1.h"
 
-#include "core/HeatingLoads.h"
+#include "core/CoilLoads.h"
 #include "platform/forms/Forms.h"
 #include "screens/HeatingLoad2.h"
 #include "screens/cfmForm.h"

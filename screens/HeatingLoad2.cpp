@@ -1,6 +1,6 @@
 #include "screens/HeatingLoad2.h"
 
-#include "core/HeatingLoads.h"
+#include "core/CoilLoads.h"
 #include "core/MainMod.h"
 #include "platform/forms/Forms.h"
 #include "screens/HeatingLoad1.h"
