@@ -1,6 +1,5 @@
 #include "core/CoilLoads.h"
 
-#include "core/AirSnapshot.h"
 #include "core/Relations.h"
 
 #include <span>

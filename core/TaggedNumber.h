@@ -3,7 +3,6 @@
 #include "core/Single.h"
 
 #include <compare>
-#include <concepts>
 #include <string>
 
 // GCC warns that the enumerator Single shadows the type, but it is only visible as NumberKind::Single.
@@ -32,12 +31,6 @@ public:
     TaggedNumber(std::string text);
     TaggedNumber(const char* text) : TaggedNumber(std::string(text)) {}
     TaggedNumber(bool) = delete; ///< the calculator's booleans are 16-bit integers
-
-    template <std::same_as<bool> Boolean>
-    TaggedNumber& operator=(Boolean value) = delete;
-    TaggedNumber& operator=(int value) { return *this = TaggedNumber(value); }
-    TaggedNumber& operator=(Single value) { return hold(NumberKind::Single, static_cast<double>(value)); }
-    TaggedNumber& operator=(double value) { return hold(NumberKind::Double, value); }
 
     NumberKind kind() const { return heldKind; }
     const std::string& text() const { return heldText; } ///< the text as assigned; empty for a number
@@ -68,14 +61,6 @@ public:
     friend bool operator==(const TaggedNumber& left, double right) { return left.asDouble() == right; }
 
 private:
-    TaggedNumber& hold(NumberKind kind, double value)
-    {
-        heldKind = kind;
-        number = value;
-        heldText.clear();
-        return *this;
-    }
-
     double numberInText() const;
 
     NumberKind heldKind = NumberKind::Int16;

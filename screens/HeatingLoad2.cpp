@@ -2,9 +2,7 @@
 
 #include "core/CoilLoads.h"
 #include "core/MainMod.h"
-#include "platform/forms/Forms.h"
 #include "screens/HeatingLoad1.h"
-#include "screens/Help.h"
 
 using namespace forms;
 

@@ -31,8 +31,7 @@ void RunHandler(Form& form, const Handler& handler) noexcept
 
 void EndProcess()
 {
-    QCoreApplication::exit(
-        EXIT_SUCCESS); // quit() would close the forms still shown, and one of them could refuse
+    QCoreApplication::exit(EXIT_SUCCESS); // quit() would close the shown forms, and one could refuse
 }
 
 } // namespace forms
