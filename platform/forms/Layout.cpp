@@ -1,4 +1,5 @@
 #include "platform/forms/Layout.h"
+
 namespace forms {
 
 void AddCells(Grid& grid, int row, std::initializer_list<const Control*> cells)
