@@ -81,8 +81,10 @@ Answers1::TableRow::TableRow(Answers1& form, const TableQuantity& itsQuantity)
 void Answers1::TableRow::hide()
 {
     caption.setCaption(" ");
-    for (Label* label : {&caption, &unit, &cells[0], &cells[1], &cells[2]})
-        label->hide();
+    caption.hide();
+    unit.hide();
+    for (Label& cell : cells)
+        cell.hide();
 }
 
 std::deque<Answers1::TableRow> Answers1::makeRows()

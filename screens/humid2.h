@@ -28,8 +28,14 @@ private:
 
     void btnCalcHumid_Click();
     void btnOK_Click() { Hide(); }
-    void mnuPrint_Click() { PrintHumidity(*this, [this] { return texts(); }); }
-    void mnuSave_Click() { SaveHumidity(*this, [this] { return texts(); }); }
+    void mnuPrint_Click()
+    {
+        PrintHumidity(*this, [this] { return texts(); });
+    }
+    void mnuSave_Click()
+    {
+        SaveHumidity(*this, [this] { return texts(); });
+    }
     void mnuExit_Click() { Unload(); }
     void mnuMain_Click() { Unload(); } // intentional: returns to the outside air, despite its caption
     void mnuHumid2Help_Click() { OpenHelp(*this, HelpTopic::Humidification); }
