@@ -4,8 +4,8 @@
 
 #include "bench/Quantiles.h"
 #include "bench/Sample.h"
-#include "core/CoreMessage.h"
 #include "core/Relations.h"
+#include "core/Solvers.h"
 #include "core/WetBulbSearch.h"
 #include "tests/core/PlainForms.h"
 

@@ -3,7 +3,7 @@
 
 #include "table/Tables.h"
 #include "bench/Quantiles.h"
-#include "core/NumberLocale.h"
+#include "core/NumberText.h"
 #include "core/Solvers.h"
 #include "table/Properties.h"
 

@@ -5,60 +5,44 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <string_view>
 
 namespace {
 
 constexpr int DoubleDigits = 15;
 constexpr std::size_t ScientificLength = 32; // sign, digits, point and exponent of any double at 15 digits
 
-} // namespace
-
-Decimal Decimal::of(double value)
+void dropTrailingZeros(Decimal& value)
 {
-    std::array<char, ScientificLength> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), RequireFinite(value),
-                                   std::chars_format::scientific, DoubleDigits - 1);
-    return fromScientific({text.data(), end.ptr});
+    value.digits.erase(value.digits.find_last_not_of('0') + 1);
+    if (value.digits.empty())
+        value = {};
 }
 
-Decimal Decimal::shortestOf(Single value)
+/// The digits of a number. Without a precision, the shortest that read back as the same number.
+template <class Number, class... Precision>
+Decimal decimalOf(Number value, Precision... precision)
 {
     RequireFinite(value);
-    std::array<char, ScientificLength> text{};
-    const auto end =
-        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::scientific);
-    return fromScientific({text.data(), end.ptr});
-}
-
-/// Parses "-d.ddde-xx".
-Decimal Decimal::fromScientific(std::string_view text)
-{
+    std::array<char, ScientificLength> buffer{}; // then "-d.ddde-xx"
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                   std::chars_format::scientific, precision...);
+    const std::string text(buffer.data(), end.ptr);
+    const std::size_t exponentAt = text.find('e');
     Decimal result;
     result.negative = text.front() == '-';
-    const std::size_t exponentAt = text.find('e');
+    result.point = std::stoi(text.substr(exponentAt + 1)) + 1;
     for (const char c : text.substr(0, exponentAt)) {
         if (c >= '0' && c <= '9')
             result.digits += c;
     }
-
-    std::string_view exponentText = text.substr(exponentAt + 1);
-    if (exponentText.front() == '+')
-        exponentText.remove_prefix(1);
-    int exponent = 0;
-    std::from_chars(exponentText.data(), exponentText.data() + exponentText.size(), exponent);
-    result.point = exponent + 1;
-
-    result.dropTrailingZeros();
+    dropTrailingZeros(result);
     return result;
 }
 
-void Decimal::dropTrailingZeros()
-{
-    digits.erase(digits.find_last_not_of('0') + 1);
-    if (digits.empty())
-        *this = {};
-}
+} // namespace
+
+Decimal Decimal::of(double value) { return decimalOf(value, DoubleDigits - 1); }
+Decimal Decimal::shortestOf(Single value) { return decimalOf(value); }
 
 void Decimal::roundToDigits(int count)
 {
@@ -80,7 +64,7 @@ void Decimal::roundToDigits(int count)
             ++digits.back();
         }
     }
-    dropTrailingZeros();
+    dropTrailingZeros(*this);
 }
 
 std::string Decimal::integerDigits() const

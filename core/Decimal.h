@@ -33,8 +33,4 @@ struct Decimal
 
     /// The digits after the decimal point; empty for an integer.
     std::string fractionDigits() const;
-
-private:
-    void dropTrailingZeros();
-    static Decimal fromScientific(std::string_view text);
 };

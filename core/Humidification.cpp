@@ -1,6 +1,5 @@
 #include "core/Humidification.h"
 
-#include "core/AirSnapshot.h"
 #include "core/Relations.h"
 #include "core/StatePoint.h"
 #include "core/WetBulbSearch.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/AirSnapshot.h"
+#include "core/StatePoint.h"
 
 #include <array>
 #include <initializer_list>

@@ -3,16 +3,10 @@
 // Includes the calculator's state, the relations of moist air, the solvers, and numbers as text. Mixing,
 // loads and humidification have their own headers.
 
-#include "core/AirSnapshot.h"
-#include "core/CoreMessage.h"
 #include "core/LastRuns.h"
-#include "core/NumberLocale.h"
 #include "core/NumberPicture.h"
 #include "core/NumberText.h"
 #include "core/Relations.h"
-#include "core/RoundToScale.h"
-#include "core/RunTimeError.h"
-#include "core/Single.h"
 #include "core/Solvers.h"
 #include "core/StatePoint.h"
 #include "core/TaggedNumber.h"

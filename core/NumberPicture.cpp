@@ -1,7 +1,6 @@
 #include "core/NumberPicture.h"
 
 #include "core/Decimal.h"
-#include "core/NumberLocale.h"
 #include "core/NumberText.h"
 
 #include <optional>
@@ -103,10 +102,8 @@ std::string written(Decimal value, const Picture& picture)
 /// The number in a value; nullopt if it is text that is not a number.
 std::optional<double> numberIn(const TaggedNumber& value)
 {
-    if (value.kind() != NumberKind::Text)
-        return value.asDouble();
     try {
-        return ParseDouble(value.text());
+        return value.asDouble();
     } catch (const RunTimeError&) {
         return std::nullopt;
     }

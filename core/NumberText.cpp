@@ -1,12 +1,11 @@
 #include "core/NumberText.h"
 
 #include "core/Decimal.h"
-#include "core/NumberLocale.h"
 #include "core/TaggedNumber.h"
 
 #include <algorithm>
 #include <charconv>
-#include <cstdint>
+#include <sstream>
 #include <system_error>
 
 namespace {
@@ -35,7 +34,7 @@ public:
     /// @throws RunTimeError type mismatch
     std::string plainSpelling()
     {
-        takeSign(true);
+        takeSign();
         const bool integer = takeIntegerPart();
         const bool fraction = takeFraction();
         if (!integer && !fraction)
@@ -56,12 +55,12 @@ private:
         return true;
     }
 
-    void takeSign(bool keepMinus)
+    void takeSign()
     {
         if (take("-"))
             spelling += '-';
-        else if (take("+") && !keepMinus)
-            spelling += '+';
+        else
+            take("+");
     }
 
     bool takeDigits()
@@ -97,7 +96,7 @@ private:
         if (!take("e") && !take("E"))
             return;
         spelling += 'e';
-        takeSign(false);
+        takeSign();
         if (!takeDigits())
             Raise(ErrorNumber::TypeMismatch);
     }
@@ -105,25 +104,6 @@ private:
     std::string_view unread;
     std::string spelling;
 };
-
-/// For a plain number outside the range of a double: true if it is too small, false if it is too large.
-bool isTooSmall(std::string_view plain)
-{
-    const std::size_t exponentAt = std::min(plain.find('e'), plain.size());
-    const std::string_view mantissa = plain.substr(0, exponentAt);
-    const auto pointAt = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
-    const auto firstDigitAt = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
-
-    std::int64_t exponent = 0;
-    if (exponentAt < plain.size()) {
-        const std::string_view text = plain.substr(exponentAt + 1);
-        const char* first = text.data() + (text.front() == '+' ? 1 : 0);
-        const auto result = std::from_chars(first, text.data() + text.size(), exponent);
-        if (result.ec == std::errc::result_out_of_range)
-            return text.front() == '-';
-    }
-    return exponent < firstDigitAt - pointAt; // adding to the exponent could overflow
-}
 
 bool equalsIgnoringCase(std::string_view text, std::string_view lowerCase)
 {
@@ -150,7 +130,7 @@ double ParseDouble(std::string_view text)
     double value = 0.0;
     const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
-        if (!isTooSmall(plain))
+        if (!(std::istringstream(plain) >> value)) // fails for a number too large, not for one too small
             Raise(ErrorNumber::Overflow);
         return 0.0;
     }

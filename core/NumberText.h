@@ -7,6 +7,17 @@
 
 class TaggedNumber;
 
+/// How the user's locale writes numbers. Each member is one UTF-8 character; an empty group separator means
+/// that the locale has none.
+struct NumberLocale
+{
+    std::string decimalPoint = ".";
+    std::string groupSeparator = ",";
+};
+
+/// The current locale, set once at start.
+inline NumberLocale numberLocale;
+
 /// Parses a number in the user's locale: surrounding blanks, a sign, digits with group separators, a decimal
 /// point, an exponent. A number too small for a double becomes 0.
 /// @throws RunTimeError type mismatch for anything else, including empty text; overflow past the largest

@@ -21,7 +21,6 @@ class RunTimeError : public std::exception
 public:
     explicit RunTimeError(ErrorNumber error) : kind(error) {}
 
-    ErrorNumber error() const noexcept { return kind; }
     int number() const noexcept { return static_cast<int>(kind); }
 
     /// The text beside the number in an error report, e.g. "Division by zero".

@@ -1,6 +1,5 @@
 #include "core/Solvers.h"
 
-#include "core/CoreMessage.h"
 #include "core/Relations.h"
 #include "core/StatePoint.h"
 #include "core/WetBulbSearch.h"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 // One solver for each humidity item that a user can enter. The caller sets Tdb, P (psi or Pa) and the item in
 // StatePoint; the solver fills in the rest. Each result is stored at once, so results found before a failure
 // remain. All throw RunTimeError as the relations that they call.
@@ -21,3 +23,7 @@ void SolveFromDewPoint();
 
 /// From RH in percent. Converts it to a fraction and clamps it to between 0.001 and 1.
 void SolveFromRH();
+
+/// Shows the two messages of the solvers, and returns when the user has closed them. The program sets it at
+/// start; the default ignores the message.
+inline void (*ShowCoreMessage)(const std::string& text) = [](const std::string&) {};

@@ -72,3 +72,9 @@ TaggedNumber operator/(const TaggedNumber& left, const TaggedNumber& right)
     return rounded(Quotient(dividend, right.asDouble()),
                    kind == NumberKind::Int16 ? NumberKind::Double : kind);
 }
+
+Single RoundToScale(const TaggedNumber& value, const std::int16_t& scale)
+{
+    const std::int16_t scaled = (value * scale).asInt16();
+    return RoundToSingle(Quotient(scaled, scale));
+}

@@ -3,7 +3,6 @@
 #include "core/Single.h"
 
 #include <compare>
-#include <concepts>
 #include <string>
 
 // GCC warns that the enumerator Single shadows the type, but it is only visible as NumberKind::Single.
@@ -32,12 +31,6 @@ public:
     TaggedNumber(std::string text);
     TaggedNumber(const char* text) : TaggedNumber(std::string(text)) {}
     TaggedNumber(bool) = delete; ///< the calculator's booleans are 16-bit integers
-
-    template <std::same_as<bool> Boolean>
-    TaggedNumber& operator=(Boolean value) = delete;
-    TaggedNumber& operator=(int value) { return *this = TaggedNumber(value); }
-    TaggedNumber& operator=(Single value) { return hold(NumberKind::Single, static_cast<double>(value)); }
-    TaggedNumber& operator=(double value) { return hold(NumberKind::Double, value); }
 
     NumberKind kind() const { return heldKind; }
     const std::string& text() const { return heldText; } ///< the text as assigned; empty for a number
@@ -68,17 +61,14 @@ public:
     friend bool operator==(const TaggedNumber& left, double right) { return left.asDouble() == right; }
 
 private:
-    TaggedNumber& hold(NumberKind kind, double value)
-    {
-        heldKind = kind;
-        number = value;
-        heldText.clear();
-        return *this;
-    }
-
     double numberInText() const;
 
     NumberKind heldKind = NumberKind::Int16;
     double number = 0.0; // holds 16-bit integers and singles exactly
     std::string heldText;
 };
+
+/// Rounds value * scale to a 16-bit integer, halves to even, and divides it by scale. A scale of 10 rounds to
+/// tenths.
+/// @throws RunTimeError overflow if value * scale exceeds 16 bits; division by zero for a scale of 0
+Single RoundToScale(const TaggedNumber& value, const std::int16_t& scale);

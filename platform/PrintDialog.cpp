@@ -14,8 +14,6 @@
 #include <QPrintEngine>
 #include <QStandardPaths>
 
-using namespace forms;
-
 namespace {
 
 std::string upperCase(const std::string& name)
@@ -152,7 +150,7 @@ std::optional<std::string> PrinterToGoOverTo(const std::vector<std::string>& pri
     return last;
 }
 
-bool ShowPrintDialog(const Form& owner)
+bool ShowPrintDialog(const forms::Form& owner)
 {
     AskPrintServer();
     if (!owner.isVisible())

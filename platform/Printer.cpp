@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr double MarginInMillimetres = 15.0;
-
 /// A font of fixed pitch, so that columns align.
 QFont firstFont()
 {
@@ -66,7 +64,7 @@ std::unique_ptr<QPrinter> OpenDevice(const std::string& name)
     }
     device->setDocName(QCoreApplication::applicationName());
     device->setCreator(QCoreApplication::applicationName());
-    constexpr double margin = MarginInMillimetres;
+    constexpr double margin = 15.0; // in millimeters
     device->setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
     return device;
 }

@@ -5,8 +5,6 @@
 #include <QFileDialog>
 #include <QRegularExpression>
 
-using namespace forms;
-
 namespace {
 
 /// The filters in the toolkit's form, "text (pattern)".
@@ -21,7 +19,7 @@ QStringList nameFilters(std::string_view filter)
 
 } // namespace
 
-std::string ShowSaveDialog(const Form& owner, std::string_view filter, const std::string& title,
+std::string ShowSaveDialog(const forms::Form& owner, std::string_view filter, const std::string& title,
                            const std::string& folder)
 {
     QFileDialog dialog(owner.window(), QString::fromStdString(title), QString::fromStdString(folder));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/AirSnapshot.h"
+#include "core/StatePoint.h"
 #include "reports/ReportWriter.h"
 
 inline TaggedNumber AsItIs(const TaggedNumber& value) { return value; }

@@ -1,7 +1,5 @@
 #include "reports/Reports.h"
 
-using namespace forms;
-
 TaggedNumber PrintedFraction(const TaggedNumber& RH) { return RoundToSingle(RH.asSingle() / 100.0); }
 TaggedNumber SavedFraction(const TaggedNumber& RH) { return RH.asDouble() / 100.0; }
 
@@ -13,14 +11,14 @@ void WriteAirPropertiesReport(ReportWriter& report, AirBlock fields, AirBlock::C
     WriteAirBlock(report, fields);
 }
 
-void PrintAirProperties(const Form& owner, const AirBlock& fields)
+void PrintAirProperties(const forms::Form& owner, const AirBlock& fields)
 {
     PrintReport(owner, "Air Properties", "Airprop.txt", [&fields](ReportWriter& report) {
         WriteAirPropertiesReport(report, fields, PrintedFraction);
     });
 }
 
-void SaveAirProperties(const Form& owner, const AirBlock& fields)
+void SaveAirProperties(const forms::Form& owner, const AirBlock& fields)
 {
     SaveReport(owner, "Save Data to File",
                [&fields](ReportWriter& report) { WriteAirPropertiesReport(report, fields, SavedFraction); });

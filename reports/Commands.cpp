@@ -7,8 +7,6 @@
 
 #include <exception>
 
-using namespace forms;
-
 using namespace std::string_view_literals;
 
 namespace {
@@ -35,7 +33,7 @@ void printFile(const std::string& path)
 
 } // namespace
 
-void PrintReport(const Form& owner, const std::string& title, const std::string& temporaryFile,
+void PrintReport(const forms::Form& owner, const std::string& title, const std::string& temporaryFile,
                  const WriteReport& writeReport, const std::optional<PrinterFont>& font)
 {
     if (!ShowPrintDialog(owner))
@@ -52,7 +50,7 @@ void PrintReport(const Form& owner, const std::string& title, const std::string&
     }
 }
 
-void SaveReport(const Form& owner, const std::string& title, const WriteReport& writeReport)
+void SaveReport(const forms::Form& owner, const std::string& title, const WriteReport& writeReport)
 {
     try {
         const std::string folder = DataFolder();

@@ -1,10 +1,8 @@
 #include "reports/Reports.h"
 
-#include "core/CoolingLoads.h"
+#include "core/CoilLoads.h"
 #include "core/NumberPicture.h"
 #include "core/UnitTables.h"
-
-using namespace forms;
 
 namespace {
 
@@ -30,13 +28,13 @@ void WriteCoolingReport(ReportWriter& report)
     writeSummaryLine(report, "Total Cooling = ", TotalLoad, EnergyUnit);
 }
 
-void PrintCooling(const Form& owner)
+void PrintCooling(const forms::Form& owner)
 {
     PrintReport(owner, "Cooling Load", "cooling.txt", WriteCoolingReport,
                 PrinterFont{.name = "Arial", .size = 14, .bold = true});
 }
 
-void SaveCooling(const Form& owner)
+void SaveCooling(const forms::Form& owner)
 {
     SaveReport(owner, "Save Cooling Load Data to File", WriteCoolingReport);
 }

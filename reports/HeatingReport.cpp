@@ -1,10 +1,8 @@
 #include "reports/Reports.h"
 
-#include "core/HeatingLoads.h"
+#include "core/CoilLoads.h"
 #include "core/NumberPicture.h"
 #include "core/UnitTables.h"
-
-using namespace forms;
 
 namespace {
 
@@ -41,12 +39,12 @@ void WriteSavedHeatingReport(ReportWriter& report)
     writeSummary(report);
 }
 
-void PrintHeating(const Form& owner)
+void PrintHeating(const forms::Form& owner)
 {
     PrintReport(owner, "Heating Load", "heating.txt", WritePrintedHeatingReport);
 }
 
-void SaveHeating(const Form& owner)
+void SaveHeating(const forms::Form& owner)
 {
     SaveReport(owner, "Save Heating Load Data to File", WriteSavedHeatingReport);
 }

@@ -2,8 +2,6 @@
 
 #include "core/NumberPicture.h"
 
-using namespace forms;
-
 namespace {
 
 struct SpacePictures
@@ -70,13 +68,13 @@ void WriteSavedHumidityReport(ReportWriter& report, const ReadHumidityTexts& rea
     writeMoisture(report, texts);
 }
 
-void PrintHumidity(const Form& owner, const ReadHumidityTexts& readTexts)
+void PrintHumidity(const forms::Form& owner, const ReadHumidityTexts& readTexts)
 {
     PrintReport(owner, "Humidification", "humidity.txt",
                 [&readTexts](ReportWriter& report) { WritePrintedHumidityReport(report, readTexts); });
 }
 
-void SaveHumidity(const Form& owner, const ReadHumidityTexts& readTexts)
+void SaveHumidity(const forms::Form& owner, const ReadHumidityTexts& readTexts)
 {
     SaveReport(owner, "Save Humidity Load Data to File",
                [&readTexts](ReportWriter& report) { WriteSavedHumidityReport(report, readTexts); });

@@ -3,8 +3,6 @@
 #include "core/NumberPicture.h"
 #include "core/UnitTables.h"
 
-using namespace forms;
-
 namespace {
 
 void writeBlock(ReportWriter& report, std::string_view heading, const AirSnapshot& air)
@@ -25,8 +23,8 @@ void WriteMixedAirReport(ReportWriter& report)
     writeBlock(report, "Mixed Air Properties", MixedResultAir);
 }
 
-void PrintMixedAir(const Form& owner)
+void PrintMixedAir(const forms::Form& owner)
 {
     PrintReport(owner, "Mixed Air", "mixedair.txt", WriteMixedAirReport);
 }
-void SaveMixedAir(const Form& owner) { SaveReport(owner, "Save Data to File", WriteMixedAirReport); }
+void SaveMixedAir(const forms::Form& owner) { SaveReport(owner, "Save Data to File", WriteMixedAirReport); }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ShortDate.h"
+#include "platform/Desktop.h"
 
 #include <functional>
 #include <string>

@@ -3,7 +3,6 @@
 #include "core/MainMod.h"
 #include "screens/FormParts.h"
 #include "screens/PanelRules.h"
-#include "screens/Shell.h"
 
 #include <vector>
 
@@ -30,8 +29,6 @@ protected:
     /// Adds the menus to the menu bar, with the form's own menu before Help.
     void buildMenus(Menu* ownMenu = nullptr);
 
-    /// Sets the form's size and its position on the screen.
-    void placeScreen();
     /// Lays out the buttons in Frame5, from the top.
     void layOutActions(std::initializer_list<Button*> buttons);
     /// Lays out the panel's frames and, if given, another one under the actions.

@@ -43,13 +43,6 @@ void AirPanel::layOutRows()
     txtSpVol.leaveTabOrder();
 }
 
-void AirPanel::placeScreen()
-{
-    setSize(8000, 6600);
-    keepTogether();
-    placeInTheMiddle(4);
-}
-
 void AirPanel::layOutActions(std::initializer_list<Button*> buttons)
 {
     auto* const actions = new Column(Frame5, {14, 14, 14, 14}, 12);

@@ -21,7 +21,7 @@ void AirPropertiesCalc::layOut()
 void AirPropertiesCalc::Form_Load()
 {
     MakeCurrentDirectory(ApplicationFolder()); // OpenHelp finds the help file there by its name
-    placeScreen();
+    PlaceScreen(*this);
     ClearStatePoint();
     btnCALCULATE.disable();
     RepaintForm();

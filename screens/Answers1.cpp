@@ -1,6 +1,5 @@
 #include "screens/Answers1.h"
 
-#include "platform/forms/Forms.h"
 #include "screens/MixedAir.h"
 
 #include <algorithm>
@@ -12,36 +11,24 @@ namespace {
 
 using Air = AirSnapshot;
 
+constexpr ShownQuantity percent{" % R.H.", "##0.0", 100};
+constexpr ShownQuantity perPound{" lb. water/lb. dry air", "#0.0000"};
+constexpr ShownQuantity grams{" g water/kg dry air", "#0.00", 1000};
+constexpr ShownQuantity grains{" grains water/lb. dry air", "##0.0"};
+constexpr ShownQuantity none{" ", nullptr};
+constexpr ShownQuantity cubicFeet{" ft3 air/lb.", "##0.000"};
+constexpr ShownQuantity cubicMeters{" m3/kg dry air", "##0.000"};
+
 // The table from the top. Metric has no grains row.
 constexpr TableQuantity quantities[] = {
     {"Label10", "  Volume", "lblcfm", &Air::AirVolume, {" CFM", "##,##"}, {" m3 / h", "##,##"}},
     {"Label1", "  Dry Bulb Temp", "lblTdb", &Air::Tdb, {" Deg. F", "##0.0"}, {" Deg. C", "##0.0"}},
     {"Label2", "   Wet Bulb Temp", "lblTwb", &Air::Twb, {" Deg. F", "##0.0"}, {" Deg. C", "##0.0"}},
     {"Label16", "   Dew Point Temp", "lbltd", &Air::td, {" Deg. F", "##0.0"}, {" Deg. C", "##0.0"}},
-    {"Label12",
-     "   Relative Humidity",
-     "lblRH",
-     &Air::RH,
-     {" % R.H.", "##0.0", 100},
-     {" % R.H.", "##0.0", 100}},
-    {"Label17",
-     "   Humidity Ratio, W",
-     "lblW",
-     &Air::W,
-     {" lb. water/lb. dry air", "#0.0000"},
-     {" g water/kg dry air", "#0.00", 1000}},
-    {"lblGrainsHead",
-     "   Humidity Ratio, gr",
-     "lblGrains",
-     &Air::Grains,
-     {" grains water/lb. dry air", "##0.0"},
-     {" ", nullptr}},
-    {"lblSpVolHead",
-     "  Specific Volume, v",
-     "lblSpVol",
-     &Air::SpVol,
-     {" ft3 air/lb.", "##0.000"},
-     {" m3/kg dry air", "##0.000"}},
+    {"Label12", "   Relative Humidity", "lblRH", &Air::RH, percent, percent},
+    {"Label17", "   Humidity Ratio, W", "lblW", &Air::W, perPound, grams},
+    {"lblGrainsHead", "   Humidity Ratio, gr", "lblGrains", &Air::Grains, grains, none},
+    {"lblSpVolHead", "  Specific Volume, v", "lblSpVol", &Air::SpVol, cubicFeet, cubicMeters},
     {"lblHHead", "  Enthalpy, h", "lblH", &Air::h, {" Btu/lb.", "##0.00"}, {" kJ/kg", "##0.00"}},
 };
 
@@ -66,9 +53,7 @@ void placeText(Label& label, Twips left, Twips top, Twips width, Colour colour, 
 
 TaggedNumber valueOf(const TableQuantity& quantity, const AirSnapshot& stream)
 {
-    const TaggedNumber value = stream.*quantity.value;
-    const int factor = quantity.shown().factor;
-    return factor == 1 ? value : value * factor;
+    return TaggedNumber(stream.*quantity.value) * quantity.shown().factor;
 }
 
 } // namespace
@@ -140,9 +125,7 @@ void Answers1::buildMenus()
 
 void Answers1::Form_Load()
 {
-    setSize(8000, 6600);
-    keepTogether();
-    placeInTheMiddle(4);
+    PlaceScreen(*this);
     RepaintForm();
 }
 

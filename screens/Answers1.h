@@ -3,8 +3,6 @@
 #include "core/MainMod.h"
 #include "reports/Reports.h"
 #include "screens/FormParts.h"
-#include "screens/Help.h"
-#include "screens/Shell.h"
 
 #include <array>
 #include <deque>

@@ -1,7 +1,6 @@
 #include "screens/CoolingLoad1.h"
 
-#include "core/CoolingLoads.h"
-#include "platform/forms/Forms.h"
+#include "core/CoilLoads.h"
 #include "screens/CoolingLoad2.h"
 #include "screens/CoolingLoad3.h"
 #include "screens/cfmForm.h"
@@ -31,7 +30,7 @@ void CoolingLoad1::layOut()
 // Intentional: the state isn't cleared, so this screen starts with that of the last one.
 void CoolingLoad1::Form_Load()
 {
-    placeScreen();
+    PlaceScreen(*this);
     EnableAll({&btnCALCULATE, &btnSaveEA, &btnSetLA, &btnCalcLoad}, false);
     LeavingAirAccepted = False16;
     RepaintForm();

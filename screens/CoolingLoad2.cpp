@@ -1,6 +1,5 @@
 #include "screens/CoolingLoad2.h"
 
-#include "screens/Help.h"
 using namespace forms;
 
 CoolingLoad2::CoolingLoad2() : Form("CoolingLoad2", FormKind::Dialog)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/CoolingLoads.h"
+#include "core/CoilLoads.h"
 #include "core/MainMod.h"
 #include "screens/FormParts.h"
 

@@ -1,9 +1,6 @@
 #include "screens/CoolingLoad3.h"
 
-#include "core/MainMod.h"
-#include "platform/forms/Forms.h"
 #include "screens/CoolingLoad1.h"
-#include "screens/Help.h"
 
 using namespace forms;
 

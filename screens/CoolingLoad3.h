@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/forms/Rule.h"
 #include "screens/FormParts.h"
 
 #include <array>

@@ -15,6 +15,13 @@ constexpr double linesPerRow = 2;
 
 } // namespace
 
+void PlaceScreen(Form& screen)
+{
+    screen.setSize(8000, 6600);
+    screen.keepTogether();
+    screen.placeInTheMiddle(4);
+}
+
 void AddRow(Grid& grid, int line, const Row& row)
 {
     const std::initializer_list<const Control*> cells{&row.caption, &row.field, &row.unit};

@@ -1,18 +1,16 @@
 #pragma once
 
-#include "platform/forms/Button.h"
-#include "platform/forms/Form.h"
-#include "platform/forms/Frame.h"
-#include "platform/forms/Label.h"
+#include "platform/forms/Forms.h"
 #include "platform/forms/Layout.h"
-#include "platform/forms/Menu.h"
-#include "platform/forms/TextField.h"
+#include "screens/Help.h"
+#include "screens/Shell.h"
 
 #include <initializer_list>
 #include <string>
 #include <vector>
 
-// What the forms are made of: controls, layouts, and the helpers below.
+// What the forms are made of: controls, layouts, the ways to other forms and to the help, and the helpers
+// below.
 
 /// One row of a frame: a caption, its field and the unit beside it.
 struct Row
@@ -28,6 +26,9 @@ struct Pair
     forms::TextField& field;
     forms::Label& unit;
 };
+
+/// Sets the size and the position of a calculator's screen.
+void PlaceScreen(forms::Form& screen);
 
 /// Adds one row to a grid of captions, fields and units.
 void AddRow(forms::Grid& grid, int line, const Row& row);

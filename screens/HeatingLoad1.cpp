@@ -1,7 +1,6 @@
 #include "screens/HeatingLoad1.h"
 
-#include "core/HeatingLoads.h"
-#include "platform/forms/Forms.h"
+#include "core/CoilLoads.h"
 #include "screens/HeatingLoad2.h"
 #include "screens/cfmForm.h"
 
@@ -32,7 +31,7 @@ void HeatingLoad1::layOut()
 void HeatingLoad1::Form_Load()
 {
     ClearStatePoint();
-    placeScreen();
+    PlaceScreen(*this);
     form<cfmForm>();
     EnableAll({&btnCALCULATE, &btnSaveEnteringAir, &btnInputLeavingAir}, false);
     RepaintForm();

@@ -1,10 +1,8 @@
 #include "screens/HeatingLoad2.h"
 
-#include "core/HeatingLoads.h"
+#include "core/CoilLoads.h"
 #include "core/MainMod.h"
-#include "platform/forms/Forms.h"
 #include "screens/HeatingLoad1.h"
-#include "screens/Help.h"
 
 using namespace forms;
 

@@ -20,7 +20,7 @@ void Humid1::layOut()
 void Humid1::Form_Load()
 {
     ClearStatePoint();
-    placeScreen();
+    PlaceScreen(*this);
     RepaintForm();
     btnCALCULATE.disable();
     btnHumidityDesired.disable();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/forms/Forms.h"
 #include "screens/AirPanel.h"
 #include "screens/humid2.h"
 

@@ -1,6 +1,5 @@
 #include "screens/MixedAir.h"
 
-#include "platform/forms/Forms.h"
 #include "screens/cfmForm.h"
 
 using namespace forms;
@@ -37,7 +36,7 @@ void MixedAir::Form_Load()
 {
     ClearStatePoint();
     RepaintForm();
-    placeScreen();
+    PlaceScreen(*this);
     form<cfmForm>();
     EnableAll({&btnCALCULATE, &btnRA, &btnSaveOSA, &btnMixedAir}, false);
     setVolumesVisible(false);

@@ -1,7 +1,6 @@
 // The streams of the mixed air calculator: saving them with their volumes, mixing and reviewing them.
 
 #include "core/Mixing.h"
-#include "platform/forms/Forms.h"
 #include "platform/forms/MsgBox.h"
 #include "screens/Answers1.h"
 #include "screens/MixedAir.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "screens/FormParts.h"
-#include "screens/Help.h"
 
 /// The dialog that asks for an air volume and stores it in AirVolume: the text as typed, which its readers
 /// convert, or the integer 0. Its buttons only hide it, so it offers the same text next time.

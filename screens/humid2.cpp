@@ -21,9 +21,7 @@ void humid2::buildMenus()
 
 void humid2::Form_Load()
 {
-    setSize(8000, 6600);
-    keepTogether();
-    placeInTheMiddle(4);
+    PlaceScreen(*this);
     RepaintHumid2();
 }
 
@@ -100,14 +98,4 @@ HumidityTexts humid2::texts() const
             .massPerDay = {txtMassPerDay.text(), lblMassPerDay.caption()},
             .flowPerHour = {txtFlowPerHour.text(), lblFlowPerHour.caption()},
             .flowPerDay = {txtFlowPerDay.text(), lblFlowPerDay.caption()}};
-}
-
-void humid2::mnuPrint_Click()
-{
-    PrintHumidity(*this, [this] { return texts(); });
-}
-
-void humid2::mnuSave_Click()
-{
-    SaveHumidity(*this, [this] { return texts(); });
 }

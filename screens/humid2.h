@@ -2,8 +2,6 @@
 
 #include "reports/Reports.h"
 #include "screens/FormParts.h"
-#include "screens/Help.h"
-#include "screens/Shell.h"
 
 /// The second screen of the humidification calculator: the desired air, its quantity and the water to add.
 class humid2 : public forms::Form
@@ -30,8 +28,14 @@ private:
 
     void btnCalcHumid_Click();
     void btnOK_Click() { Hide(); }
-    void mnuPrint_Click();
-    void mnuSave_Click();
+    void mnuPrint_Click()
+    {
+        PrintHumidity(*this, [this] { return texts(); });
+    }
+    void mnuSave_Click()
+    {
+        SaveHumidity(*this, [this] { return texts(); });
+    }
     void mnuExit_Click() { Unload(); }
     void mnuMain_Click() { Unload(); } // intentional: returns to the outside air, despite its caption
     void mnuHumid2Help_Click() { OpenHelp(*this, HelpTopic::Humidification); }

@@ -1,7 +1,6 @@
 #include "shell/About.h"
 
-#include "platform/Launch.h"
-#include "screens/Help.h"
+#include "platform/Desktop.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/Registry.h"
-#include "platform/forms/Rule.h"
 #include "screens/FormParts.h"
 
 /// The about box: the program, its makers and how to contact them.

@@ -1,6 +1,6 @@
 // How the about box starts the system information viewer. No control of the form calls this.
 
-#include "platform/Launch.h"
+#include "platform/Desktop.h"
 #include "platform/forms/MsgBox.h"
 #include "shell/About.h"
 

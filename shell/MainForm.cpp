@@ -2,7 +2,6 @@
 
 #include "chart/ChartPicture.h"
 #include "core/MainMod.h"
-#include "platform/forms/Forms.h"
 #include "screens/AirPropertiesCalc.h"
 #include "screens/CoolingLoad1.h"
 #include "screens/HeatingLoad1.h"

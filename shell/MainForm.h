@@ -2,8 +2,6 @@
 
 #include "platform/forms/Picture.h"
 #include "screens/FormParts.h"
-#include "screens/Help.h"
-#include "screens/Shell.h"
 
 /// The main menu, with one button for each of the five calculators. Only this form ends the process.
 class MainForm : public forms::Form

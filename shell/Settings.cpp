@@ -2,7 +2,6 @@
 
 #include "core/MainMod.h"
 #include "platform/forms/MsgBox.h"
-#include "screens/Help.h"
 #include "shell/Store.h"
 
 using namespace forms;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/forms/DropDownList.h"
 #include "screens/FormParts.h"
 
 /// The options: the unit system and the barometric pressure.

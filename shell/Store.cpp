@@ -6,8 +6,6 @@
 
 #include <utility>
 
-using namespace forms;
-
 namespace {
 constexpr auto application = "Dunmoor";
 constexpr auto section = "Settings";
@@ -18,8 +16,9 @@ void warnOnceOfUnreadableStore()
     const std::string path = UnreadableStore(application);
     if (path.empty() || std::exchange(isDone, true))
         return;
-    MsgBox("The settings can't be read:\n" + path +
-           "\nis not a text file of at most 1 MB. It is left as it is, and the default settings apply.");
+    forms::MsgBox(
+        "The settings can't be read:\n" + path +
+        "\nis not a text file of at most 1 MB. It is left as it is, and the default settings apply.");
 }
 
 } // namespace

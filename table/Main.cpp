@@ -1,6 +1,6 @@
 // dunmoor-table: reads a table of moist air states and writes it with all properties.
 
-#include "core/NumberLocale.h"
+#include "core/NumberText.h"
 #include "core/StatePoint.h"
 #include "table/TableError.h"
 #include "table/Tables.h"

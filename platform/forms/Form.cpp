@@ -1,8 +1,7 @@
 #include "platform/forms/Form.h"
 
-#include "platform/forms/Button.h"
 #include "platform/forms/FormWindow.h"
-#include "platform/forms/Menu.h"
+#include "platform/forms/Forms.h"
 
 #include <QApplication>
 #include <QEventLoop>

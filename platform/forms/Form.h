@@ -1,34 +1,19 @@
 #pragma once
 
-#include "platform/forms/Colour.h"
-#include "platform/forms/Dispatcher.h"
-#include "platform/forms/Twips.h"
+#include "platform/forms/Controls.h"
+#include "platform/forms/Menu.h"
+#include "platform/forms/TextField.h"
 
 #include <QPointer>
 
-#include <memory>
-#include <string>
-#include <typeindex>
 #include <vector>
 
-class QAction;
 class QEventLoop;
-class QWidget;
 
 namespace forms {
 
-class Button;
-class Control;
-class DropDownList;
 class FormWindow;
-class Frame;
-class Label;
-class Menu;
-class MenuCommand;
-class MenuSeparator;
 class Picture;
-class Rule;
-class TextField;
 
 enum class CloseReason
 {
@@ -170,19 +155,6 @@ private:
     int runningHandlers = 0;
     bool unloading = false;
     bool retired = false;
-};
-
-/// Owns the one instance of each form class.
-class FormRegistry
-{
-public:
-    static Form* find(std::type_index type);
-    static Form& adopt(std::type_index type, std::unique_ptr<Form> newForm);
-    /// Removes an unloaded form, so that the next use creates a new one. Destroys it when it is idle.
-    static void retire(Form& unloaded);
-    static void destroyIfIdle(Form& unloaded);
-    /// Destroys all forms at the end of the process without running their unload handlers.
-    static void clear();
 };
 
 } // namespace forms

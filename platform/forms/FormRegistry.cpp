@@ -1,4 +1,4 @@
-#include "platform/forms/Form.h"
+#include "platform/forms/Forms.h"
 
 #include <QCoreApplication>
 #include <QTimer>

@@ -1,4 +1,4 @@
-#include "platform/forms/Label.h"
+#include "platform/forms/Controls.h"
 
 #include "platform/forms/Form.h"
 
@@ -23,44 +23,39 @@ QFont arial(int pixels)
     return font;
 }
 
-QLabel* asLabel(const Label* label) { return static_cast<QLabel*>(label->widget()); }
-
 } // namespace
 
 Label::Label(Form& owner, const std::string& name, const std::string& caption)
     : Control(owner, new QLabel(owner.area()), name)
 {
-    asLabel(this)->setTextFormat(Qt::PlainText);
+    as<QLabel>().setTextFormat(Qt::PlainText);
     setCaption(caption);
 }
 
-void Label::setCaption(const std::string& caption)
-{
-    asLabel(this)->setText(QString::fromStdString(caption));
-}
-std::string Label::caption() const { return asLabel(this)->text().toStdString(); }
-void Label::describe(Control& control) { asLabel(this)->setBuddy(control.widget()); }
+void Label::setCaption(const std::string& caption) { as<QLabel>().setText(QString::fromStdString(caption)); }
+std::string Label::caption() const { return as<QLabel>().text().toStdString(); }
+void Label::describe(Control& control) { as<QLabel>().setBuddy(control.widget()); }
 
 void Label::setBoxed()
 {
-    asLabel(this)->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    asLabel(this)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    asLabel(this)->setMargin(3);
+    as<QLabel>().setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    as<QLabel>().setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    as<QLabel>().setMargin(3);
 }
 
 void Label::alignRight()
 {
-    asLabel(this)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    asLabel(this)->setIndent(margin);
+    as<QLabel>().setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    as<QLabel>().setIndent(margin);
 }
-void Label::center() { asLabel(this)->setAlignment(Qt::AlignCenter); }
-void Label::setWrapped() { asLabel(this)->setWordWrap(true); }
+void Label::center() { as<QLabel>().setAlignment(Qt::AlignCenter); }
+void Label::setWrapped() { as<QLabel>().setWordWrap(true); }
 
-void Label::setArial(int pixels) { asLabel(this)->setFont(arial(pixels)); }
+void Label::setArial(int pixels) { as<QLabel>().setFont(arial(pixels)); }
 
 int Label::fittingArial() const
 {
-    const QLabel& label = *asLabel(this);
+    const QLabel& label = as<QLabel>();
     const int flags = label.wordWrap() ? Qt::TextWordWrap : 0;
     int pixels = std::max(designedPixels, QFontInfo(QApplication::font()).pixelSize());
     for (; pixels > designedPixels; --pixels) {
@@ -74,17 +69,17 @@ int Label::fittingArial() const
 
 void Label::setPointSize(int points)
 {
-    QFont font = asLabel(this)->font();
+    QFont font = as<QLabel>().font();
     font.setPointSize(points);
-    asLabel(this)->setFont(font);
+    as<QLabel>().setFont(font);
 }
 
 void Label::setFontSize(int percentOfNormal, bool bold)
 {
-    QFont font = asLabel(this)->font();
+    QFont font = as<QLabel>().font();
     font.setPointSizeF(font.pointSizeF() * percentOfNormal / 100);
     font.setBold(bold);
-    asLabel(this)->setFont(font);
+    as<QLabel>().setFont(font);
 }
 
 } // namespace forms

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "platform/forms/Form.h"
-#include "platform/forms/Frame.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <QWidget>
 
 #include <initializer_list>
 
@@ -45,13 +45,19 @@ using Line = ControlLayout<QHBoxLayout>;
 void AddCells(Grid& grid, int row, std::initializer_list<const Control*> cells);
 
 // Sizes in pixels, based on the control's font.
-int WidthOfCharacters(const Control& control, int count);
-int HeightOfLines(const Control& control, double count);
-int NaturalWidth(const Control& control);
+inline int WidthOfCharacters(const Control& control, int count)
+{
+    return control.widget()->fontMetrics().averageCharWidth() * count;
+}
+inline int HeightOfLines(const Control& control, double count)
+{
+    return static_cast<int>(control.widget()->fontMetrics().height() * count);
+}
+inline int NaturalWidth(const Control& control) { return control.widget()->sizeHint().width(); }
 
-void SetFixedHeight(const Control& control, int height);
-void SetLeastHeight(const Control& control, int height);
-void SetLeastWidth(const Control& control, int width);
+inline void SetFixedHeight(const Control& control, int height) { control.widget()->setFixedHeight(height); }
+inline void SetLeastHeight(const Control& control, int height) { control.widget()->setMinimumHeight(height); }
+inline void SetLeastWidth(const Control& control, int width) { control.widget()->setMinimumWidth(width); }
 
 /// Sets the tab order.
 void SetTabOrder(std::initializer_list<const Control*> controls);

@@ -15,33 +15,6 @@ namespace {
 
 bool isEnter(const QKeyEvent& event) { return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter; }
 
-bool movesSelectsOrCopies(const QKeyEvent& event)
-{
-    constexpr QKeySequence::StandardKey harmless[] = {
-        QKeySequence::Copy,
-        QKeySequence::SelectAll,
-        QKeySequence::MoveToNextChar,
-        QKeySequence::SelectNextChar,
-        QKeySequence::MoveToPreviousChar,
-        QKeySequence::SelectPreviousChar,
-        QKeySequence::MoveToNextWord,
-        QKeySequence::SelectNextWord,
-        QKeySequence::MoveToPreviousWord,
-        QKeySequence::Deselect,
-        QKeySequence::SelectPreviousWord,
-        QKeySequence::MoveToStartOfLine,
-        QKeySequence::MoveToEndOfLine,
-        QKeySequence::SelectStartOfLine,
-        QKeySequence::SelectEndOfLine,
-        QKeySequence::MoveToStartOfBlock,
-        QKeySequence::MoveToEndOfBlock,
-        QKeySequence::SelectStartOfBlock,
-        QKeySequence::SelectEndOfBlock,
-    };
-    return std::any_of(std::begin(harmless), std::end(harmless),
-                       [&event](auto key) { return event.matches(key); });
-}
-
 /// The character for each editing command, or 0.
 int characterOfCommand(const QKeyEvent& event)
 {
@@ -60,6 +33,15 @@ int characterOfCommand(const QKeyEvent& event)
         std::find_if(std::begin(commands), std::end(commands),
                      [&event](const auto& entry) { return event.matches(entry.first); });
     return found == std::end(commands) ? 0 : found->second;
+}
+
+/// True for a key that moves, selects or copies, given that it doesn't edit. Most such keys have no text.
+bool movesSelectsOrCopies(const QKeyEvent& event)
+{
+    constexpr QKeySequence::StandardKey withText[] = {QKeySequence::Copy, QKeySequence::SelectAll,
+                                                      QKeySequence::Deselect, QKeySequence::MoveToEndOfLine};
+    return event.text().isEmpty() || std::any_of(std::begin(withText), std::end(withText),
+                                                 [&event](auto key) { return event.matches(key); });
 }
 
 /// True for a key alone, with Shift, or with AltGr, which some systems report as Ctrl+Alt. With Ctrl, Alt or
@@ -106,14 +88,10 @@ void LineEdit::keyPressEvent(QKeyEvent* event)
             field.swallows(Key::Enter); // result ignored: Enter doesn't edit
         return;
     }
-    if (movesSelectsOrCopies(*event)) {
-        QLineEdit::keyPressEvent(event);
-        return;
-    }
     const int character = characterOf(*event);
-    if (character == 0)
+    if (character == 0 && !movesSelectsOrCopies(*event))
         event->ignore(); // leaves it to the window; the toolkit would type or edit with some of these
-    else if (!field.swallows(character))
+    else if (character == 0 || !field.swallows(character))
         QLineEdit::keyPressEvent(event);
 }
 

@@ -5,14 +5,10 @@
 
 namespace forms {
 
-namespace {
-LineEdit* asEdit(const TextField* field) { return static_cast<LineEdit*>(field->widget()); }
-} // namespace
-
 TextField::TextField(Form& owner, const std::string& name)
     : Control(owner, new LineEdit(owner.area(), *this), name)
 {
-    QObject::connect(asEdit(this), &QLineEdit::textChanged, asEdit(this), [this] { noteText(); });
+    QObject::connect(&as<LineEdit>(), &QLineEdit::textChanged, widget(), [this] { noteText(); });
 }
 
 /// The toolkit also signals an edit when a key replaces the selected text with the same text.
@@ -24,17 +20,17 @@ void TextField::noteText()
     raise(change);
 }
 
-std::string TextField::text() const { return asEdit(this)->text().toStdString(); }
-void TextField::setText(const std::string& text) { asEdit(this)->setText(QString::fromStdString(text)); }
+std::string TextField::text() const { return as<LineEdit>().text().toStdString(); }
+void TextField::setText(const std::string& text) { as<LineEdit>().setText(QString::fromStdString(text)); }
 
 void TextField::takeFocus()
 {
     Control::takeFocus();
-    asEdit(this)->selectAll();
+    as<LineEdit>().selectAll();
 }
 
-void TextField::alignRight() { asEdit(this)->setAlignment(Qt::AlignRight); }
-void TextField::leaveTabOrder() { asEdit(this)->setFocusPolicy(Qt::ClickFocus); }
+void TextField::alignRight() { as<LineEdit>().setAlignment(Qt::AlignRight); }
+void TextField::leaveTabOrder() { as<LineEdit>().setFocusPolicy(Qt::ClickFocus); }
 
 bool TextField::swallows(int key)
 {

@@ -14,7 +14,6 @@
 #include <memory>
 #include <utility>
 
-using namespace forms;
 using namespace help;
 
 namespace {
@@ -31,8 +30,7 @@ void openWindow(std::shared_ptr<const HelpBook> book)
 {
     closeHelp();
     helpWindow = new HelpWindow(std::move(book));
-    static const bool isRegisteredOnce = (qAddPostRoutine(closeHelp), true);
-    Q_UNUSED(isRegisteredOnce);
+    qAddPostRoutine(closeHelp); // once more for each window, which does no harm
 }
 
 /// The folder in which a file is searched, for a message.
@@ -48,13 +46,13 @@ std::shared_ptr<const HelpBook> openBook(const QFileInfo& wanted)
     const std::string file = wanted.filePath().toStdString();
     QFile opened(wanted.filePath());
     if (!OpenRegularFile(opened, QIODevice::ReadOnly, Links::Follow)) {
-        MsgBox("The help file " + file + " was not found.\n\nIt was looked for in " +
-               folderOf(wanted).toStdString() + ".");
+        forms::MsgBox("The help file " + file + " was not found.\n\nIt was looked for in " +
+                      folderOf(wanted).toStdString() + ".");
         return nullptr;
     }
     std::shared_ptr<const HelpBook> book = HelpBook::open(opened.read(largestChmFile + 1));
     if (book == nullptr)
-        MsgBox("The help file " + file + " can't be read. It is damaged, or no help file.");
+        forms::MsgBox("The help file " + file + " can't be read. It is damaged, or no help file.");
     return book;
 }
 

@@ -1,4 +1,4 @@
-#include "core/CoolingLoads.h"
+#include "core/CoilLoads.h"
 #include "tests/core/LoadCases.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "core/HeatingLoads.h"
+#include "core/CoilLoads.h"
 #include "tests/core/LoadCases.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // Enter, Esc and F1 in the dialogs, and F1 on every screen.
 
-#include "core/CoolingLoads.h"
+#include "core/CoilLoads.h"
 #include "tests/screens/CalculatorFixture.h"
 
 #include <QDir>

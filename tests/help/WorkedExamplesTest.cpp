@@ -1,6 +1,6 @@
 // Follows the worked examples of the help on the real forms and compares every figure.
 
-#include "platform/ShortDate.h"
+#include "platform/Desktop.h"
 #include "reports/ReportFile.h"
 #include "tests/help/WorkedExample.h"
 #include "tests/support/ProgramTest.h"

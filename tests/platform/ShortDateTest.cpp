@@ -1,4 +1,4 @@
-#include "platform/ShortDate.h"
+#include "platform/Desktop.h"
 
 #include <gtest/gtest.h>
 

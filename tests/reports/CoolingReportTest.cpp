@@ -1,4 +1,4 @@
-#include "core/CoolingLoads.h"
+#include "core/CoilLoads.h"
 #include "platform/Printer.h"
 #include "reports/Reports.h"
 #include "tests/platform/Pdf.h"

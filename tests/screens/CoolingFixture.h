@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/CoolingLoads.h"
+#include "core/CoilLoads.h"
 #include "screens/CoolingLoad1.h"
 #include "screens/CoolingLoad2.h"
 #include "screens/CoolingLoad3.h"

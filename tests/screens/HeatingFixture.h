@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/HeatingLoads.h"
+#include "core/CoilLoads.h"
 #include "screens/HeatingLoad1.h"
 #include "screens/HeatingLoad2.h"
 #include "screens/cfmForm.h"

@@ -2,7 +2,7 @@
 
 #include "tests/screens/CalculatorFixture.h"
 
-#include "platform/Launch.h"
+#include "platform/Desktop.h"
 #include "shell/About.h"
 
 #include <QDesktopServices>

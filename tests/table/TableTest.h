@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/NumberLocale.h"
+#include "core/NumberText.h"
 #include "core/StatePoint.h"
 #include "table/TableError.h"
 #include "table/Tables.h"

@@ -1,10 +1,7 @@
 #pragma once
 
-#include "platform/forms/Button.h"
-#include "platform/forms/DropDownList.h"
+#include "platform/forms/Controls.h"
 #include "platform/forms/Forms.h"
-#include "platform/forms/Frame.h"
-#include "platform/forms/Label.h"
 #include "platform/forms/Menu.h"
 #include "platform/forms/MsgBox.h"
 #include "platform/forms/TextField.h"

@@ -2,15 +2,15 @@
 
 #include "core/TaggedNumber.h"
 
-// State of the cooling coil calculation. Like its two snapshots, it outlives the screens.
+// The loads of cooling and heating coils. Like the snapshots, their state outlives the screens.
 
-/// -1 after an accepted entry of leaving air; 0 after Cancel, after a refused entry, and when the calculator
-/// opens.
+/// -1 after an accepted entry of the air leaving a cooling coil; 0 after Cancel, after a refused entry, and
+/// when the calculator opens.
 inline Boolean16 LeavingAirAccepted = False16;
 /// -1 if the accepted entry had a wet bulb.
 inline Boolean16 LeavingWetBulbGiven = False16;
 
-/// The loads of the last calculation, Btu/h or kW.
+/// The cooling loads of the last calculation, Btu/h or kW.
 inline TaggedNumber SensibleLoad;
 inline TaggedNumber LatentLoad;
 inline Single TotalLoad = 0;
@@ -27,3 +27,17 @@ Single CondensateEnthalpy(Single wetBulb);
 /// in Btu/h (volume in cfm) or kW (m3/hr). Sets the three loads.
 /// @throws RunTimeError division by zero if no entering air was saved; overflow
 void CalculateCoolingLoads();
+
+/// The heating load that was last shown, Btu/hr or kW, for the report.
+inline Single HeatingLoadSingle = 0;
+
+/// Mass flow of the dry air in HeatingEnteringAir: 60 V / v in lb/hr, a double, or V / v in kg/hr, a single.
+/// @throws RunTimeError division by zero if no entering air was saved
+TaggedNumber HeatingMassFlow();
+
+/// Heat that the coil adds to bring HeatingEnteringAir to HeatingLeavingAir.Tdb at constant W (ASHRAE
+/// Handbook of Fundamentals, moist air sensible heating):
+///     load = (h(leaving) - h(entering)) m
+/// Sets HeatingLoadValue, Btu/hr or kJ/hr, which has the kind of the mass flow.
+/// @throws RunTimeError overflow
+void CalculateHeatingLoad(const TaggedNumber& massFlow);

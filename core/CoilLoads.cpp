@@ -1,7 +1,6 @@
-#include "core/CoolingLoads.h"
+#include "core/CoilLoads.h"
 
-#include "core/AirSnapshot.h"
-#include "core/StatePoint.h"
+#include "core/Relations.h"
 
 #include <span>
 
@@ -89,4 +88,19 @@ void CalculateCoolingLoads()
     else if (IsMetric())
         TotalLoad = RoundToSingle(TotalLoad / 3600.0);
     LatentLoad = TaggedNumber(static_cast<double>(TotalLoad)) - SensibleLoad; // rounding noise if dry
+}
+
+TaggedNumber HeatingMassFlow()
+{
+    const TaggedNumber volume = HeatingEnteringAir.AirVolume;
+    if (IsMetric())
+        return volume / HeatingEnteringAir.SpVol;
+    return volume * 60.0 / HeatingEnteringAir.SpVol;
+}
+
+void CalculateHeatingLoad(const TaggedNumber& massFlow)
+{
+    const Single leavingEnthalpy = EnthalpyOf(HeatingLeavingAir.Tdb, HeatingEnteringAir.W);
+    const TaggedNumber rise = TaggedNumber(leavingEnthalpy) - HeatingEnteringAir.h;
+    HeatingLoadValue = rise * massFlow;
 }
