@@ -16,18 +16,21 @@ constexpr double tipReach = 8; // distance from a mark, in pixels
 /// With all digits of the single.
 QString exactly(Single value) { return QString::number(value, 'g', 9); }
 
-QString describe(const Air& air, double tdb, double w)
+QString describe(const Air& air, const Place& place)
 {
-    return TdbText(tdb) + " dry bulb\n" + HumidityRatioText(w) + " humidity ratio\n" +
-           RelativeHumidityText(air.relativeHumidity(tdb, w)) + " relative humidity";
+    QStringList lines;
+    for (const Figure& figure : FiguresOf(ReadingAt(air, place)))
+        lines << figure.value + " " + figure.unit + " " + figure.name.toLower();
+    return lines.join('\n');
 }
 
 /// At the state's own pressure.
 QString describe(const Mark& mark)
 {
     const RunState& state = mark.state;
-    return QString(TitleOf(mark.calculator)) + ", " + QString::fromStdString(state.name) + "\n" +
-           describe(Air(state.P), state.Tdb, state.W) + "\nat " + PressureText(state.P);
+    const QString title =
+        mark.calculator ? TitleOf(*mark.calculator) + (", " + QString::fromStdString(state.name)) : mark.name;
+    return title + "\n" + describe(Air(state.P), {state.Tdb, state.W}) + "\nat " + PressureText(state.P);
 }
 
 } // namespace
@@ -46,7 +49,7 @@ std::string ChartPicture::version() const
 
 void ChartPicture::paint(QPainter& painter, const QSize& size, const QWidget& on)
 {
-    painted.emplace(size, on.font());
+    painted.emplace(size, on.font(), view);
     Paint(painter, *painted, on.palette());
     painted->curves.clear(); // not needed for tips
 }
@@ -62,11 +65,9 @@ std::string ChartPicture::tipAt(const QPoint& place) const
     }
     if (!tips.isEmpty())
         return tips.join("\n\n").toStdString();
-    const double tdb = painted->plane.tdbAt(place.x());
-    const double w = painted->plane.wAt(place.y());
-    const bool isAir =
-        painted->air.isDefined() && painted->plane.span.holds(tdb, w) && w <= painted->air.saturated(tdb);
-    return isAir ? describe(painted->air, tdb, w).toStdString() : std::string();
+    const Place pointed = painted->plane.placeAt(place);
+    const bool isShown = painted->plane.plot.contains(place) && IsAir(painted->air, pointed);
+    return isShown ? describe(painted->air, pointed).toStdString() : std::string();
 }
 
 } // namespace chart

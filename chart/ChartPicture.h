@@ -17,6 +17,7 @@ public:
     std::string tipAt(const QPoint& place) const override;
 
 private:
+    View view;
     std::optional<Layout> painted; ///< without its curves
 };
 

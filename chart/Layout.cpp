@@ -23,24 +23,24 @@ QFont smaller(const QFont& widgetFont)
     return font;
 }
 
-Span spanOf(const std::vector<Run>& runs)
+Span spanOf(const std::vector<Run>& runs, const View& view)
 {
-    std::vector<QPointF> states;
+    std::vector<Place> places;
     for (const Run& run : runs) {
         for (const RunState& state : run.states)
-            states.emplace_back(state.Tdb, state.W);
+            places.push_back({Ordinate(state.Tdb, state.W, view.switches.mollier), state.W});
     }
-    return Span::around(states);
+    return Span::around(places);
 }
 
 /// The plot, on whole pixels, with margins for the figures and titles of the axes.
-QRectF plotIn(const QSize& size, const QFontMetricsF& metrics)
+QRectF plotIn(const QSizeF& size, const QFontMetricsF& metrics)
 {
     const double line = metrics.height();
     const double left = metrics.horizontalAdvance("-000");
     const double right = metrics.horizontalAdvance("0.0000") + line * 1.5 + axisGap;
     const QRectF plot(left, line * 1.4, size.width() - left - right, size.height() - line * 4.2);
-    return plot.toAlignedRect().intersected(QRect(QPoint(0, 0), size));
+    return plot.toAlignedRect().intersected(QRect(QPoint(0, 0), size.toSize()));
 }
 
 /// Marks and process lines come first, so that the names of the curves avoid them.
@@ -57,15 +57,18 @@ void addLabels(Layout& chart, const QFontMetricsF& metrics, const std::vector<La
 
 } // namespace
 
-Layout::Layout(const QSize& size, const QFont& widgetFont)
-    : air(Air::inForce()),
+Layout::Layout(const QSizeF& ofPicture, const QFont& widgetFont, const View& lookedAt)
+    : size(ofPicture),
+      view(lookedAt),
+      air(Air::inForce()),
       runs(ShownRuns()),
       font(smaller(widgetFont)),
-      labels(QRectF(QPointF(0, 0), QSizeF(size)))
+      labels(QRectF(QPointF(0, 0), size))
 {
     const QFontMetricsF metrics(font);
-    plane = {spanOf(runs), plotIn(size, metrics)};
-    const Legend legend(air, plane.span, runs, metrics);
+    const Span span = view.zoom ? view.zoom->clamped() : spanOf(runs, view);
+    plane = {span, plotIn(size, metrics), view.switches.mollier};
+    const Legend legend(air, plane, runs, metrics);
     const QRectF whole = plane.plot;
     const bool isInCorner = legend.fitsCorner(air, plane);
     if (!isInCorner)
@@ -85,9 +88,16 @@ void Layout::addMarks()
     for (const Run& run : runs) {
         for (const RunState& state : run.states) {
             ++number;
-            if (plane.span.holds(state.Tdb, state.W))
-                marks.push_back({placeOf(state), number, run.calculator, state});
+            if (plane.holds({state.Tdb, state.W}))
+                marks.push_back({placeOf(state), QString::number(number), run.calculator, state});
         }
+    }
+    QString letter = "A";
+    for (const Place& pin : view.pins) {
+        const RunState state{"", static_cast<Single>(pin.Tdb), static_cast<Single>(pin.W), air.pressure()};
+        if (plane.holds(pin))
+            marks.push_back({plane.at(pin), letter, std::nullopt, state});
+        letter = NextLetter(letter);
     }
 }
 

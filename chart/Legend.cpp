@@ -12,8 +12,8 @@ constexpr double runGap = 22; // between the runs of a line
 
 } // namespace
 
-Legend::Legend(const Air& air, const Span& shown, const std::vector<Run>& runs, const QFontMetricsF& font)
-    : pressure(air.pressure()), span(shown), metrics(font)
+Legend::Legend(const Air& air, const Plane& shown, const std::vector<Run>& runs, const QFontMetricsF& font)
+    : pressure(air.pressure()), shownPlane(shown), metrics(font)
 {
     lines.push_back({entry("At " + PressureText(pressure), std::nullopt)});
     int number = 1;
@@ -34,7 +34,7 @@ QString Legend::nameOf(const RunState& state) const
     QString name = QString::fromStdString(state.name);
     if (state.P != pressure)
         name += " (at " + PressureText(state.P) + ")";
-    if (!span.holds(state.Tdb, state.W))
+    if (!shownPlane.holds({state.Tdb, state.W}))
         name += " (off the chart)";
     return name;
 }
@@ -70,7 +70,7 @@ bool Legend::fitsCorner(const Air& air, const Plane& plane) const
     double bottom = plane.plot.top() + lineHeight;
     return std::all_of(lines.begin(), lines.end(), [&](const Line& line) {
         bottom += lineHeight;
-        const double saturated = SaturatedTdb(air, plane.span.tdb, plane.wAt(bottom));
+        const double saturated = SaturatedTdb(air, plane.span.tdb, plane.placeAt({0, bottom}).W);
         return plane.plot.left() + widthOf(line) + beside < plane.at(saturated, 0).x();
     });
 }

@@ -15,7 +15,7 @@ namespace chart {
 class Legend
 {
 public:
-    Legend(const Air& air, const Span& shown, const std::vector<Run>& runs, const QFontMetricsF& font);
+    Legend(const Air& air, const Plane& shown, const std::vector<Run>& runs, const QFontMetricsF& font);
 
     /// True if the corner of the plot has enough space beside the saturation curve and its labels.
     bool fitsCorner(const Air& air, const Plane& plane) const;
@@ -36,7 +36,7 @@ private:
     void place(const Line& line, QPointF topLeft, std::vector<Label>& labels) const;
 
     Single pressure;
-    Span span;
+    Plane shownPlane;
     QFontMetricsF metrics;
     double lineHeight = metrics.height() * 1.3;
     std::vector<Line> lines;

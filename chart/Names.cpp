@@ -57,10 +57,10 @@ public:
             };
             if (std::any_of(marks.begin(), mark, isHere))
                 continue;
-            QString numbers = QString::number(mark->number);
+            QString numbers = mark->name;
             for (auto other = mark + 1; other != marks.end(); ++other) {
                 if (isHere(*other))
-                    numbers += ", " + QString::number(other->number);
+                    numbers += ", " + other->name;
             }
             nameMark(*mark, numbers);
         }

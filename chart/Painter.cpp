@@ -109,7 +109,8 @@ private:
     {
         const Plane& plane = chart.plane;
         const auto isBelow = [&](const QPointF& corner) {
-            return plane.wAt(corner.y()) < chart.air.saturated(plane.tdbAt(corner.x()));
+            const Place place = plane.placeAt(corner);
+            return place.W < chart.air.saturated(place.Tdb);
         };
         const QPolygonF outline = label.outline();
         return std::all_of(outline.begin(), outline.end(), isBelow);
@@ -147,7 +148,7 @@ private:
     /// Hollow if the state's pressure differs from the chart's.
     void paintMark(const Mark& mark)
     {
-        const QColor color = theme.run(mark.calculator);
+        const QColor color = mark.calculator ? theme.run(*mark.calculator) : theme.text({});
         const bool isOfThisPressure = mark.state.P == chart.air.pressure();
         painter.setPen(QPen(isOfThisPressure ? theme.paper() : color, 1.5));
         painter.setBrush(isOfThisPressure ? color : theme.paper());

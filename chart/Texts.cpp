@@ -15,10 +15,16 @@ QString number(double value, const char* picture)
     return QString::fromStdString(FormatNumber(TaggedNumber(value), picture));
 }
 
+QString orDash(const std::optional<Single>& value, const char* picture, double unit = 1)
+{
+    return value ? number(*value * unit, picture) : QString("–");
+}
+
 } // namespace
 
 QString TdbUnit() { return IsMetric() ? "°C" : "°F"; }
 QString HumidityRatioUnit() { return IsMetric() ? "g/kg" : "lb/lb"; }
+QString EnthalpyUnit() { return IsMetric() ? "kJ/kg" : "Btu/lb"; }
 QString SpecificVolumeUnit() { return IsMetric() ? "m³/kg" : "ft³/lb"; }
 
 QString RoundFigure(double value)
@@ -49,6 +55,24 @@ QString PressureText(double pressure)
 {
     const double shown = IsMetric() ? pressure / 1000 : pressure;
     return RoundFigure(QString::number(shown, 'g', 6).toDouble()) + (IsMetric() ? " kPa" : " psi");
+}
+
+std::vector<Figure> FiguresOf(const Reading& air)
+{
+    const bool isMetric = IsMetric();
+    std::vector<Figure> figures{
+        {"Dry bulb", number(air.Tdb, "#0.0"), TdbUnit()},
+        {"Wet bulb", orDash(air.Twb, "#0.0"), TdbUnit()},
+        {"Dew point", orDash(air.td, "#0.0"), TdbUnit()},
+        {"Relative humidity", orDash(air.RH, "#0.0", 100), "%"},
+        {"Humidity ratio", isMetric ? number(air.W * 1000.0, "#0.00") : number(air.W, "#0.0000"),
+         HumidityRatioUnit()},
+        {"Grains", orDash(air.Grains, "#0.0"), "gr/lb"},
+        {"Enthalpy", orDash(air.h, "#0.00"), EnthalpyUnit()},
+        {"Specific volume", orDash(air.SpVol, isMetric ? "#0.000" : "#0.00"), SpecificVolumeUnit()}};
+    if (isMetric)
+        std::erase_if(figures, [](const Figure& figure) { return figure.name == "Grains"; });
+    return figures;
 }
 
 } // namespace chart
