@@ -2,7 +2,7 @@
 
 #include "platform/forms/Control.h"
 
-#include <Qt>
+#include <QPoint>
 
 #include <memory>
 #include <optional>
@@ -12,7 +12,6 @@
 
 class QPainter;
 class QPalette;
-class QPoint;
 class QSize;
 class QWidget;
 
