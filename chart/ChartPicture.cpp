@@ -1,8 +1,8 @@
 #include "chart/ChartPicture.h"
 
-#include "chart/CrossHair.h"
 #include "chart/Keeping.h"
 #include "chart/Painter.h"
+#include "chart/Steps.h"
 #include "chart/Texts.h"
 #include "core/StatePoint.h"
 

@@ -1,67 +1,74 @@
 #include "chart/CrossHair.h"
 
-#include "chart/Reading.h"
-
-#include <Qt>
-
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
-#include <utility>
+#include "chart/Texts.h"
 
 namespace chart {
 namespace {
 
-constexpr double unitOfW = 0.0001;
+constexpr double margin = 4;
+constexpr double away = 14; // from the cross hair to the panel
 
-Place onWholeUnits(const Place& place)
+struct Row
 {
-    return {std::round(place.Tdb), std::round(place.W / unitOfW) * unitOfW};
+    Label name;
+    Label figure;
+};
+
+std::vector<Row> rowsOf(const Layout& chart, const Lettering& letters, const Place& place)
+{
+    std::vector<Row> rows;
+    for (const Figure& figure : FiguresOf(ReadingAt(chart.air, place)))
+        rows.push_back({letters.label(figure.name), letters.label(figure.value + " " + figure.unit)});
+    return rows;
 }
 
-bool canBeAt(const Place& place, const Air& air, const Plane& plane)
+QSizeF sizeOf(const std::vector<Row>& rows, const Lettering& letters)
 {
-    return plane.holds(place) && IsAir(air, place);
+    double names = 0;
+    double figures = 0;
+    for (const Row& row : rows) {
+        names = std::max(names, row.name.size.width());
+        figures = std::max(figures, row.figure.size.width());
+    }
+    return {names + figures + 3 * margin, static_cast<double>(rows.size()) * letters.height() + 2 * margin};
 }
 
-/// The middle of the plot, or below it half of saturation.
-std::optional<Place> start(const Air& air, const Plane& plane)
+/// On the side of the cross hair with more space, within the picture.
+QRectF panelAt(const QPointF& point, const QSizeF& size, const Layout& chart)
 {
-    Place place = onWholeUnits(plane.placeAt(plane.plot.center()));
-    if (!canBeAt(place, air, plane))
-        place = onWholeUnits({place.Tdb, air.saturated(place.Tdb) / 2});
-    return canBeAt(place, air, plane) ? std::optional(place) : std::nullopt;
+    const QPointF middle = chart.plane.plot.center();
+    const double x = point.x() > middle.x() ? point.x() - away - size.width() : point.x() + away;
+    const double y = point.y() > middle.y() ? point.y() - away - size.height() : point.y() + away;
+    return {std::clamp(x, 0.0, std::max(0.0, chart.size.width() - size.width())),
+            std::clamp(y, 0.0, std::max(0.0, chart.size.height() - size.height())), size.width(),
+            size.height()};
 }
-
-int signOf(int number) { return number > 0 ? 1 : number < 0 ? -1 : 0; }
 
 } // namespace
 
-std::optional<Step> StepOf(int key, bool isShifted, bool isMollier)
+void AddCrossHair(Layout& chart, const Lettering& letters)
 {
-    const int units = isShifted ? 10 : 1;
-    const int across = key == Qt::Key_Right ? units : key == Qt::Key_Left ? -units : 0;
-    const int up = key == Qt::Key_Up ? units : key == Qt::Key_Down ? -units : 0;
-    if (across == 0 && up == 0)
-        return std::nullopt;
-    return isMollier ? Step{.Tdb = up, .W = across} : Step{.Tdb = across, .W = up};
-}
-
-std::optional<Place> Moved(const std::optional<Place>& crossHair, const Step& step, const Air& air,
-                           const Plane& plane)
-{
-    if (!crossHair || !canBeAt(*crossHair, air, plane))
-        return start(air, plane);
-    Place place = *crossHair;
-    const int units = std::max(std::abs(step.Tdb), std::abs(step.W));
-    for (int unit = 0; unit < units; ++unit) {
-        const Place next =
-            onWholeUnits({place.Tdb + signOf(step.Tdb), place.W + signOf(step.W) * unitOfW});
-        if (!canBeAt(next, air, plane))
-            break;
-        place = next;
+    const Plane& plane = chart.plane;
+    if (!chart.view.crossHair || !plane.holds(*chart.view.crossHair))
+        return;
+    const Place& place = *chart.view.crossHair;
+    constexpr double far = 2000; // degrees, beyond every plot
+    const Span& span = plane.span;
+    for (const QLineF& whole : {QLineF(plane.at(-far, place.W), plane.at(far, place.W)),
+                                QLineF(plane.at(place.Tdb, span.w.low), plane.at(place.Tdb, span.w.high))}) {
+        if (const std::optional<QLineF> line = Within(plane.plot, whole))
+            chart.crossHair.push_back(*line);
     }
-    return place;
+    const std::vector<Row> rows = rowsOf(chart, letters, place);
+    const QRectF panel = panelAt(plane.at(place), sizeOf(rows, letters), chart);
+    chart.crossHairPanel = panel;
+    double y = panel.top() + margin + letters.height() / 2;
+    for (Row row : rows) {
+        row.name.center = {panel.left() + margin + row.name.size.width() / 2, y};
+        row.figure.center = {panel.right() - margin - row.figure.size.width() / 2, y};
+        chart.crossHairReading.insert(chart.crossHairReading.end(), {row.name, row.figure});
+        y += letters.height();
+    }
 }
 
 } // namespace chart

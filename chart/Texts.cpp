@@ -32,14 +32,19 @@ QString RoundFigure(double value)
     return QString::fromStdString(PlainText(QString::number(value, 'g', 9).toDouble()));
 }
 
+QString FormatFigure(double value, int decimals)
+{
+    const std::string picture =
+        decimals > 0 ? "#0." + std::string(static_cast<std::size_t>(decimals), '0') : "#0";
+    return number(value, picture.c_str());
+}
+
 QString HumidityRatioFigure(double w, double step)
 {
     const double unit = IsMetric() ? 1000 : 1;
     constexpr double rounding = 1e-6;
     const int decimals = static_cast<int>(std::ceil(-std::log10(step * unit) - rounding));
-    const std::string picture =
-        decimals > 0 ? "#0." + std::string(static_cast<std::size_t>(decimals), '0') : "#0";
-    return number(w * unit, picture.c_str());
+    return FormatFigure(w * unit, decimals);
 }
 
 QString TdbText(double tdb) { return number(tdb, "#0.0") + " " + TdbUnit(); }

@@ -17,6 +17,8 @@ QString SpecificVolumeUnit();
 
 /// A round number without the trailing digits of its rounding error.
 QString RoundFigure(double value);
+/// With that many decimals.
+QString FormatFigure(double value, int decimals);
 /// A humidity ratio with as many decimals as the step of its axis needs.
 QString HumidityRatioFigure(double w, double step);
 

@@ -18,6 +18,8 @@ struct Pair
 const Pair saturation{{16, 62, 120}, {130, 195, 255}};
 const Pair humidity{{72, 118, 176}, {96, 148, 205}};
 const Pair wetBulb{{46, 128, 92}, {92, 176, 136}};
+const Pair enthalpy{{138, 72, 112}, {214, 150, 190}};
+const Pair comfort{{70, 160, 90}, {110, 200, 130}};
 const Pair volume{{160, 112, 48}, {196, 152, 92}};
 
 /// In the order of the main menu.
@@ -61,8 +63,29 @@ QPen Theme::pen(Family family) const
     const bool isGrid = family == Family::DryBulb || family == Family::HumidityRatio;
     const Opacity& opacity = isStrong ? strong : calm;
     color.setAlpha(isGrid ? opacity.grid : opacity.curve);
+    QPen pen(color, 1);
+    if (family == Family::WetBulb)
+        pen.setDashPattern({7, 3});
+    if (family == Family::Enthalpy)
+        pen.setDashPattern({1, 3});
+    return pen;
+}
+
+QPen Theme::scale(Family family) const
+{
+    QColor color = text(family);
+    color.setAlpha((isStrong ? strong : calm).axis);
     return {color, 1};
 }
+
+QColor Theme::zone() const
+{
+    QColor color = comfort.on(isDark);
+    color.setAlpha(38);
+    return color;
+}
+
+QPen Theme::zonePen() const { return {comfort.on(isDark), 1}; }
 
 QColor Theme::text(const std::optional<Family>& family) const
 {
@@ -72,6 +95,8 @@ QColor Theme::text(const std::optional<Family>& family) const
         return humidity.on(isDark);
     if (family == Family::WetBulb)
         return wetBulb.on(isDark);
+    if (family == Family::Enthalpy)
+        return enthalpy.on(isDark);
     if (family == Family::SpecificVolume)
         return volume.on(isDark);
     return palette.color(QPalette::WindowText);

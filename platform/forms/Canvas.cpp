@@ -175,16 +175,11 @@ bool Canvas::runCommand(const QKeyEvent& event)
     return false;
 }
 
-/// Shows the tip of the place that the keys moved, and describes it to assistive technology.
+/// Describes the place that the keys moved to assistive technology.
 void Canvas::tellKeyPlace()
 {
     const std::optional<QPoint> place = contents->keyPlace();
     const QString tip = place ? tipAt(*place) : QString();
-    constexpr QPoint beside(12, 12);
-    if (place)
-        QToolTip::showText(mapToGlobal(*place + beside), tip, this);
-    else
-        QToolTip::hideText();
     if (tip == accessibleDescription())
         return;
     setAccessibleDescription(tip);

@@ -61,7 +61,7 @@ public:
     virtual bool turnWheel(const QPoint& /*place*/, double /*steps*/) { return false; }
     /// Returns false to pass the key on.
     virtual bool pressKey(int /*key*/, Qt::KeyboardModifiers /*modifiers*/) { return false; }
-    /// The place that the keys move, if any. Its tip is shown, and read by assistive technology.
+    /// The place that the keys move, if any. Assistive technology reads its tip.
     virtual std::optional<QPoint> keyPlace() const { return std::nullopt; }
 
 protected:
