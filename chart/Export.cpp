@@ -26,6 +26,15 @@ View onPaper(View view)
     return view;
 }
 
+/// The chart with a margin, on white.
+void paintPicture(QPainter& painter, const View& view)
+{
+    constexpr double margin = 18;
+    painter.fillRect(QRectF({}, paper), Qt::white);
+    painter.translate(margin, margin);
+    PaintOnPaper(painter, paper - QSizeF(2 * margin, 2 * margin), view);
+}
+
 QByteArray pdfOf(const View& view)
 {
     QByteArray bytes;
@@ -38,7 +47,7 @@ QByteArray pdfOf(const View& view)
     writer.setCreator(QCoreApplication::applicationName());
     QPainter painter(&writer);
     painter.scale(writer.resolution() / unitsPerInch, writer.resolution() / unitsPerInch);
-    PaintOnPaper(painter, paper, view);
+    paintPicture(painter, view);
     painter.end();
     return bytes;
 }
@@ -56,7 +65,7 @@ QByteArray svgOf(const View& view)
     generator.setTitle(ChartTitle());
     generator.setDescription(QCoreApplication::applicationName());
     QPainter painter(&generator);
-    PaintOnPaper(painter, paper, view);
+    paintPicture(painter, view);
     painter.end();
     return bytes;
 }
@@ -90,13 +99,12 @@ QImage PictureOf(const View& view)
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(dotsPerUnit, dotsPerUnit);
-    PaintOnPaper(painter, paper, view);
+    paintPicture(painter, view);
     return picture;
 }
 
 void PaintOnPaper(QPainter& painter, const QSizeF& size, const View& view)
 {
-    painter.fillRect(QRectF({}, size), Qt::white);
     Paint(painter, Layout(size, PaperFont(), onPaper(view)), PaperPalette());
 }
 

@@ -27,7 +27,7 @@ const std::vector<PictureFormat>& PictureFormats();
 /// The chart on white paper with its title: 10 by 7 inches at 300 dots per inch.
 QImage PictureOf(const View& view);
 
-/// Paints the chart on white paper, whatever the colors of the desktop.
+/// Paints the chart for white paper, whatever the colors of the desktop.
 /// @param size  in units of 1/96 inch
 void PaintOnPaper(QPainter& painter, const QSizeF& size, const View& view);
 

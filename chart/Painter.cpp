@@ -176,12 +176,12 @@ private:
         if (label.isTitle)
             painter.setFont(FontOfTitle(chart.font));
         if (label.angle == 0) {
-            painter.drawText(place.translated(label.center), Qt::AlignCenter, label.text);
+            painter.drawText(place.translated(label.center), Qt::AlignCenter | Qt::TextDontClip, label.text);
         } else {
             const QTransform before = painter.transform();
             painter.translate(label.center);
             painter.rotate(label.angle);
-            painter.drawText(place, Qt::AlignCenter, label.text);
+            painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, label.text);
             painter.setTransform(before);
         }
         if (label.isTitle)

@@ -6,7 +6,6 @@
 #include <QSplitter>
 
 #include <algorithm>
-#include <optional>
 
 namespace forms {
 
@@ -18,32 +17,34 @@ public:
     explicit Splitter(QWidget* parent) : QSplitter(Qt::Vertical, parent)
     {
         setChildrenCollapsible(false);
+        connect(this, &QSplitter::splitterMoved, this, [this] { isUsersChoice = true; });
     }
 
 protected:
     void resizeEvent(QResizeEvent* event) override
     {
         constexpr int wide = 1500;
-        const bool isWide = event->size().width() >= wide;
-        const Qt::Orientation wanted = isWide ? Qt::Horizontal : Qt::Vertical;
-        const bool isNew = divided != wanted;
-        divided = wanted;
+        const Qt::Orientation wanted = event->size().width() >= wide ? Qt::Horizontal : Qt::Vertical;
+        if (wanted != orientation())
+            isUsersChoice = false;
         setOrientation(wanted);
         QSplitter::resizeEvent(event);
-        if (isNew)
+        if (!isUsersChoice)
             divide(event->size());
     }
 
 private:
     void divide(const QSize& size)
     {
+        constexpr int widest = 780;
+        constexpr int highest = 220;
         const bool isWide = orientation() == Qt::Horizontal;
         const int all = isWide ? size.width() : size.height();
-        const int second = isWide ? all * 2 / 5 : std::min(all / 3, 220);
+        const int second = isWide ? std::min(all * 2 / 5, widest) : std::min(all / 4, highest);
         setSizes({all - second, second});
     }
 
-    std::optional<Qt::Orientation> divided;
+    bool isUsersChoice = false;
 };
 
 } // namespace

@@ -65,10 +65,23 @@ private:
 
 TableView* asView(const Table* table) { return static_cast<TableView*>(table->widget()); }
 
+/// Broken at the blank nearest to the middle.
+QString inTwoLines(QString text)
+{
+    const auto middle = text.size() / 2;
+    const auto before = text.lastIndexOf(' ', middle);
+    const auto after = text.indexOf(' ', middle);
+    const bool isBefore = after < 0 || (before >= 0 && middle - before < after - middle);
+    const auto blank = isBefore ? before : after;
+    if (blank >= 0)
+        text[blank] = '\n';
+    return text;
+}
+
 QTableWidgetItem* heading(const std::string& text)
 {
     const QString all = QString::fromStdString(text);
-    auto* const item = new QTableWidgetItem(QString(all).replace(", ", ",\n")); // the unit below the name
+    auto* const item = new QTableWidgetItem(inTwoLines(all));
     item->setData(Qt::AccessibleTextRole, all);
     return item;
 }
