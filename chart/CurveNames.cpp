@@ -123,14 +123,17 @@ std::vector<Curve> NamedWetBulbs(Layout& chart, const Tracer& tracer, const Rim&
 void AddEnthalpyScale(Layout& chart, const std::vector<Curve>& enthalpies, const Rim& rim,
                       const Lettering& letters)
 {
-    const QPolygonF scale = rim.outside(
+    const QPolygonF scale = (chart.frame.hasColdScale ? rim : rim.withoutColdEdge()).outside(
         [&](const QPointF& outward) { return ScaleDistance(outward, letters, chart.view); });
     chart.scales.push_back({Family::Enthalpy, 0, scale});
     chart.labels.avoidLine(scale);
     for (const Curve& curve : enthalpies) {
         const std::optional<ScaleMark> mark = MarkOn(scale, curve, rim);
-        if (!mark)
+        if (!mark) {
+            chart.labels.addOnOneOf(Along(curve.line, letters.label(RoundFigure(curve.value), curve.family),
+                                          chart.plane.plot, {0.15, 0.25, 0.35}));
             continue;
+        }
         chart.scales.push_back({Family::Enthalpy, curve.value, {mark->tick.p1(), mark->tick.p2()}});
         Label figure = letters.label(RoundFigure(curve.value), Family::Enthalpy);
         figure.size.rwidth() -= 2;

@@ -26,22 +26,22 @@ double beside(const QPointF& outward, const Lettering& letters, const View& view
     return hasScale ? ScaleDistance(outward, letters, view) + Tick + row + 2 : row + curveGap;
 }
 
-QMarginsF psychrometric(const Frame& frame, const Lettering& letters, const View& view, bool hasColdScale)
+QMarginsF psychrometric(const Frame& frame, const Lettering& letters, const View& view)
 {
     const double line = letters.height();
     const double grains = frame.hasGrains ? letters.width("0000") + Tick + AxisGap + 2 : 0;
-    return {beside({-1, 0}, letters, view, frame.hasEnthalpy && hasColdScale),
+    return {beside({-1, 0}, letters, view, frame.hasColdScale),
             beside({0, -1}, letters, view, frame.hasEnthalpy) + 0.3 * line,
             letters.width("0.0000") + line * 1.5 + AxisGap + grains, line * 2.8};
 }
 
-QMarginsF mollier(const Frame& frame, const Lettering& letters, const View& view, bool hasColdScale)
+QMarginsF mollier(const Frame& frame, const Lettering& letters, const View& view)
 {
     const double line = letters.height();
     const double grains = frame.hasGrains ? line + Tick + 2 : 0;
     return {letters.width("-000") + line * 1.5 + AxisGap, line * 2.6 + AxisGap + grains,
             beside({1, 0}, letters, view, frame.hasEnthalpy),
-            beside({0, 1}, letters, view, frame.hasEnthalpy && hasColdScale) + 0.3 * line};
+            beside({0, 1}, letters, view, frame.hasColdScale) + 0.3 * line};
 }
 
 } // namespace
@@ -62,9 +62,9 @@ Frame FrameIn(const QRectF& area, const Lettering& letters, const View& view, co
     Frame frame;
     frame.hasGrains = isLarge && !IsMetric();
     frame.hasEnthalpy = isLarge && view.switches.enthalpy && air.isDefined();
-    const bool hasColdScale = partOfColdEdge(span, air) > leastForTwoRows;
+    frame.hasColdScale = frame.hasEnthalpy && partOfColdEdge(span, air) > leastForTwoRows;
     const auto& marginsOf = view.switches.mollier ? mollier : psychrometric;
-    const QRectF plot = area.marginsRemoved(marginsOf(frame, letters, view, hasColdScale));
+    const QRectF plot = area.marginsRemoved(marginsOf(frame, letters, view));
     frame.plot = plot.isValid() ? QRectF(plot.toAlignedRect()) & area : QRectF();
     return frame;
 }

@@ -15,6 +15,7 @@ struct Frame
     QRectF plot;
     bool hasGrains = false;   ///< a second scale beside the humidity ratio
     bool hasEnthalpy = false; ///< a scale beyond saturation
+    bool hasColdScale = false; ///< also along the edge of the cold air
 };
 
 /// The largest plot, on whole pixels, with margins for the figures and titles of its scales.

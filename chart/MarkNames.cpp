@@ -44,6 +44,7 @@ void AddOverlayNames(Layout& chart, const Lettering& letters)
         value.calculator = ratio.calculator;
         chart.labels.addOnOneOf(Along({ratio.line.p1(), ratio.line.p2()}, value, chart.plane.plot,
                                       {0.9, 0.1, 0.85, 0.15, 0.8, 0.2, 0.75, 0.25, 0.95, 0.05, 0.7, 0.3}));
+        chart.labels.avoid({ratio.line.p1(), ratio.line.p2()});
     }
 }
 

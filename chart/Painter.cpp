@@ -34,9 +34,9 @@ public:
             paintCurve(curve);
         paintFrame();
         paintScales();
-        paintHalos();
         for (const HeatRatio& ratio : chart.heatRatios)
             paintHeatRatio(ratio);
+        paintHalos();
         for (const Process& process : chart.processes)
             paintProcess(process);
         for (const Mark& mark : chart.marks)
@@ -192,10 +192,9 @@ private:
     {
         if (chart.crossHairReading.empty())
             return;
-        painter.setPen(QPen(theme.text({}), 1));
+        painter.setPen(theme.axis());
         for (const QLineF& line : chart.crossHair)
             painter.drawLine(line);
-        painter.setPen(theme.axis());
         painter.setBrush(theme.paper());
         painter.drawRect(chart.crossHairPanel);
         for (const Label& label : chart.crossHairReading)

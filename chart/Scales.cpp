@@ -31,7 +31,8 @@ Rim::Rim(const Plane& plane, const QPolygonF& saturation) : isMollier(plane.isMo
     const QPointF first = saturation.front();
     const QPointF last = saturation.back();
     const bool fromColdEdge = isMollier ? first.y() > cold.y() - onEdge : first.x() < cold.x() + onEdge;
-    if (fromColdEdge && first != cold)
+    hasColdEdge = fromColdEdge && first != cold;
+    if (hasColdEdge)
         rim << cold;
     rim << saturation;
     const bool toMoistEdge = isMollier ? last.x() > moist.x() - onEdge : last.y() < moist.y() + onEdge;
@@ -46,6 +47,14 @@ QPointF Rim::outward(int chord) const
     const QPointF left(along.y(), -along.x());
     const double length = lengthOf(along);
     return length > 0 ? (isMollier ? -left : left) / length : QPointF(0, isMollier ? 1 : -1);
+}
+
+Rim Rim::withoutColdEdge() const
+{
+    Rim rest = *this;
+    if (hasColdEdge)
+        rest.rim.removeFirst();
+    return rest;
 }
 
 int Rim::nearestChord(const QPointF& point) const

@@ -15,6 +15,7 @@ public:
     Rim(const Plane& plane, const QPolygonF& saturation);
 
     const QPolygonF& line() const { return rim; }
+    Rim withoutColdEdge() const;
     double distanceTo(const QPointF& point) const;
     /// The direction away from the air at a point of the rim.
     QPointF outwardAt(const QPointF& point) const;
@@ -35,6 +36,7 @@ private:
 
     QPolygonF rim; ///< from cold to moist
     bool isMollier;
+    bool hasColdEdge = false;
 };
 
 /// A place on a scale, and the direction of its figure.

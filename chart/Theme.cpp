@@ -29,16 +29,24 @@ const std::array<Pair, 5> runs{{{{112, 48, 150}, {205, 150, 240}},
                                 {{190, 88, 0}, {255, 170, 85}},
                                 {{0, 118, 104}, {80, 210, 190}}}};
 
-/// How opaque the thin lines are.
-struct Opacity
+/// How strong the thin lines are, from 0 (as the ground) to 1.
+struct Strength
 {
-    int curve;
-    int grid;
-    int axis;
+    float curve;
+    float grid;
+    float axis;
 };
 
-constexpr Opacity calm{.curve = 130, .grid = 40, .axis = 170};
-constexpr Opacity strong{.curve = 255, .grid = 110, .axis = 255};
+constexpr Strength calm{.curve = 0.51F, .grid = 0.16F, .axis = 0.67F};
+constexpr Strength strong{.curve = 1, .grid = 0.43F, .axis = 1};
+
+/// An opaque color: the toolkit paints lines that let the ground through several times slower.
+QColor mixed(const QColor& color, const QColor& ground, float strength)
+{
+    const auto mix = [strength](float one, float other) { return one * strength + other * (1 - strength); };
+    return QColor::fromRgbF(mix(color.redF(), ground.redF()), mix(color.greenF(), ground.greenF()),
+                            mix(color.blueF(), ground.blueF()));
+}
 
 } // namespace
 
@@ -50,20 +58,18 @@ Theme::Theme(const QPalette& desktop)
 
 QColor Theme::axis() const
 {
-    QColor color = palette.color(QPalette::WindowText);
-    color.setAlpha((isStrong ? strong : calm).axis);
-    return color;
+    return mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window),
+                 (isStrong ? strong : calm).axis);
 }
 
 QPen Theme::pen(Family family) const
 {
-    QColor color = text(family);
+    const QColor color = text(family);
     if (family == Family::Saturation)
         return {color, 2.2};
     const bool isGrid = family == Family::DryBulb || family == Family::HumidityRatio;
-    const Opacity& opacity = isStrong ? strong : calm;
-    color.setAlpha(isGrid ? opacity.grid : opacity.curve);
-    QPen pen(color, 1);
+    const Strength& strength = isStrong ? strong : calm;
+    QPen pen(mixed(color, paper(), isGrid ? strength.grid : strength.curve), 1);
     if (family == Family::WetBulb)
         pen.setDashPattern({7, 3});
     if (family == Family::Enthalpy)
@@ -73,15 +79,13 @@ QPen Theme::pen(Family family) const
 
 QPen Theme::scale(Family family) const
 {
-    QColor color = text(family);
-    color.setAlpha((isStrong ? strong : calm).axis);
-    return {color, 1};
+    return {mixed(text(family), palette.color(QPalette::Window), (isStrong ? strong : calm).axis), 1};
 }
 
 QColor Theme::zone() const
 {
     QColor color = comfort.on(isDark);
-    color.setAlpha(38);
+    color.setAlpha(38); // the zones overlap
     return color;
 }
 

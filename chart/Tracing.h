@@ -57,13 +57,14 @@ Axis PartWithin(const Axis& limits, const Axis& interval, const Coordinate& coor
 template <class PointAt>
 QPolygonF Traced(const QRectF& plot, Axis interval, double chord, const PointAt& pointAt)
 {
-    constexpr double leastLength = 2; // pixels
+    constexpr double leastLength = 2;  // pixels
+    constexpr double onTheEdge = 1e-6; // pixels, so that rounding does not lose a line at the edge
     const auto x = [&](double p) { return pointAt(p).x(); };
     const auto y = [&](double p) { return pointAt(p).y(); };
     if (interval.high > interval.low)
-        interval = PartWithin({plot.top(), plot.bottom()}, interval, y);
+        interval = PartWithin({plot.top() - onTheEdge, plot.bottom() + onTheEdge}, interval, y);
     if (interval.high > interval.low)
-        interval = PartWithin({plot.left(), plot.right()}, interval, x);
+        interval = PartWithin({plot.left() - onTheEdge, plot.right() + onTheEdge}, interval, x);
     if (!(interval.high > interval.low))
         return {};
     const double length = QLineF(pointAt(interval.low), pointAt(interval.high)).length();
