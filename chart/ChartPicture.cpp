@@ -1,6 +1,8 @@
 #include "chart/ChartPicture.h"
 
+#include "chart/Keeping.h"
 #include "chart/Painter.h"
+#include "chart/Steps.h"
 #include "chart/Texts.h"
 #include "core/StatePoint.h"
 
@@ -8,13 +10,30 @@
 #include <QPainter>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace chart {
 namespace {
 
-constexpr double tipReach = 8; // distance from a mark, in pixels
+constexpr double reach = 8; // of a mark for the pointer, in pixels
 
-/// With all digits of the single.
-QString exactly(Single value) { return QString::number(value, 'g', 9); }
+QString exactly(double value) { return QString::number(value, 'g', 17); }
+
+QString exactly(const View& view)
+{
+    QStringList parts;
+    for (const SwitchRow& row : switchRows)
+        parts << (view.switches.*row.isOn ? "1" : "0");
+    std::vector<Place> places = view.pins;
+    parts << QString::number(places.size());
+    if (view.crossHair)
+        places.push_back(*view.crossHair);
+    if (view.zoom)
+        places.insert(places.end(), {{view.zoom->tdb.low, view.zoom->tdb.high}, {view.zoom->w.low, view.zoom->w.high}});
+    for (const Place& place : places)
+        parts << exactly(place.Tdb) << exactly(place.W);
+    return parts.join(' ');
+}
 
 QString describe(const Air& air, const Place& place)
 {
@@ -28,16 +47,33 @@ QString describe(const Air& air, const Place& place)
 QString describe(const Mark& mark)
 {
     const RunState& state = mark.state;
-    const QString title =
-        mark.calculator ? TitleOf(*mark.calculator) + (", " + QString::fromStdString(state.name)) : mark.name;
+    const QString title = mark.calculator
+                              ? TitleOf(*mark.calculator) + (", " + QString::fromStdString(state.name))
+                              : "Pin " + mark.name;
     return title + "\n" + describe(Air(state.P), {state.Tdb, state.W}) + "\nat " + PressureText(state.P);
 }
 
 } // namespace
 
+ChartPicture::~ChartPicture()
+{
+    if (painted)
+        Choices::inForce().leave(this);
+}
+
+View ChartPicture::view() const
+{
+    View shown{.switches = Choices::inForce().switches(), .pins = Choices::inForce().pins()};
+    if (isPresent()) {
+        shown.crossHair = crossHair;
+        shown.zoom = zoom;
+    }
+    return shown;
+}
+
 std::string ChartPicture::version() const
 {
-    QStringList parts{QString::number(UnitSystem), exactly(BaroPressure)};
+    QStringList parts{QString::number(UnitSystem), exactly(BaroPressure), exactly(view())};
     for (const Run& run : ShownRuns()) {
         parts << TitleOf(run.calculator);
         for (const RunState& state : run.states)
@@ -49,9 +85,10 @@ std::string ChartPicture::version() const
 
 void ChartPicture::paint(QPainter& painter, const QSize& size, const QWidget& on)
 {
-    painted.emplace(size, on.font(), view);
+    Choices::inForce().listen(this, [this] { changed(); });
+    painted.emplace(size, on.font(), view());
     Paint(painter, *painted, on.palette());
-    painted->curves.clear(); // not needed for tips
+    painted->curves.clear(); // not needed for readings
 }
 
 std::string ChartPicture::tipAt(const QPoint& place) const
@@ -60,14 +97,109 @@ std::string ChartPicture::tipAt(const QPoint& place) const
         return {};
     QStringList tips;
     for (const Mark& mark : painted->marks) {
-        if (QLineF(mark.place, place).length() <= tipReach)
+        if (QLineF(mark.place, place).length() <= reach)
             tips.append(describe(mark));
     }
     if (!tips.isEmpty())
         return tips.join("\n\n").toStdString();
-    const Place pointed = painted->plane.placeAt(place);
+    const bool isCrossHair = keyPlace() == place; // which stands on whole units
+    const Place pointed = isCrossHair ? *crossHair : painted->plane.placeAt(place);
     const bool isShown = painted->plane.plot.contains(place) && IsAir(painted->air, pointed);
     return isShown ? describe(painted->air, pointed).toStdString() : std::string();
+}
+
+std::vector<forms::PictureCommand> ChartPicture::commands()
+{
+    std::vector<forms::PictureCommand> all;
+    if (openWindow)
+        all.push_back({"mnuOpenChart", "&Open Chart", "Ctrl+O", openWindow});
+    all.push_back({"mnuCopyPicture", "&Copy Picture", "Ctrl+C; Ctrl+Ins", [this] { CopyPicture(view()); }});
+    all.push_back({"mnuCopyFigures", "Copy &Figures", "Ctrl+Shift+C", [] { CopyFigures(); }});
+    all.push_back({"mnuSavePicture", "&Save Picture as...", "Ctrl+S", [this] { SavePicture(form, view()); }});
+    all.push_back({"mnuPrintPicture", "&Print...", "Ctrl+P", [this] { PrintPicture(form, view()); }});
+    return all;
+}
+
+void ChartPicture::click(const QPoint& place)
+{
+    pinsBeforeClick = Choices::inForce().pins();
+    if (!painted || !painted->plane.plot.contains(place))
+        return;
+    const Place pointed = painted->plane.placeAt(place);
+    if (IsAir(painted->air, pointed))
+        pin(pointed);
+}
+
+/// Pins a reading, or lets go the pins that are there already.
+void ChartPicture::pin(const Place& place)
+{
+    std::vector<Place> pins = Choices::inForce().pins();
+    const QPointF point = painted->plane.at(place);
+    const auto letGo = std::erase_if(
+        pins, [&](const Place& other) { return QLineF(painted->plane.at(other), point).length() <= reach; });
+    if (letGo == 0)
+        pins.push_back(place);
+    Choices::inForce().setPins(std::move(pins));
+}
+
+/// Opens the window, and undoes its first click.
+void ChartPicture::doubleClick(const QPoint& /*place*/)
+{
+    Choices::inForce().setPins(pinsBeforeClick);
+    if (openWindow)
+        openWindow();
+}
+
+bool ChartPicture::pressKey(int key, Qt::KeyboardModifiers modifiers)
+{
+    modifiers &= ~Qt::KeypadModifier;
+    const bool isShifted = modifiers == Qt::ShiftModifier;
+    if (!painted || (modifiers != Qt::NoModifier && !isShifted))
+        return false;
+    if (const auto step = StepOf(key, isShifted, painted->plane.isMollier)) {
+        moveCrossHair(*step);
+        return true;
+    }
+    if (key == Qt::Key_Escape)
+        return clear();
+    const bool isPinned = (key == Qt::Key_Return || key == Qt::Key_Enter) && keyPlace();
+    if (isPinned)
+        pin(*crossHair);
+    return isPinned;
+}
+
+void ChartPicture::moveCrossHair(const Step& step)
+{
+    if (!isPresent())
+        zoom.reset();
+    crossHair = Moved(view().crossHair, step, painted->air, painted->plane);
+    lookedAt = Conditions::inForce();
+}
+
+/// Returns false if there is nothing to clear.
+bool ChartPicture::clear()
+{
+    const bool isAnything = view().crossHair || !Choices::inForce().pins().empty();
+    crossHair.reset();
+    Choices::inForce().setPins({});
+    return isAnything;
+}
+
+void ChartPicture::zoomTo(const std::optional<Span>& span)
+{
+    if (!isPresent())
+        crossHair.reset();
+    zoom = span;
+    if (painted && span)
+        painted->plane.span = *span; // for a movement that comes before the next picture
+    lookedAt = Conditions::inForce();
+}
+
+std::optional<QPoint> ChartPicture::keyPlace() const
+{
+    if (!painted || !view().crossHair)
+        return std::nullopt;
+    return painted->plane.at(*crossHair).toPoint();
 }
 
 } // namespace chart

@@ -5,6 +5,8 @@
 #include <QFileDialog>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 using namespace forms;
 
 namespace {
@@ -19,21 +21,36 @@ QStringList nameFilters(std::string_view filter)
     return names;
 }
 
-} // namespace
-
-std::string ShowSaveDialog(const Form& owner, std::string_view filter, const std::string& title,
-                           const std::string& folder)
+/// @param file  a folder, or a file in it
+SaveChoice ask(const Form& owner, std::string_view filter, const std::string& title, const std::string& file)
 {
-    QFileDialog dialog(owner.window(), QString::fromStdString(title), QString::fromStdString(folder));
+    QFileDialog dialog(owner.window(), QString::fromStdString(title), QString::fromStdString(file));
     dialog.setObjectName("SaveDialog");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontUseNativeDialog); // some native dialogs ask before overwriting
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilters(nameFilters(filter));
+    const QStringList filters = nameFilters(filter);
+    dialog.setNameFilters(filters);
     if (dialog.exec() != QDialog::Accepted)
         return {};
     static const QRegularExpression blanksAround("^ +| +\\z");
-    return dialog.selectedFiles().value(0).remove(blanksAround).toStdString();
+    const qsizetype chosen = filters.indexOf(dialog.selectedNameFilter());
+    return {.path = dialog.selectedFiles().value(0).remove(blanksAround).toStdString(),
+            .filter = static_cast<std::size_t>(std::max<qsizetype>(chosen, 0))};
+}
+
+} // namespace
+
+std::string ShowSaveDialog(const Form& owner, std::string_view filter, const std::string& title,
+                           const std::string& folder)
+{
+    return ask(owner, filter, title, folder).path;
+}
+
+SaveChoice AskWhereToSave(const Form& owner, std::string_view filter, const std::string& title,
+                          const std::string& proposal)
+{
+    return ask(owner, filter, title, proposal);
 }

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include <initializer_list>
+#include <vector>
 
 namespace forms {
 
@@ -54,6 +55,6 @@ void SetLeastHeight(const Control& control, int height);
 void SetLeastWidth(const Control& control, int width);
 
 /// Sets the tab order.
-void SetTabOrder(std::initializer_list<const Control*> controls);
+void SetTabOrder(const std::vector<const Control*>& controls);
 
 } // namespace forms

@@ -24,11 +24,14 @@ namespace {
 
 QString q(const std::string& text) { return QString::fromStdString(text); }
 
-/// The window that accepts input: the modal one, else the one shown.
+/// The window that accepts input: the modal one, else the active one, else the one shown.
 QWidget* windowInUse()
 {
     if (QWidget* modal = QApplication::activeModalWidget())
         return modal;
+    QWidget* const active = QApplication::activeWindow();
+    if (qobject_cast<QMainWindow*>(active) != nullptr && active->isVisible())
+        return active;
     for (QWidget* top : QApplication::topLevelWidgets()) {
         if (qobject_cast<QMainWindow*>(top) != nullptr && top->isVisible())
             return top;
@@ -72,7 +75,8 @@ void User::lookAtScreen()
     QWidget* const modal = QApplication::activeModalWidget();
     if (modal == nullptr || !modal->isVisible())
         return;
-    if (auto* const box = qobject_cast<QMessageBox*>(modal)) {
+    auto* const box = qobject_cast<QMessageBox*>(modal);
+    if (box != nullptr && box->button(QMessageBox::Ok) != nullptr) {
         messages.push_back({box->text().toStdString(), box->windowTitle().toStdString()});
         std::cerr << "message: " << messages.back().title << ": " << messages.back().text << '\n';
         if (const auto actions = std::exchange(messageActions, nullptr))
