@@ -7,7 +7,6 @@
 namespace chart {
 namespace {
 
-constexpr double grainsPerPound = 7000;
 constexpr double edge = 0.5; // pixels
 
 class AxisNames
@@ -24,11 +23,11 @@ public:
                 nameDryBulb(curve);
         }
         const Label title = letters.label("Dry bulb, " + TdbUnit(), Family::DryBulb);
-        const double away = AxisGap + letters.height() * 0.7;
+        const double away = AxisGap + letters.height() * 0.7; // from the figures to the middle of the title
         if (plane.isMollier)
-            add(title, {plot.left() - letters.width("-000") - away, plot.center().y()}, -90);
+            add(title, {plot.left() - chart.frame.tdbWidth - 4 - away, plot.center().y()}, -90);
         else
-            add(title, {plot.center().x(), plot.bottom() + away + letters.height()});
+            add(title, {plot.center().x(), plot.bottom() + figureGap() + letters.height() * 1.6});
     }
 
     void nameHumidityRatios()
@@ -48,7 +47,7 @@ public:
     void nameGrains()
     {
         const Axis& w = plane.span.w;
-        const Axis grains{w.low * grainsPerPound, w.high * grainsPerPound};
+        const Axis grains{w.low * GrainsPerPound, w.high * GrainsPerPound};
         const double pixels = plane.isMollier ? plot.width() : plot.height();
         addScaleLine();
         for (const double grain : grains.multiples(grains.step(pixels, 26)))
@@ -75,7 +74,7 @@ private:
         if (plane.isMollier && start.x() < plot.left() + edge)
             add(figure, start - QPointF(AxisGap + figure.size.width() / 2, 0));
         if (!plane.isMollier && start.y() > plot.bottom() - edge)
-            add(figure, start + QPointF(0, AxisGap + letters.height() / 2));
+            add(figure, start + QPointF(0, figureGap() + letters.height() / 2));
     }
 
     void nameHumidityRatio(const Curve& tick)
@@ -83,20 +82,23 @@ private:
         const Label figure = letters.label(HumidityRatioFigure(tick.value, plane.wStep()), tick.family);
         const QPointF end = tick.line.back();
         if (plane.isMollier && end.y() < plot.top() + edge)
-            add(figure, end - QPointF(0, AxisGap + letters.height() / 2));
+            add(figure, end - QPointF(0, figureGap() + letters.height() / 2));
         if (!plane.isMollier && end.x() > plot.right() - edge)
             add(figure, end + QPointF(AxisGap + figure.size.width() / 2, 0));
     }
 
+    /// Between the horizontal axis and its figures: the last of them is beside the first of the other axis.
+    double figureGap() const { return letters.height() / 2 + 1; }
+
     /// Of the humidity ratio's figures.
     double ratioDepth() const
     {
-        return plane.isMollier ? letters.height() + AxisGap + 1 : letters.width("0.0000") + AxisGap;
+        return plane.isMollier ? letters.height() + figureGap() + 1 : chart.frame.ratioWidth + AxisGap;
     }
 
     double grainsDepth() const
     {
-        return plane.isMollier ? letters.height() + Tick + 2 : letters.width("0000") + Tick + 2;
+        return plane.isMollier ? letters.height() + Tick + 2 : chart.frame.grainsWidth + Tick + 2;
     }
 
     QPointF grainsAt(double w) const
@@ -117,7 +119,7 @@ private:
     void nameGrain(double grain)
     {
         const QPointF outward = plane.isMollier ? QPointF(0, -1) : QPointF(1, 0);
-        const QPointF start = grainsAt(grain / grainsPerPound);
+        const QPointF start = grainsAt(grain / GrainsPerPound);
         chart.scales.push_back({Family::HumidityRatio, grain, {start, start + outward * (Tick - 1)}});
         const Label figure = letters.label(RoundFigure(grain), Family::HumidityRatio);
         add(figure, start + outward * (Tick + Reach(figure.size, outward) - 1));

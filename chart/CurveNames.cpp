@@ -20,26 +20,62 @@ std::vector<const Curve*> membersOf(Family family, const std::vector<Curve>& cur
     return members;
 }
 
-/// Outside the rim at the curve's start, or on the curve.
-std::vector<Label> placesOf(const Curve& curve, const Rim& rim, const Lettering& letters, const QRectF& plot)
+/// Outside the rim at the curve's start.
+std::vector<Label> outsidePlaces(const Curve& curve, const Rim& rim, Label figure)
 {
-    Label figure = letters.label(RoundFigure(curve.value), curve.family);
-    figure.size.rwidth() -= 2;
     const QPointF outward = rim.outwardAt(curve.line.front());
     const QPointF along(-outward.y(), outward.x());
     const QPointF start = curve.line.front() + outward * (curveGap + Reach(figure.size, outward));
     std::vector<Label> places;
-    for (const double aside : {0.0, -4.0, 4.0, -8.0, 8.0}) {
-        figure.center = start + along * aside;
-        places.push_back(figure);
+    for (const double aside : {0.0, -4.0, 4.0, -8.0, 8.0, -12.0, 12.0}) {
+        for (const double farther : {0.0, 2.0}) {
+            figure.center = start + along * aside + outward * farther;
+            places.push_back(figure);
+        }
     }
-    for (const Label& inside : Along(curve.line, figure, plot, {0.1, 0.2, 0.3, 0.5, 0.7}))
-        places.push_back(inside);
     return places;
 }
 
+double lengthOf(const Curve& curve) { return QLineF(curve.line.front(), curve.line.back()).length(); }
+
+/// The places for the names of wet bulb lines. If something is in the way of a name, the line is left out if
+/// it is short, or has the name on itself.
+class WetBulbPlaces
+{
+public:
+    WetBulbPlaces(const Layout& ofChart, std::vector<Curve> ofLines, const Rim& rim, const Lettering& letters)
+        : chart(ofChart)
+    {
+        for (Curve& line : ofLines) {
+            Label figure = letters.label(RoundFigure(line.value), line.family);
+            figure.size.rwidth() -= 2;
+            std::vector<Label> outside = outsidePlaces(line, rim, figure);
+            add(std::move(line), std::move(outside), figure);
+        }
+    }
+
+    std::vector<Curve> lines;
+    std::vector<std::vector<Label>> places;
+    int onLines = 0;
+
+private:
+    void add(Curve line, std::vector<Label> outside, const Label& figure)
+    {
+        constexpr double shortLine = 30; // pixels
+        const bool isFree = chart.labels.hasPlaceFor(outside);
+        if (!isFree && lengthOf(line) < shortLine)
+            return;
+        onLines += isFree ? 0 : 1;
+        places.push_back(isFree ? std::move(outside)
+                                : Along(line.line, figure, chart.plane.plot, {0.1, 0.2, 0.3, 0.5, 0.7}));
+        lines.push_back(std::move(line));
+    }
+
+    const Layout& chart;
+};
+
 /// Along the scale, beyond its figures.
-std::vector<Label> titlesOf(const QPolygonF& scale, Label title, double away, bool isMollier)
+std::vector<Label> titlesOf(const QPolygonF& scale, Label title, const QSizeF& figure, bool isMollier)
 {
     QPainterPath path;
     path.addPolygon(scale);
@@ -47,7 +83,9 @@ std::vector<Label> titlesOf(const QPolygonF& scale, Label title, double away, bo
     for (const double part : {0.55, 0.5, 0.6, 0.45, 0.65, 0.4, 0.7, 0.3, 0.8, 0.2, 0.9}) {
         const double angle = path.angleAtPercent(part);
         title.angle = -angle;
-        title.center = path.pointAtPercent(part) + QLineF::fromPolar(away, angle + (isMollier ? -90 : 90)).p2();
+        const QPointF outward = QLineF::fromPolar(1, angle + (isMollier ? -90 : 90)).p2();
+        const double away = Tick + 2 * Reach(figure, outward) + title.size.height() / 2;
+        title.center = path.pointAtPercent(part) + outward * away;
         places.push_back(title);
     }
     return places;
@@ -101,30 +139,25 @@ std::vector<Label> Along(const QPolygonF& line, Label label, const QRectF& plot,
 std::vector<Curve> NamedWetBulbs(Layout& chart, const Tracer& tracer, const Rim& rim,
                                  const Lettering& letters)
 {
-    constexpr double leastApart = 13; // pixels
-    constexpr double widest = 90;
-    const double closest = tracer.wetBulbStep(leastApart);
-    double step = closest;
-    for (double apart = leastApart; apart < widest; apart *= 1.5) {
-        const double next = tracer.wetBulbStep(apart);
-        if (apart > leastApart && next == step)
-            continue;
-        step = next;
-        std::vector<Curve> curves = tracer.wetBulbs(step);
-        std::vector<std::vector<Label>> places;
-        for (const Curve& curve : curves)
-            places.push_back(placesOf(curve, rim, letters, chart.plane.plot));
-        if (chart.labels.addOneOfEach(places))
-            return curves;
+    constexpr double leastApart = 20; // pixels
+    constexpr int mostSteps = 4;
+    constexpr int mostOnLines = 2;
+    double step = tracer.wetBulbStep(leastApart);
+    std::vector<Curve> closest = tracer.wetBulbs(step);
+    for (int count = 0; count < mostSteps; ++count) {
+        WetBulbPlaces places(chart, count == 0 ? closest : tracer.wetBulbs(step), rim, letters);
+        if (places.onLines <= mostOnLines && chart.labels.addOneOfEach(places.places))
+            return std::move(places.lines);
+        step = Axis{0, step}.step(1, 1.5);
     }
-    return tracer.wetBulbs(closest);
+    return closest;
 }
 
 void AddEnthalpyScale(Layout& chart, const std::vector<Curve>& enthalpies, const Rim& rim,
                       const Lettering& letters)
 {
     const QPolygonF scale = (chart.frame.hasColdScale ? rim : rim.withoutColdEdge()).outside(
-        [&](const QPointF& outward) { return ScaleDistance(outward, letters, chart.view); });
+        [&](const QPointF& outward) { return ScaleDistance(outward, letters, chart.frame); });
     chart.scales.push_back({Family::Enthalpy, 0, scale});
     chart.labels.avoidLine(scale);
     for (const Curve& curve : enthalpies) {
@@ -141,8 +174,8 @@ void AddEnthalpyScale(Layout& chart, const std::vector<Curve>& enthalpies, const
         chart.labels.add(figure);
     }
     const Label title = letters.label("Enthalpy, " + EnthalpyUnit(), Family::Enthalpy);
-    const double away = Tick + letters.width("000") + letters.height() / 2 + 2;
-    chart.labels.addOnOneOf(titlesOf(scale, title, away, chart.plane.isMollier));
+    const QSizeF figure = letters.label("000").size;
+    chart.labels.addOnOneOf(titlesOf(scale, title, figure, chart.plane.isMollier));
 }
 
 void AddCurveNames(Layout& chart, const Lettering& letters)

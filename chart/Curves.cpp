@@ -77,19 +77,22 @@ double Tracer::bentChord() const
     return std::max(shortestChord, std::sqrt(0.1 * std::min(plane.plot.width(), plane.plot.height())));
 }
 
-/// The round step of a family whose lines are that far apart near the cold and dry corner of the plot, where
-/// they are closest.
-template <class ValueAt> double Tracer::stepOf(double leastApart, const ValueAt& valueAt) const
+/// How much a value changes across and up, away from a corner of the plot.
+template <class ValueAt>
+QPointF Tracer::changePerPixel(const QPointF& corner, const ValueAt& valueAt) const
 {
     constexpr double near = 0.1; // part of the plot
-    const double across = plane.plot.width() * near;
-    const double up = plane.plot.height() * near;
-    const auto value = [&](double x, double y) {
-        return valueAt(plane.placeAt(plane.plot.bottomLeft() + QPointF(x, -y)));
-    };
-    const double corner = value(0, 0);
-    const double change = std::hypot((value(across, 0) - corner) / across, (value(0, up) - corner) / up);
-    return Axis{0, change}.step(1, leastApart);
+    const QPointF inwards = (plane.plot.center() - corner) * 2 * near;
+    const auto value = [&](const QPointF& away) { return valueAt(plane.placeAt(corner + away)); };
+    const double here = value({0, 0});
+    return {(value({inwards.x(), 0}) - here) / inwards.x(), (value({0, inwards.y()}) - here) / inwards.y()};
+}
+
+/// The round step of a family whose lines are that far apart.
+template <class ValueAt> double Tracer::stepOf(double leastApart, const ValueAt& valueAt) const
+{
+    const QPointF change = changePerPixel(plane.plot.bottomLeft(), valueAt);
+    return Axis{0, std::hypot(change.x(), change.y())}.step(1, leastApart);
 }
 
 std::vector<Curve> Tracer::dryBulbs() const
@@ -116,7 +119,14 @@ QPolygonF Tracer::humidity(double percent) const
 
 std::vector<Curve> Tracer::relativeHumidities() const
 {
-    const double step = std::min(plane.plot.height(), plane.plot.width()) < 240 ? 20 : 10;
+    const QRectF& plot = plane.plot;
+    const auto at = [this](const Place& place) {
+        return std::clamp(100 * air.relativeHumidity(place.Tdb, place.W), 0.0, 100.0);
+    };
+    const double moist = at(plane.placeAt(plane.isMollier ? plot.bottomRight() : plot.topLeft()));
+    const double dry = at(plane.placeAt(plane.isMollier ? plot.topLeft() : plot.bottomRight()));
+    const double parts = std::min(plot.height(), plot.width()) < 240 ? 5 : 10;
+    const double step = std::max(1.0, Axis{dry, moist}.step(parts, 0.99));
     return family(Family::RelativeHumidity, Axis{step, 100 - step}.multiples(step),
                   [this](double percent) { return humidity(percent); });
 }
@@ -143,9 +153,16 @@ QPolygonF Tracer::wetBulb(double twb) const
     return Traced(plane.plot, {start, tdb.high}, chordOfNearlyStraightOnes, place);
 }
 
+/// Along the axis of the dry bulb, the lines are closest in cold air; across the lines, in hot and dry air.
 double Tracer::wetBulbStep(double leastApart) const
 {
-    return stepOf(leastApart, [this](const Place& place) { return wetBulbAt(place); });
+    const QRectF& plot = plane.plot;
+    const auto valueAt = [this](const Place& place) { return wetBulbAt(place); };
+    const QPointF cold = changePerPixel(plot.bottomLeft(), valueAt);
+    const QPointF hot = changePerPixel(plane.isMollier ? plot.topLeft() : plot.bottomRight(), valueAt);
+    const double most =
+        std::max(std::fabs(plane.isMollier ? cold.y() : cold.x()), std::hypot(hot.x(), hot.y()));
+    return Axis{0, most}.step(1, leastApart);
 }
 
 std::vector<Curve> Tracer::wetBulbs(double step) const

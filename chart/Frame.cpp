@@ -1,5 +1,6 @@
 #include "chart/Frame.h"
 
+#include "chart/Texts.h"
 #include "core/StatePoint.h"
 
 #include <QMarginsF>
@@ -19,38 +20,59 @@ double partOfColdEdge(const Span& span, const Air& air)
     return (std::min(air.saturated(span.tdb.low), span.w.high) - span.w.low) / span.w.length();
 }
 
-/// The width or height of the figures of the oblique families beside an edge.
-double beside(const QPointF& outward, const Lettering& letters, const View& view, bool hasScale)
+double widestFigure(const Axis& axis, double step, const Lettering& letters)
 {
-    const double row = std::fabs(outward.x()) * letters.width("-000") + std::fabs(outward.y()) * letters.height();
-    return hasScale ? ScaleDistance(outward, letters, view) + Tick + row + 2 : row + curveGap;
+    const int decimals = std::max(0, static_cast<int>(std::ceil(-std::log10(step) - 1e-6)));
+    return std::max(letters.width(FormatFigure(axis.low, decimals)),
+                    letters.width(FormatFigure(axis.high, decimals)));
 }
 
-QMarginsF psychrometric(const Frame& frame, const Lettering& letters, const View& view)
+/// The width or height of the figures of the oblique families beside an edge.
+double beside(const QPointF& outward, const Lettering& letters, const Frame& frame, bool hasScale)
+{
+    const double row = std::fabs(outward.x()) * std::max(letters.width("-000"), frame.tdbWidth + 2) +
+                       std::fabs(outward.y()) * letters.height();
+    return hasScale ? ScaleDistance(outward, letters, frame) + Tick + row + 2 : row + curveGap;
+}
+
+QMarginsF psychrometric(const Frame& frame, const Lettering& letters)
 {
     const double line = letters.height();
-    const double grains = frame.hasGrains ? letters.width("0000") + Tick + AxisGap + 2 : 0;
-    return {beside({-1, 0}, letters, view, frame.hasColdScale),
-            beside({0, -1}, letters, view, frame.hasEnthalpy) + 0.3 * line,
-            letters.width("0.0000") + line * 1.5 + AxisGap + grains, line * 2.8};
+    const double grains = frame.hasGrains ? frame.grainsWidth + Tick + AxisGap + 2 : 0;
+    return {beside({-1, 0}, letters, frame, frame.hasColdScale),
+            beside({0, -1}, letters, frame, frame.hasEnthalpy) + (frame.hasColdScale ? 1.4 : 0.3) * line,
+            frame.ratioWidth + line * 1.3 + AxisGap + grains, line * 2.8};
 }
 
-QMarginsF mollier(const Frame& frame, const Lettering& letters, const View& view)
+QMarginsF mollier(const Frame& frame, const Lettering& letters)
 {
     const double line = letters.height();
     const double grains = frame.hasGrains ? line + Tick + 2 : 0;
-    return {letters.width("-000") + line * 1.5 + AxisGap, line * 2.6 + AxisGap + grains,
-            beside({1, 0}, letters, view, frame.hasEnthalpy),
-            beside({0, 1}, letters, view, frame.hasColdScale) + 0.3 * line};
+    return {frame.tdbWidth + line * 1.3 + AxisGap + 8, line * 2.8 + AxisGap + grains,
+            beside({1, 0}, letters, frame, frame.hasEnthalpy),
+            beside({0, 1}, letters, frame, frame.hasColdScale) + (frame.hasColdScale ? 1.4 : 0.3) * line};
+}
+
+void measureFigures(Frame& frame, const QRectF& area, const Lettering& letters, const View& view,
+                    const Span& span)
+{
+    const QSizeF along = view.switches.mollier ? area.size().transposed() : area.size();
+    frame.tdbWidth =
+        std::max(widestFigure(span.tdb, span.tdb.step(along.width(), 34), letters), letters.width("-00"));
+    const double unit = IsMetric() ? 1000 : 1;
+    const Axis ratio{span.w.low * unit, span.w.high * unit};
+    const Axis grains{span.w.low * GrainsPerPound, span.w.high * GrainsPerPound};
+    frame.grainsWidth = widestFigure(grains, grains.step(along.height(), 26), letters) + 5;
+    frame.ratioWidth = widestFigure(ratio, ratio.step(along.height(), 34), letters) + 6;
 }
 
 } // namespace
 
-double ScaleDistance(const QPointF& outward, const Lettering& letters, const View& view)
+double ScaleDistance(const QPointF& outward, const Lettering& letters, const Frame& frame)
 {
-    if (!view.switches.wetBulb)
+    if (!frame.hasWetBulb)
         return 2 * curveGap;
-    return std::fabs(outward.x()) * (letters.width("-00") + 2) + std::fabs(outward.y()) * letters.height() +
+    return std::fabs(outward.x()) * (frame.tdbWidth + 3) + std::fabs(outward.y()) * letters.height() +
            2 * curveGap;
 }
 
@@ -60,11 +82,13 @@ Frame FrameIn(const QRectF& area, const Lettering& letters, const View& view, co
     constexpr double leastForTwoRows = 0.25;
     const bool isLarge = std::min(area.width(), area.height()) >= leastForScales;
     Frame frame;
+    frame.hasWetBulb = view.switches.wetBulb;
     frame.hasGrains = isLarge && !IsMetric();
     frame.hasEnthalpy = isLarge && view.switches.enthalpy && air.isDefined();
     frame.hasColdScale = frame.hasEnthalpy && partOfColdEdge(span, air) > leastForTwoRows;
+    measureFigures(frame, area, letters, view, span);
     const auto& marginsOf = view.switches.mollier ? mollier : psychrometric;
-    const QRectF plot = area.marginsRemoved(marginsOf(frame, letters, view));
+    const QRectF plot = area.marginsRemoved(marginsOf(frame, letters));
     frame.plot = plot.isValid() ? QRectF(plot.toAlignedRect()) & area : QRectF();
     return frame;
 }

@@ -68,10 +68,21 @@ bool Labels::isFree(const Obstacle& place) const
     return picture.contains(place.bounds) && std::none_of(avoided.begin(), avoided.end(), isTouched);
 }
 
-bool Labels::add(const Label& label)
+Labels::Obstacle Labels::placeOf(const Label& label)
 {
     const QPolygonF outline = label.outline();
-    Obstacle place{outline, outline.boundingRect()};
+    return {outline, outline.boundingRect()};
+}
+
+bool Labels::hasPlaceFor(const std::vector<Label>& candidates) const
+{
+    return std::any_of(candidates.begin(), candidates.end(),
+                       [this](const Label& label) { return isFree(placeOf(label)); });
+}
+
+bool Labels::add(const Label& label)
+{
+    Obstacle place = placeOf(label);
     if (!isFree(place))
         return false;
     avoided.push_back(std::move(place));

@@ -92,9 +92,9 @@ private:
 
     void placeLegend(QRectF area)
     {
-        const Legend legend(chart.air, chart.plane, chart.runs, letters);
+        const Legend legend(chart, letters);
         const QPointF outward(chart.plane.isMollier ? 0.7 : -0.7, chart.plane.isMollier ? 0.7 : -0.7);
-        const double figures = chart.frame.hasEnthalpy ? ScaleDistance(outward, letters, chart.view) + Tick : 0;
+        const double figures = chart.frame.hasEnthalpy ? ScaleDistance(outward, letters, chart.frame) + Tick : 0;
         const double least = figures + letters.width("00000");
         std::vector<Label> labels = legend.inCorner(Rim(chart.plane, saturation), least);
         if (labels.empty()) {

@@ -12,13 +12,16 @@ constexpr double runGap = 22; // between the runs of a line
 
 } // namespace
 
-Legend::Legend(const Air& ofChart, const Plane& shown, const std::vector<Run>& runs,
-               const Lettering& inLetters)
-    : air(ofChart), plane(shown), letters(inLetters), lineHeight(letters.height() * 1.3)
+Legend::Legend(const Layout& chart, const Lettering& inLetters)
+    : air(chart.air),
+      plane(chart.plane),
+      isWhole(!chart.view.zoom),
+      letters(inLetters),
+      lineHeight(letters.height() * 1.3)
 {
     lines.push_back({entry("At " + PressureText(air.pressure()), std::nullopt)});
     int number = 1;
-    for (const Run& run : runs)
+    for (const Run& run : chart.runs)
         lines.push_back(lineOf(run, number));
 }
 
@@ -29,14 +32,14 @@ Label Legend::entry(const QString& text, std::optional<Calculator> calculator) c
     return label;
 }
 
-/// Adds a note if the state is off the chart, or at another pressure: its wet bulb and relative humidity
+/// Adds a note if the state is off the whole chart, or at another pressure: its wet bulb and relative humidity
 /// can't be read off this chart.
 QString Legend::nameOf(const RunState& state) const
 {
     QString name = QString::fromStdString(state.name);
     if (state.P != air.pressure())
         name += " (at " + PressureText(state.P) + ")";
-    if (!plane.holds({state.Tdb, state.W}))
+    if (isWhole && !plane.holds({state.Tdb, state.W}))
         name += " (off the chart)";
     return name;
 }

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "chart/Labels.h"
+#include "chart/Layout.h"
 #include "chart/Lettering.h"
-#include "chart/Plane.h"
-#include "chart/Runs.h"
 #include "chart/Scales.h"
 
 #include <vector>
@@ -15,7 +13,7 @@ namespace chart {
 class Legend
 {
 public:
-    Legend(const Air& air, const Plane& shown, const std::vector<Run>& runs, const Lettering& letters);
+    Legend(const Layout& chart, const Lettering& letters);
 
     /// The labels in the corner, or none if one of them would be nearer to the rim of the air than `least`.
     std::vector<Label> inCorner(const Rim& rim, double least) const;
@@ -37,6 +35,7 @@ private:
 
     const Air& air;
     const Plane& plane;
+    bool isWhole; // not zoomed
     const Lettering& letters;
     double lineHeight;
     std::vector<Line> lines;

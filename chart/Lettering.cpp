@@ -36,7 +36,10 @@ double Lettering::width(const QString& text) const
 
 Label Lettering::label(const QString& text, std::optional<Family> family) const
 {
-    return {.text = text, .size = {width(text) + padding, height()}, .family = family};
+    Label label{.text = text, .family = family};
+    label.textWidth = width(text);
+    label.size = {label.textWidth + padding, height()};
+    return label;
 }
 
 QFont FontOfChart(const QFont& widgetFont) { return scaled(widgetFont, fontScale); }

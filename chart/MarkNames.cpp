@@ -32,13 +32,27 @@ QString textOf(const HeatRatio& ratio)
     return "SHR " + (ratio.value ? FormatFigure(*ratio.value, 2) : QString("–"));
 }
 
+/// On the zone's own side, or in its middle if that side is not on the plot.
+void nameZone(Layout& chart, const ComfortZone& zone, Label name)
+{
+    if (chart.labels.addOnOneOf(Along(zone.edge, name, chart.plane.plot, {0.5, 0.4, 0.6, 0.3, 0.7, 0.2, 0.8})))
+        return;
+    const QRectF all = zone.area.boundingRect();
+    name.hasHalo = true;
+    std::vector<Label> places;
+    for (const double part : {0.5, 0.35, 0.65, 0.2, 0.8}) {
+        name.center = {all.center().x(), all.top() + part * all.height()};
+        places.push_back(name);
+    }
+    chart.labels.addOnOneOf(places);
+}
+
 } // namespace
 
 void AddOverlayNames(Layout& chart, const Lettering& letters)
 {
     for (const ComfortZone& zone : chart.zones)
-        chart.labels.addOnOneOf(Along(zone.edge, letters.label(zone.name), chart.plane.plot,
-                                      {0.5, 0.4, 0.6, 0.3, 0.7, 0.2, 0.8}));
+        nameZone(chart, zone, letters.label(zone.name));
     for (const HeatRatio& ratio : chart.heatRatios) {
         Label value = letters.label(textOf(ratio));
         value.calculator = ratio.calculator;

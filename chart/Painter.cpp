@@ -171,17 +171,17 @@ private:
     void paintLabel(const Label& label)
     {
         painter.setPen(label.calculator ? theme.run(*label.calculator) : theme.text(label.family));
-        const QSizeF& size = label.size;
-        const QRectF place(QPointF(-size.width(), -size.height()) / 2, size);
+        const QFontMetricsF metrics(label.isTitle ? FontOfTitle(chart.font) : chart.font);
+        const QPointF start(-label.textWidth / 2, (metrics.ascent() - metrics.descent()) / 2);
         if (label.isTitle)
             painter.setFont(FontOfTitle(chart.font));
         if (label.angle == 0) {
-            painter.drawText(place.translated(label.center), Qt::AlignCenter | Qt::TextDontClip, label.text);
+            painter.drawText(label.center + start, label.text);
         } else {
             const QTransform before = painter.transform();
             painter.translate(label.center);
             painter.rotate(label.angle);
-            painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, label.text);
+            painter.drawText(start, label.text);
             painter.setTransform(before);
         }
         if (label.isTitle)
