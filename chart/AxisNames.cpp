@@ -56,7 +56,7 @@ public:
         if (plane.isMollier)
             add(unit, grainsAt(w.high) + QPointF(unit.size.width() / 2 + 12, -letters.height() * 0.5));
         else
-            add(unit, grainsAt(w.high) + QPointF(unit.size.width() / 2 - 2, -letters.height()));
+            add(unit, grainsAt(w.high) + QPointF(unit.size.width() / 2 - 2, -letters.height() * 1.2));
     }
 
 private:

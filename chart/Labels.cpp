@@ -5,6 +5,7 @@
 #include <QTransform>
 
 #include <algorithm>
+#include <cmath>
 
 namespace chart {
 namespace {
@@ -31,7 +32,8 @@ bool isSeparated(const QPolygonF& one, const QPolygonF& other)
         const QPointF across(-along.y(), along.x());
         const Axis here = shadow(one, across);
         const Axis there = shadow(other, across);
-        if (here.high <= there.low || there.high <= here.low)
+        const double margin = 1e-3 * (std::fabs(across.x()) + std::fabs(across.y())); // so that none touch
+        if (here.high + margin < there.low || there.high + margin < here.low)
             return true;
     }
     return false;
