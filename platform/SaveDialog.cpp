@@ -41,7 +41,7 @@ SaveChoice ask(const Form& owner, std::string_view filter, const std::string& ti
         return offered.startsWith(dialog.selectedNameFilter());
     });
     return {.path = dialog.selectedFiles().value(0).remove(blanksAround).toStdString(),
-            .filter = static_cast<std::size_t>(chosen - filters.begin())};
+            .filter = chosen == filters.end() ? 0 : static_cast<std::size_t>(chosen - filters.begin())};
 }
 
 } // namespace

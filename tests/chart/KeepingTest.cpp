@@ -69,24 +69,24 @@ class KeptChart : public ChartInWindow
 protected:
     QString path(const char* name) const { return folder.filePath(name); }
 
-    /// Saves by the context menu's keys.
-    void save(const QString& as, int filter = 0)
+    using Button = QMessageBox::StandardButton;
+
+    /// Saves by the context menu's keys, and answers the question that follows, if one is expected.
+    void save(const QString& as, int filter = 0, std::optional<Button> button = {})
     {
         user.inDialog("SaveDialog", [as, filter] {
             auto& dialog = *qobject_cast<QDialog*>(QApplication::activeModalWidget());
             child<QComboBox>(dialog, "fileTypeCombo").setCurrentIndex(filter);
             saveAs(as)(dialog);
         });
+        if (button) {
+            user.inDialog("QuestionBox", [this, button] {
+                auto& box = *qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                question = box.text().toStdString();
+                box.button(*button)->click();
+            });
+        }
         press(Qt::Key_S, Qt::ControlModifier);
-    }
-
-    void answer(QMessageBox::StandardButton button)
-    {
-        user.inDialog("QuestionBox", [this, button] {
-            auto& box = *qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            question = box.text().toStdString();
-            box.button(button)->click();
-        });
     }
 
     void print(const QString& to)
@@ -164,12 +164,10 @@ TEST_F(KeptChart, ReplacesAFileOnlyAfterYes)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("mine");
     file.close();
-    answer(QMessageBox::No);
-    save(path("chart"), 1);
+    save(path("chart"), 1, QMessageBox::No);
     EXPECT_EQ(contentsOf(path("chart.svg")), "mine");
     EXPECT_EQ(question, path("chart.svg").toStdString() + "\nexists already. Replace it?");
-    answer(QMessageBox::Yes);
-    save(path("chart.svg"));
+    save(path("chart.svg"), 0, QMessageBox::Yes);
     EXPECT_TRUE(contentsOf(path("chart.svg")).startsWith("<?xml"));
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1) << "nothing is left beside it";
 }
