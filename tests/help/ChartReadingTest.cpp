@@ -13,7 +13,7 @@ TEST(HelpChartReading, HasTheFiguresOfTheChart)
     const HelpElement page = readHelpPage("chart.html");
     QStringList onPage;
     for (const HelpElement* table : page.all("table")) {
-        if (table->attributes.value("id") != "reading")
+        if (table->attributes.value("id") != "figures-read")
             continue;
         for (const HelpElement* line : table->all("tr")) {
             const auto cells = line->all("td");
