@@ -203,7 +203,7 @@ std::vector<Curve> Tracer::volumes() const
     if (!(all.length() > 0) || !std::isfinite(all.length()))
         return {};
     const double step =
-        stepOf(45, [this](const Place& place) { return air.specificVolume(place.Tdb, place.W); });
+        stepOf(60, [this](const Place& place) { return air.specificVolume(place.Tdb, place.W); });
     return family(Family::SpecificVolume, all.multiples(step), [this](double v) { return volume(v); });
 }
 

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr unsigned charts = 250;
-constexpr double edge = 0.02; // pixels
+constexpr double edge = 0.4; // pixels; the relations round to single, which shows at the closest zoom
 
 using chart::Family;
 
