@@ -86,9 +86,22 @@ std::string ChartPicture::version() const
 void ChartPicture::paint(QPainter& painter, const QSize& size, const QWidget& on)
 {
     Choices::inForce().listen(this, [this] { changed(); });
-    painted.emplace(size, on.font(), view());
+    layOut(size, on.font());
     Paint(painter, *painted, on.palette());
     painted->curves.clear(); // not needed for readings
+}
+
+/// The plot of another part can have another size, because its legend and scales need more or less space.
+void ChartPicture::layOut(const QSize& size, const QFont& font)
+{
+    const QRectF before = painted ? painted->plane.plot : QRectF();
+    painted.emplace(size, font, view());
+    if (atRest && painted->plane.plot != before) {
+        const auto& [point, place] = *atRest;
+        zoom = painted->plane.moved(point - painted->plane.at(place));
+        painted.emplace(size, font, view());
+    }
+    atRest.reset();
 }
 
 std::string ChartPicture::tipAt(const QPoint& place) const
@@ -185,14 +198,21 @@ bool ChartPicture::clear()
     return isAnything;
 }
 
-void ChartPicture::zoomTo(const std::optional<Span>& span)
+void ChartPicture::zoomTo(const Span& span, const QPointF& point)
 {
     if (!isPresent())
         crossHair.reset();
     zoom = span;
-    if (painted && span)
-        painted->plane.span = *span; // for a movement that comes before the next picture
     lookedAt = Conditions::inForce();
+    painted->plane.span = span; // for a movement that comes before the next picture
+    atRest.emplace(point, painted->plane.placeAt(point));
+    changed();
+}
+
+void ChartPicture::zoomOut()
+{
+    zoom.reset();
+    changed();
 }
 
 std::optional<QPoint> ChartPicture::keyPlace() const

@@ -37,10 +37,12 @@ public:
     const Layout* layout() const { return painted ? &*painted : nullptr; }
 
 protected:
-    /// Shows another part of the chart; without a span the whole.
-    void zoomTo(const std::optional<Span>& span);
+    /// Shows another part of the chart, with the air at this point of the picture at rest.
+    void zoomTo(const Span& span, const QPointF& atRest);
+    void zoomOut(); ///< to the whole
 
 private:
+    void layOut(const QSize& size, const QFont& font);
     bool isPresent() const { return lookedAt == Conditions::inForce(); }
     void moveCrossHair(const Step& step);
     void pin(const Place& place);
@@ -52,7 +54,8 @@ private:
     Conditions lookedAt; // of the cross hair and the zoom, which are dropped when they change
     std::optional<Place> crossHair;
     std::optional<Span> zoom;
-    std::vector<Place> pinsBeforeClick; // a double click restores them
+    std::optional<std::pair<QPointF, Place>> atRest; // in the next picture, though its plot may be another
+    std::vector<Place> pinsBeforeClick;              // a double click restores them
 };
 
 } // namespace chart

@@ -35,7 +35,7 @@ private:
     forms::Table tblStates{*this, "tblStates"};
     forms::Sides sides{*this, "sides", picChart, tblStates};
     std::deque<forms::CheckBox> boxes; // one for each switch
-    Button btnWhole{*this, "btnWhole", "&Whole chart", [this] { contents->showWhole(); }};
+    Button btnWhole{*this, "btnWhole", "&Whole chart", [this] { contents->zoomOut(); }};
 
     Menu mnuFile{*this, "mnuFile", "&File"};
     std::deque<MenuCommand> keeping; // the picture's own commands
@@ -43,7 +43,7 @@ private:
     Menu mnuView{*this, "mnuView", "&View"};
     MenuCommand mnuZoomIn{*this, "mnuZoomIn", "Zoom &In", [this] { contents->zoom(1); }};
     MenuCommand mnuZoomOut{*this, "mnuZoomOut", "Zoom &Out", [this] { contents->zoom(-1); }};
-    MenuCommand mnuWhole{*this, "mnuWhole", "&Whole Chart", [this] { contents->showWhole(); }};
+    MenuCommand mnuWhole{*this, "mnuWhole", "&Whole Chart", [this] { contents->zoomOut(); }};
     Menu mnuHelp{*this, "mnuHelp", "&Help"};
     MenuCommand mnuHelpChart{*this, "mnuHelpChart", "&The Chart", [this] { openHelp(); }};
 };

@@ -76,7 +76,7 @@ void SavePicture(const forms::Form& owner, const View& view)
         path += QString(".") + format->suffix;
     }
     const std::string shownPath = QDir::toNativeSeparators(path).toStdString();
-    if (QFileInfo::exists(path) && !forms::AskYesNo(shownPath + "\nexists already. Replace it?"))
+    if (QFileInfo(path).isFile() && !forms::AskYesNo(shownPath + "\nexists already. Replace it?"))
         return;
     if (!write(path, format->bytes(view)))
         forms::MsgBox("The picture can't be saved as\n" + shownPath);

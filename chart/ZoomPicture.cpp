@@ -17,7 +17,7 @@ View ZoomPicture::view() const
 void ZoomPicture::drag(const QPoint& from, const QPoint& to)
 {
     if (layout() != nullptr)
-        move(to - from);
+        move(to - from, to);
 }
 
 bool ZoomPicture::turnWheel(const QPoint& place, double steps)
@@ -49,7 +49,7 @@ bool ZoomPicture::pressZoomKey(int key)
         return true;
     case Qt::Key_Home:
     case Qt::Key_0:
-        showWhole();
+        zoomOut();
         return true;
     default:
         return false;
@@ -65,7 +65,7 @@ bool ZoomPicture::pressMoveKey(int key)
     if (across == 0 && up == 0)
         return false;
     const QRectF& plot = layout()->plane.plot;
-    move({across * plot.width(), up * plot.height()});
+    move({across * plot.width(), up * plot.height()}, plot.center());
     return true;
 }
 
@@ -77,23 +77,15 @@ void ZoomPicture::zoom(double steps)
     zoomAbout(middle ? QPointF(*middle) : layout()->plane.plot.center(), steps);
 }
 
-void ZoomPicture::showWhole()
-{
-    zoomTo(std::nullopt);
-    changed();
-}
-
 void ZoomPicture::zoomAbout(const QPointF& place, double steps)
 {
     constexpr double factorOfAStep = 1.25;
-    zoomTo(layout()->plane.zoomed(place, std::pow(factorOfAStep, steps)));
-    changed();
+    zoomTo(layout()->plane.zoomed(place, std::pow(factorOfAStep, steps)), place);
 }
 
-void ZoomPicture::move(const QPointF& by)
+void ZoomPicture::move(const QPointF& by, const QPointF& to)
 {
-    zoomTo(layout()->plane.moved(by));
-    changed();
+    zoomTo(layout()->plane.moved(by), to);
 }
 
 } // namespace chart

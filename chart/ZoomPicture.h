@@ -18,13 +18,14 @@ public:
 
     /// Zooms in about the middle, or about the cross hair if there is one; out if steps is negative.
     void zoom(double steps);
-    void showWhole();
+    using ChartPicture::zoomOut;
 
 private:
     bool pressZoomKey(int key);
     bool pressMoveKey(int key);
     void zoomAbout(const QPointF& place, double steps);
-    void move(const QPointF& by);
+    /// @param to  where the pointer is then
+    void move(const QPointF& by, const QPointF& to);
 };
 
 } // namespace chart

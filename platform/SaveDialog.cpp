@@ -36,9 +36,12 @@ SaveChoice ask(const Form& owner, std::string_view filter, const std::string& ti
     if (dialog.exec() != QDialog::Accepted)
         return {};
     static const QRegularExpression blanksAround("^ +| +\\z");
-    const qsizetype chosen = filters.indexOf(dialog.selectedNameFilter());
+    // Some versions of the toolkit return the chosen filter without its pattern.
+    const auto chosen = std::ranges::find_if(filters, [&dialog](const QString& offered) {
+        return offered.startsWith(dialog.selectedNameFilter());
+    });
     return {.path = dialog.selectedFiles().value(0).remove(blanksAround).toStdString(),
-            .filter = static_cast<std::size_t>(std::max<qsizetype>(chosen, 0))};
+            .filter = chosen == filters.end() ? 0 : static_cast<std::size_t>(chosen - filters.begin())};
 }
 
 } // namespace

@@ -56,7 +56,6 @@ TEST_F(ChartInWindow, FollowsTheNextRunAndTheOptions)
     open();
     auto& table = part<QTableWidget>("tblStates");
     EXPECT_EQ(table.rowCount(), 0);
-    User::findWindow("MainForm")->activateWindow();
     const QImage before = large();
     runHeating();
     EXPECT_TRUE(window()->isVisible());
@@ -98,7 +97,8 @@ TEST_F(ChartInWindow, ZoomsByTheWheelAboutThePointer)
     turnWheel(place, 3);
     EXPECT_NEAR(readingAt(place).first, here.first, 0.11);
     EXPECT_NEAR(readingAt(place).second, here.second, 0.00011);
-    EXPECT_NEAR((readingAt(other).first - here.first) * 1.25 * 1.25 * 1.25, there.first - here.first, 0.3);
+    EXPECT_NEAR((readingAt(other).first - here.first) * 1.25 * 1.25 * 1.25, there.first - here.first, 0.7)
+        << "the plot can become a little wider";
     turnWheel(place, -3);
     EXPECT_NEAR(readingAt(other).first, there.first, 0.11);
 }
@@ -159,6 +159,7 @@ TEST_F(ChartInWindow, SwitchesEachFamilyOnBothCharts)
     runCooling();
     open();
     for (const chart::SwitchRow& row : chart::switchRows) {
+        part<QWidget>(row.name).setFocus(Qt::TabFocusReason);
         const QImage window = large();
         const QImage menu = shown();
         toggle(row.name);
@@ -245,7 +246,6 @@ TEST_F(ChartInWindow, IsBlockedByAModalFormAndStaysBesideACalculator)
 {
     start();
     open();
-    User::findWindow("MainForm")->activateWindow();
     bool isBlocked = false;
     inOptions([&] {
         const auto before = pins().size();
@@ -267,7 +267,6 @@ TEST_F(ChartInWindow, DoesNotKeepTheProgramRunning)
 {
     start();
     open();
-    User::findWindow("MainForm")->activateWindow();
     QTimer::singleShot(0, qApp, [this] { user.choose("mnuExit"); });
     EXPECT_EQ(QApplication::exec(), 0);
     FormRegistry::clear();

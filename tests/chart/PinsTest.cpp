@@ -20,6 +20,7 @@ bool startsWith(const std::string& text, const std::string& start) { return text
 TEST_F(ChartOnMenu, PinsAReadingByAClickAndLetsItGoByAnother)
 {
     start();
+    press(Qt::Key_F5); // no key of the chart; gives it the focus, which has a line around it
     const QImage before = shown();
     clickAt(layout().plane.at(75, 0.0093));
     ASSERT_EQ(pins().size(), 1U);
@@ -30,8 +31,7 @@ TEST_F(ChartOnMenu, PinsAReadingByAClickAndLetsItGoByAnother)
 
     clickAt(layout().plane.at(75, 0.0093) + QPointF(3, 3));
     EXPECT_TRUE(pins().empty());
-    EXPECT_EQ(pixelsThatDiffer(before, shown().scaled(before.size())), 0)
-        << "only the line of the focus is new";
+    EXPECT_EQ(pixelsThatDiffer(before, shown()), 0);
 }
 
 TEST_F(ChartOnMenu, KeepsSeveralPinsUntilEsc)
