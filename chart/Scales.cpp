@@ -41,7 +41,8 @@ Rim::Rim(const Plane& plane, const QPolygonF& saturation) : isMollier(plane.isMo
         rim << moist;
 }
 
-/// In the psychrometric form, the air is on the right of the rim from cold to moist, in Mollier's on the left.
+/// In the psychrometric form, the air is on the right of the rim from cold to moist, in Mollier's on the
+/// left.
 QPointF Rim::outward(int chord) const
 {
     const QPointF along = rim[chord] - rim[chord - 1];
