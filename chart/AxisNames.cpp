@@ -41,7 +41,8 @@ public:
         if (plane.isMollier)
             add(title, {plot.center().x(), plot.top() - ratioDepth() - grains - letters.height() * 0.6});
         else
-            add(title, {plot.right() + ratioDepth() + grains + letters.height() * 0.6, plot.center().y()}, -90);
+            add(title, {plot.right() + ratioDepth() + grains + letters.height() * 0.6, plot.center().y()},
+                -90);
     }
 
     void nameGrains()

@@ -29,7 +29,8 @@ QString exactly(const View& view)
     if (view.crossHair)
         places.push_back(*view.crossHair);
     if (view.zoom)
-        places.insert(places.end(), {{view.zoom->tdb.low, view.zoom->tdb.high}, {view.zoom->w.low, view.zoom->w.high}});
+        places.insert(places.end(),
+                      {{view.zoom->tdb.low, view.zoom->tdb.high}, {view.zoom->w.low, view.zoom->w.high}});
     for (const Place& place : places)
         parts << exactly(place.Tdb) << exactly(place.W);
     return parts.join(' ');

@@ -19,8 +19,7 @@ std::unique_ptr<ZoomPicture> makePicture(forms::Form& owner, ZoomPicture*& made)
 } // namespace
 
 ChartWindow::ChartWindow()
-    : Form("ChartWindow", forms::FormKind::Screen),
-      picChart(*this, "picChart", makePicture(*this, contents))
+    : Form("ChartWindow", forms::FormKind::Screen), picChart(*this, "picChart", makePicture(*this, contents))
 {
     setCaption("Psychrometric Chart");
     for (const SwitchRow& row : switchRows) {

@@ -156,8 +156,10 @@ std::vector<Curve> NamedWetBulbs(Layout& chart, const Tracer& tracer, const Rim&
 void AddEnthalpyScale(Layout& chart, const std::vector<Curve>& enthalpies, const Rim& rim,
                       const Lettering& letters)
 {
-    const QPolygonF scale = (chart.frame.hasColdScale ? rim : rim.withoutColdEdge()).outside(
-        [&](const QPointF& outward) { return ScaleDistance(outward, letters, chart.frame); });
+    const QPolygonF scale =
+        (chart.frame.hasColdScale ? rim : rim.withoutColdEdge()).outside([&](const QPointF& outward) {
+            return ScaleDistance(outward, letters, chart.frame);
+        });
     chart.scales.push_back({Family::Enthalpy, 0, scale});
     chart.labels.avoidLine(scale);
     for (const Curve& curve : enthalpies) {

@@ -55,10 +55,9 @@ QPolygonF AirArea(const Air& air, const Plane& plane, const QPolygonF& saturatio
 {
     const QRectF& plot = plane.plot;
     QPolygonF area = saturation;
-    const std::array around = plane.isMollier ? std::array{plot.bottomRight(), plot.topRight(),
-                                                           plot.topLeft(), plot.bottomLeft()}
-                                              : std::array{plot.topLeft(), plot.topRight(),
-                                                           plot.bottomRight(), plot.bottomLeft()};
+    const std::array around =
+        plane.isMollier ? std::array{plot.bottomRight(), plot.topRight(), plot.topLeft(), plot.bottomLeft()}
+                        : std::array{plot.topLeft(), plot.topRight(), plot.bottomRight(), plot.bottomLeft()};
     for (const QPointF& corner : around) {
         const Place place = plane.placeAt(corner);
         if (place.W < air.saturated(place.Tdb))
@@ -89,7 +88,8 @@ QPointF Tracer::changePerPixel(const QPointF& corner, const ValueAt& valueAt) co
 }
 
 /// The round step of a family whose lines are that far apart.
-template <class ValueAt> double Tracer::stepOf(double leastApart, const ValueAt& valueAt) const
+template <class ValueAt>
+double Tracer::stepOf(double leastApart, const ValueAt& valueAt) const
 {
     const QPointF change = changePerPixel(plane.plot.bottomLeft(), valueAt);
     return Axis{0, std::hypot(change.x(), change.y())}.step(1, leastApart);
@@ -168,8 +168,7 @@ double Tracer::wetBulbStep(double leastApart) const
 std::vector<Curve> Tracer::wetBulbs(double step) const
 {
     const Axis all{wetBulbAt({tdb.low, w.low}), wetBulbAt({tdb.high, w.high})};
-    return family(Family::WetBulb, all.multiples(step),
-                  [this](double twb) { return wetBulb(twb); });
+    return family(Family::WetBulb, all.multiples(step), [this](double twb) { return wetBulb(twb); });
 }
 
 QPolygonF Tracer::enthalpy(double h) const
@@ -203,7 +202,7 @@ std::vector<Curve> Tracer::volumes() const
     if (!(all.length() > 0) || !std::isfinite(all.length()))
         return {};
     const double step =
-        stepOf(45, [this](const Place& place) { return air.specificVolume(place.Tdb, place.W); });
+        stepOf(60, [this](const Place& place) { return air.specificVolume(place.Tdb, place.W); });
     return family(Family::SpecificVolume, all.multiples(step), [this](double v) { return volume(v); });
 }
 

@@ -46,8 +46,10 @@ public:
     std::vector<Curve> saturation() const;
 
 private:
-    template <class ValueAt> QPointF changePerPixel(const QPointF& corner, const ValueAt& valueAt) const;
-    template <class ValueAt> double stepOf(double leastApart, const ValueAt& valueAt) const;
+    template <class ValueAt>
+    QPointF changePerPixel(const QPointF& corner, const ValueAt& valueAt) const;
+    template <class ValueAt>
+    double stepOf(double leastApart, const ValueAt& valueAt) const;
     double bentChord() const;
     QPolygonF humidity(double percent) const;
     QPolygonF wetBulb(double twb) const;

@@ -8,7 +8,7 @@ namespace chart {
 
 constexpr double AxisGap = 4; ///< between an axis and its figures
 constexpr double GrainsPerPound = 7000;
-constexpr double Tick = 5;    ///< length of a mark on a scale
+constexpr double Tick = 5; ///< length of a mark on a scale
 
 /// Where everything around the plot has its place.
 struct Frame

@@ -72,7 +72,8 @@ private:
         }
         if (chart.view.hasPinTable) {
             area.setBottom(area.bottom() - table.height(chart.size.height()));
-            for (const Label& cell : table.within({{4, area.bottom()}, QPointF(chart.size.width() - 4, chart.size.height())}))
+            for (const Label& cell :
+                 table.within({{4, area.bottom()}, QPointF(chart.size.width() - 4, chart.size.height())}))
                 chart.labels.add(cell);
         }
         placePlot(area);
@@ -94,7 +95,8 @@ private:
     {
         const Legend legend(chart, letters);
         const QPointF outward(chart.plane.isMollier ? 0.7 : -0.7, chart.plane.isMollier ? 0.7 : -0.7);
-        const double figures = chart.frame.hasEnthalpy ? ScaleDistance(outward, letters, chart.frame) + Tick : 0;
+        const double figures =
+            chart.frame.hasEnthalpy ? ScaleDistance(outward, letters, chart.frame) + Tick : 0;
         const double least = figures + letters.width("00000");
         std::vector<Label> labels = legend.inCorner(Rim(chart.plane, saturation), least);
         if (labels.empty()) {

@@ -32,8 +32,8 @@ Label Legend::entry(const QString& text, std::optional<Calculator> calculator) c
     return label;
 }
 
-/// Adds a note if the state is off the whole chart, or at another pressure: its wet bulb and relative humidity
-/// can't be read off this chart.
+/// Adds a note if the state is off the whole chart, or at another pressure: its wet bulb and relative
+/// humidity can't be read off this chart.
 QString Legend::nameOf(const RunState& state) const
 {
     QString name = QString::fromStdString(state.name);
@@ -88,8 +88,8 @@ std::vector<Label> Legend::inCorner(const Rim& rim, double least) const
         const QPointF inner =
             plane.isMollier ? start : start + QPointF(widthOf(lines[index]), letters.height());
         const Place place = plane.placeAt(inner);
-        const bool isFree = plane.plot.contains(inner) && place.W > air.saturated(place.Tdb) &&
-                            rim.distanceTo(inner) > least;
+        const bool isFree =
+            plane.plot.contains(inner) && place.W > air.saturated(place.Tdb) && rim.distanceTo(inner) > least;
         if (!isFree)
             return {};
         append(lines[index], start, labels);

@@ -35,7 +35,8 @@ QString textOf(const HeatRatio& ratio)
 /// On the zone's own side, or in its middle if that side is not on the plot.
 void nameZone(Layout& chart, const ComfortZone& zone, Label name)
 {
-    if (chart.labels.addOnOneOf(Along(zone.edge, name, chart.plane.plot, {0.5, 0.4, 0.6, 0.3, 0.7, 0.2, 0.8})))
+    if (chart.labels.addOnOneOf(
+            Along(zone.edge, name, chart.plane.plot, {0.5, 0.4, 0.6, 0.3, 0.7, 0.2, 0.8})))
         return;
     const QRectF all = zone.area.boundingRect();
     name.hasHalo = true;

@@ -16,6 +16,24 @@ namespace {
 
 constexpr double markRadius = 4;
 
+/// Paints without smooth edges, which is several times faster, where nobody sees them: on upright lines and
+/// on areas whose edges have a line or the color of their ground.
+class Rough
+{
+public:
+    explicit Rough(QPainter& on) : painter(on), wasSmooth(on.testRenderHint(QPainter::Antialiasing))
+    {
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    }
+    ~Rough() { painter.setRenderHint(QPainter::Antialiasing, wasSmooth); }
+    Rough(const Rough&) = delete;
+    Rough& operator=(const Rough&) = delete;
+
+private:
+    QPainter& painter;
+    bool wasSmooth;
+};
+
 class Painter
 {
 public:
@@ -26,9 +44,7 @@ public:
     void paint()
     {
         painter.setFont(chart.font);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(theme.paper());
-        painter.drawPolygon(chart.airArea);
+        paintPaper();
         paintZones();
         for (const Curve& curve : chart.curves)
             paintCurve(curve);
@@ -62,10 +78,13 @@ private:
         const bool isUpright = curve.line.front().x() == curve.line.back().x() ||
                                curve.line.front().y() == curve.line.back().y();
         QPainterPath path;
-        if (isGrid && isUpright)
+        if (isGrid && isUpright) {
+            const Rough rough(painter);
             path.addPolygon(QPolygonF{sharp(curve.line.front()), sharp(curve.line.back())});
-        else
-            path.addPolygon(curve.line);
+            painter.strokePath(path, theme.pen(curve.family));
+            return;
+        }
+        path.addPolygon(curve.line);
         painter.strokePath(path, theme.pen(curve.family));
     }
 
@@ -91,6 +110,14 @@ private:
         painter.strokePath(enthalpies, theme.scale(Family::Enthalpy));
     }
 
+    void paintPaper()
+    {
+        const Rough rough(painter);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(theme.paper());
+        painter.drawPolygon(chart.airArea);
+    }
+
     void paintZones()
     {
         for (const ComfortZone& zone : chart.zones) {
@@ -105,6 +132,7 @@ private:
     {
         painter.setPen(Qt::NoPen);
         painter.setBrush(theme.paper());
+        const Rough rough(painter);
         for (const Label& label : chart.labels.all()) {
             if (label.hasHalo && isBelowSaturation(label))
                 painter.drawPolygon(label.outline());

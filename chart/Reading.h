@@ -13,8 +13,8 @@ struct Reading
 {
     Single Tdb = 0;
     Single W = 0;
-    Single P = 0;               ///< psi or Pa
-    std::optional<Single> Twb{};  ///< also empty if the search fails, or if the wet bulb is below its bracket
+    Single P = 0;                ///< psi or Pa
+    std::optional<Single> Twb{}; ///< also empty if the search fails, or if the wet bulb is below its bracket
     std::optional<Single> td{};
     std::optional<Single> RH{};     ///< a fraction
     std::optional<Single> Grains{}; ///< in English units only

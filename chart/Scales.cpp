@@ -7,12 +7,13 @@ namespace {
 
 double lengthOf(const QPointF& way) { return std::hypot(way.x(), way.y()); }
 
-double distance(const QLineF& chord, const QPointF& point)
+double squaredDistance(const QPointF& first, const QPointF& last, const QPointF& point)
 {
-    const QPointF along = chord.p2() - chord.p1();
+    const QPointF along = last - first;
     const double square = QPointF::dotProduct(along, along);
-    const double part = square > 0 ? QPointF::dotProduct(point - chord.p1(), along) / square : 0;
-    return lengthOf(point - chord.pointAt(std::clamp(part, 0.0, 1.0)));
+    const double part = square > 0 ? QPointF::dotProduct(point - first, along) / square : 0;
+    const QPointF away = point - (first + along * std::clamp(part, 0.0, 1.0));
+    return QPointF::dotProduct(away, away);
 }
 
 } // namespace
@@ -40,7 +41,8 @@ Rim::Rim(const Plane& plane, const QPolygonF& saturation) : isMollier(plane.isMo
         rim << moist;
 }
 
-/// In the psychrometric form, the air is on the right of the rim from cold to moist, in Mollier's on the left.
+/// In the psychrometric form, the air is on the right of the rim from cold to moist, in Mollier's on the
+/// left.
 QPointF Rim::outward(int chord) const
 {
     const QPointF along = rim[chord] - rim[chord - 1];
@@ -62,7 +64,7 @@ int Rim::nearestChord(const QPointF& point) const
     int nearest = 1;
     double least = std::numeric_limits<double>::infinity();
     for (int chord = 1; chord < rim.size(); ++chord) {
-        const double away = distance({rim[chord - 1], rim[chord]}, point);
+        const double away = squaredDistance(rim[chord - 1], rim[chord], point);
         if (away < least) {
             least = away;
             nearest = chord;
@@ -76,7 +78,7 @@ QPointF Rim::outwardAt(const QPointF& point) const { return outward(nearestChord
 double Rim::distanceTo(const QPointF& point) const
 {
     const int chord = nearestChord(point);
-    return distance({rim[chord - 1], rim[chord]}, point);
+    return std::sqrt(squaredDistance(rim[chord - 1], rim[chord], point));
 }
 
 std::optional<ScaleMark> MarkOn(const QPolygonF& scale, const Curve& curve, const Rim& rim)

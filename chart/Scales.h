@@ -8,7 +8,8 @@
 
 namespace chart {
 
-/// The edge of the air where the oblique lines end: the cold edge of the plot, saturation, and the moist edge.
+/// The edge of the air where the oblique lines end: the cold edge of the plot, saturation, and the moist
+/// edge.
 class Rim
 {
 public:
@@ -20,7 +21,8 @@ public:
     /// The direction away from the air at a point of the rim.
     QPointF outwardAt(const QPointF& point) const;
     /// A line outside the rim, at a distance that depends on the direction.
-    template <class DistanceOf> QPolygonF outside(const DistanceOf& distanceOf) const
+    template <class DistanceOf>
+    QPolygonF outside(const DistanceOf& distanceOf) const
     {
         QPolygonF moved;
         for (int chord = 1; chord < rim.size(); ++chord) {

@@ -35,8 +35,10 @@ forms::TableContents StateTable(const std::vector<Place>& pins)
     int number = 0;
     for (const Run& run : ShownRuns()) {
         for (const RunState& state : run.states) {
-            const QString name = QString("%1 %2, %3").arg(++number).arg(TitleOf(run.calculator)).arg(
-                QString::fromStdString(state.name));
+            const QString name = QString("%1 %2, %3")
+                                     .arg(++number)
+                                     .arg(TitleOf(run.calculator))
+                                     .arg(QString::fromStdString(state.name));
             table.rows.push_back(rowOf(name, ReadingAt(Air(state.P), {state.Tdb, state.W})));
         }
     }

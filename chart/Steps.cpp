@@ -55,8 +55,7 @@ std::optional<Place> Moved(const std::optional<Place>& crossHair, const Step& st
     Place place = *crossHair;
     const int units = std::max(std::abs(step.Tdb), std::abs(step.W));
     for (int unit = 0; unit < units; ++unit) {
-        const Place next =
-            onWholeUnits({place.Tdb + signOf(step.Tdb), place.W + signOf(step.W) * unitOfW});
+        const Place next = onWholeUnits({place.Tdb + signOf(step.Tdb), place.W + signOf(step.W) * unitOfW});
         if (!canBeAt(next, air, plane))
             break;
         place = next;

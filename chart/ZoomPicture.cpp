@@ -83,9 +83,6 @@ void ZoomPicture::zoomAbout(const QPointF& place, double steps)
     zoomTo(layout()->plane.zoomed(place, std::pow(factorOfAStep, steps)), place);
 }
 
-void ZoomPicture::move(const QPointF& by, const QPointF& to)
-{
-    zoomTo(layout()->plane.moved(by), to);
-}
+void ZoomPicture::move(const QPointF& by, const QPointF& to) { zoomTo(layout()->plane.moved(by), to); }
 
 } // namespace chart

@@ -91,9 +91,8 @@ protected:
 
     void print(const QString& to)
     {
-        user.inDialog("PrintDialog", [to] {
-            printTo(to)(*qobject_cast<QDialog*>(QApplication::activeModalWidget()));
-        });
+        user.inDialog("PrintDialog",
+                      [to] { printTo(to)(*qobject_cast<QDialog*>(QApplication::activeModalWidget())); });
         press(Qt::Key_P, Qt::ControlModifier);
     }
 
@@ -109,8 +108,8 @@ TEST_F(KeptChart, IsAnSvgDrawingWithTextAndALineForEachCurve)
     const Drawing drawing = drawingIn(contentsOf(path("chart.svg")));
     EXPECT_TRUE(drawing.isWellFormed);
     EXPECT_EQ(drawing.title, title);
-    for (const char* text : {title, "Dry bulb, °F", "Humidity ratio, lb/lb", "Enthalpy, Btu/lb", "50 %",
-                             "entering", "leaving"})
+    for (const char* text :
+         {title, "Dry bulb, °F", "Humidity ratio, lb/lb", "Enthalpy, Btu/lb", "50 %", "entering", "leaving"})
         EXPECT_FALSE(drawing.texts.filter(text).isEmpty()) << text;
     chart::View view;
     view.title = title;
@@ -226,7 +225,8 @@ TEST_F(KeptChart, TellsThatItCannotBePrinted)
 {
     start();
     CurrentPrinter().setPort(path("no/such/folder/chart.pdf").toStdString());
-    EXPECT_FALSE(CurrentPrinter().printPage("title", QPageLayout::Landscape, [](QPainter&, const QSizeF&) {}));
+    EXPECT_FALSE(
+        CurrentPrinter().printPage("title", QPageLayout::Landscape, [](QPainter&, const QSizeF&) {}));
     EXPECT_FALSE(QFileInfo::exists(path("no")));
 }
 

@@ -31,7 +31,8 @@ double voteAt(const chart::Place& place, double clo)
 
 bool isNamed(const chart::Layout& chart, const QString& text)
 {
-    return std::ranges::any_of(chart.labels.all(), [&](const chart::Label& label) { return label.text == text; });
+    return std::ranges::any_of(chart.labels.all(),
+                               [&](const chart::Label& label) { return label.text == text; });
 }
 
 } // namespace
@@ -51,7 +52,8 @@ TEST(ChartOverlays, AreTheComfortZonesWhereTheVoteIsSmall)
                         const chart::Place place = chart.plane.placeAt({x, y});
                         const double vote = voteAt(place, clo);
                         const bool isNearEdge = std::fabs(std::fabs(vote) - 0.5) < 0.02 ||
-                                                std::fabs(place.W - 0.012) < 1e-4 || std::fabs(place.W) < 1e-4 ||
+                                                std::fabs(place.W - 0.012) < 1e-4 ||
+                                                std::fabs(place.W) < 1e-4 ||
                                                 std::fabs(place.W - chart.air.saturated(place.Tdb)) < 2e-4;
                         if (isNearEdge)
                             continue;

@@ -9,8 +9,8 @@
 #include <sstream>
 #include <string>
 
-/// A chart as someone may have it: of any size, at any pressure that the options accept, in either form, whole
-/// or zoomed, with runs, pins and overlays. The same number gives the same chart.
+/// A chart as someone may have it: of any size, at any pressure that the options accept, in either form,
+/// whole or zoomed, with runs, pins and overlays. The same number gives the same chart.
 class Picked
 {
 public:
@@ -19,7 +19,8 @@ public:
         const bool isMetric = isOdd();
         Mode{isMetric ? True16 : False16, static_cast<Single>(isMetric ? between(47, 110) : between(8, 20))}
             .putInForce();
-        size = {std::round(between(160, isOdd() ? 3840 : 900)), std::round(between(120, isOdd() ? 2160 : 900))};
+        size = {std::round(between(160, isOdd() ? 3840 : 900)),
+                std::round(between(120, isOdd() ? 2160 : 900))};
         keepRuns();
         view.switches = {true, isOdd() || isOdd(), true, true, isOdd(), isOdd(), isOdd()};
         for (int pins = isOdd() ? 3 : 0; pins > 0; --pins)
@@ -40,8 +41,8 @@ public:
         all << size.width() << " x " << size.height() << " at " << BaroPressure
             << (view.switches.mollier ? ", Mollier" : "") << (view.zoom ? ", zoomed" : "");
         if (view.zoom)
-            all << ' ' << view.zoom->tdb.low << " to " << view.zoom->tdb.high << ", " << view.zoom->w.low << " to "
-                << view.zoom->w.high;
+            all << ' ' << view.zoom->tdb.low << " to " << view.zoom->tdb.high << ", " << view.zoom->w.low
+                << " to " << view.zoom->w.high;
         return all.str();
     }
 
@@ -73,8 +74,8 @@ private:
             KeepLastRun(Calculator::MixedAir, {{"outside", air()}, {"return", air()}, {"mix", air()}});
         if (isOdd()) {
             const AirSnapshot entering = air();
-            KeepLastRun(Calculator::Heating,
-                        {{"entering", entering}, {"leaving", airOfRatio(IsMetric() ? 120 : 250, entering.W)}});
+            KeepLastRun(Calculator::Heating, {{"entering", entering},
+                                              {"leaving", airOfRatio(IsMetric() ? 120 : 250, entering.W)}});
         }
         if (isOdd())
             KeepLastRun(Calculator::Humidification,

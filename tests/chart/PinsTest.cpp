@@ -152,9 +152,10 @@ TEST_F(ChartOnMenu, CopiesTheFiguresForASpreadsheet)
     press(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     const QStringList lines = QGuiApplication::clipboard()->text().split('\n');
     ASSERT_EQ(lines.size(), 5) << "headings, two states, a pin, and the end";
-    EXPECT_EQ(lines[0].toStdString(),
-              "State\tDry bulb, °F\tWet bulb, °F\tDew point, °F\tRelative humidity, %\tHumidity ratio, lb/lb\t"
-              "Grains, gr/lb\tEnthalpy, Btu/lb\tSpecific volume, ft³/lb\tPressure, psi");
+    EXPECT_EQ(
+        lines[0].toStdString(),
+        "State\tDry bulb, °F\tWet bulb, °F\tDew point, °F\tRelative humidity, %\tHumidity ratio, lb/lb\t"
+        "Grains, gr/lb\tEnthalpy, Btu/lb\tSpecific volume, ft³/lb\tPressure, psi");
     const AirSnapshot& air = CoolingEnteringAir;
     EXPECT_EQ(lines[1].toStdString(),
               "1 Cooling, entering\t80.0\t" + FormatNumber(air.Twb, "#0.0") + "\t" +

@@ -41,9 +41,7 @@ TEST(PredictedMeanVote, IsAsPublished)
 
 TEST(PredictedMeanVote, RisesWithTheTemperatureAndTheMoisture)
 {
-    const auto vote = [](double t, double vapor) {
-        return PredictedMeanVote({t, t, 0.1, vapor, 1.1, 0.5});
-    };
+    const auto vote = [](double t, double vapor) { return PredictedMeanVote({t, t, 0.1, vapor, 1.1, 0.5}); };
     for (double t = 5; t < 45; t += 0.5) {
         EXPECT_LT(vote(t, 1000), vote(t + 0.5, 1000)) << t;
         EXPECT_LT(vote(t, 1000), vote(t, 1100)) << t;
