@@ -120,7 +120,8 @@ bool ShowPrintDialog(const Form& owner)
     if (!owner.isVisible())
         return false; // closed in the meantime
     Printer& current = CurrentPrinter();
-    const std::unique_ptr<QPrinter> device = current.copyOfDevice(); // the dialog may change it while it is open
+    const std::unique_ptr<QPrinter> device =
+        current.copyOfDevice(); // the dialog may change it while it is open
     QPrintDialog dialog(device.get(), owner.window());
     dialog.setObjectName("PrintDialog");
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies |

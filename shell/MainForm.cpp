@@ -20,7 +20,9 @@ void ShowMainForm() { form<MainForm>().Show(); }
 void ShowAbout() { form<About>().ShowModal(); }
 
 MainForm::MainForm()
-    : Form("MainForm", FormKind::Screen), Image1(*this, "Image1", std::make_unique<chart::ChartPicture>(*this, [] { form<chart::ChartWindow>().Show(); }))
+    : Form("MainForm", FormKind::Screen),
+      Image1(*this, "Image1",
+             std::make_unique<chart::ChartPicture>(*this, [] { form<chart::ChartWindow>().Show(); }))
 {
     setCaption("Dunmoor");
     layOut();

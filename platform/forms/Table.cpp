@@ -53,11 +53,13 @@ private:
             return;
         TableContents part;
         for (const int column : columns)
-            part.headings.push_back(horizontalHeaderItem(column)->data(Qt::AccessibleTextRole).toString().toStdString());
+            part.headings.push_back(
+                horizontalHeaderItem(column)->data(Qt::AccessibleTextRole).toString().toStdString());
         for (const int row : rows) {
             std::vector<std::string>& cells = part.rows.emplace_back();
             for (const int column : columns)
-                cells.push_back(item(row, column)->isSelected() ? item(row, column)->text().toStdString() : "");
+                cells.push_back(item(row, column)->isSelected() ? item(row, column)->text().toStdString()
+                                                                : "");
         }
         QGuiApplication::clipboard()->setText(QString::fromStdString(TabSeparated(part)));
     }

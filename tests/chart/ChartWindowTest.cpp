@@ -196,6 +196,20 @@ TEST_F(ChartInWindow, StartsWithTheStoredSwitches)
     EXPECT_TRUE(layout().plane.isMollier) << "the menu's chart";
 }
 
+TEST_F(ChartInWindow, IsSilentIfTheSettingsCannotBeRead)
+{
+    const QString config = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    ASSERT_TRUE(QDir().mkpath(config + "/Dunmoor.ini"));
+    start();
+    shown();
+    EXPECT_EQ(user.messages.size(), 1U) << "of the start";
+    open();
+    toggle("chkEnthalpy");
+    EXPECT_FALSE(chart::Choices::inForce().switches().enthalpy);
+    EXPECT_EQ(user.messages.size(), 1U);
+    EXPECT_TRUE(QDir(config + "/Dunmoor.ini").isEmpty());
+}
+
 TEST_F(ChartInWindow, IsLaidOutAnewFrom640By480To3840By2160)
 {
     start();

@@ -22,7 +22,8 @@ TEST(HelpChartReading, HasTheFiguresOfTheChart)
         }
     }
     QStringList onChart;
-    for (const chart::Figure& figure : chart::FiguresOf(chart::ReadingAt(chart::Air::inForce(), {75, 0.0093})))
+    for (const chart::Figure& figure :
+         chart::FiguresOf(chart::ReadingAt(chart::Air::inForce(), {75, 0.0093})))
         onChart << figure.name + " " + figure.value;
     EXPECT_EQ(onPage.join(", ").toStdString(), onChart.join(", ").toStdString());
 }
