@@ -2,9 +2,9 @@
 
 #include "chart/Keeping.h"
 #include "chart/Painter.h"
+#include "chart/Reading.h"
 #include "chart/Steps.h"
-#include "chart/Texts.h"
-#include "core/StatePoint.h"
+#include "chart/Tips.h"
 
 #include <QLineF>
 #include <QPainter>
@@ -13,48 +13,6 @@
 #include <algorithm>
 
 namespace chart {
-namespace {
-
-constexpr double reach = 8; // of a mark for the pointer, in pixels
-
-QString exactly(double value) { return QString::number(value, 'g', 17); }
-
-QString exactly(const View& view)
-{
-    QStringList parts;
-    for (const SwitchRow& row : switchRows)
-        parts << (view.switches.*row.isOn ? "1" : "0");
-    std::vector<Place> places = view.pins;
-    parts << QString::number(places.size());
-    if (view.crossHair)
-        places.push_back(*view.crossHair);
-    if (view.zoom)
-        places.insert(places.end(),
-                      {{view.zoom->tdb.low, view.zoom->tdb.high}, {view.zoom->w.low, view.zoom->w.high}});
-    for (const Place& place : places)
-        parts << exactly(place.Tdb) << exactly(place.W);
-    return parts.join(' ');
-}
-
-QString describe(const Air& air, const Place& place)
-{
-    QStringList lines;
-    for (const Figure& figure : FiguresOf(ReadingAt(air, place)))
-        lines << figure.value + " " + figure.unit + " " + figure.name.toLower();
-    return lines.join('\n');
-}
-
-/// At the state's own pressure.
-QString describe(const Mark& mark)
-{
-    const RunState& state = mark.state;
-    const QString title = mark.calculator
-                              ? TitleOf(*mark.calculator) + (", " + QString::fromStdString(state.name))
-                              : "Pin " + mark.name;
-    return title + "\n" + describe(Air(state.P), {state.Tdb, state.W}) + "\nat " + PressureText(state.P);
-}
-
-} // namespace
 
 ChartPicture::~ChartPicture()
 {
@@ -72,17 +30,7 @@ View ChartPicture::view() const
     return shown;
 }
 
-std::string ChartPicture::version() const
-{
-    QStringList parts{QString::number(UnitSystem), exactly(BaroPressure), exactly(view())};
-    for (const Run& run : ShownRuns()) {
-        parts << TitleOf(run.calculator);
-        for (const RunState& state : run.states)
-            parts << QString::fromStdString(state.name) << exactly(state.Tdb) << exactly(state.W)
-                  << exactly(state.P);
-    }
-    return parts.join(' ').toStdString();
-}
+std::string ChartPicture::version() const { return VersionOf(view()).toStdString(); }
 
 void ChartPicture::paint(QPainter& painter, const QSize& size, const QWidget& on)
 {
@@ -109,17 +57,8 @@ std::string ChartPicture::tipAt(const QPoint& place) const
 {
     if (!painted)
         return {};
-    QStringList tips;
-    for (const Mark& mark : painted->marks) {
-        if (QLineF(mark.place, place).length() <= reach)
-            tips.append(describe(mark));
-    }
-    if (!tips.isEmpty())
-        return tips.join("\n\n").toStdString();
-    const bool isCrossHair = keyPlace() == place; // which stands on whole units
-    const Place pointed = isCrossHair ? *crossHair : painted->plane.placeAt(place);
-    const bool isShown = painted->plane.plot.contains(place) && IsAir(painted->air, pointed);
-    return isShown ? describe(painted->air, pointed).toStdString() : std::string();
+    const bool isCrossHair = keyPlace() == place;
+    return TipAt(*painted, place, isCrossHair ? crossHair : std::nullopt).toStdString();
 }
 
 std::vector<forms::PictureCommand> ChartPicture::commands()
@@ -149,8 +88,9 @@ void ChartPicture::pin(const Place& place)
 {
     std::vector<Place> pins = Choices::inForce().pins();
     const QPointF point = painted->plane.at(place);
-    const auto letGo = std::erase_if(
-        pins, [&](const Place& other) { return QLineF(painted->plane.at(other), point).length() <= reach; });
+    const auto letGo = std::erase_if(pins, [&](const Place& other) {
+        return QLineF(painted->plane.at(other), point).length() <= MarkReach;
+    });
     if (letGo == 0)
         pins.push_back(place);
     Choices::inForce().setPins(std::move(pins));

@@ -38,7 +38,7 @@ public:
 
 protected:
     /// Shows another part of the chart, with the air at this point of the picture at rest.
-    void zoomTo(const Span& span, const QPointF& atRest);
+    void zoomTo(const Span& span, const QPointF& point);
     void zoomOut(); ///< to the whole
 
 private:

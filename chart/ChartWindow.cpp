@@ -22,13 +22,8 @@ ChartWindow::ChartWindow()
     : Form("ChartWindow", forms::FormKind::Screen), picChart(*this, "picChart", makePicture(*this, contents))
 {
     setCaption("Psychrometric Chart");
-    for (const SwitchRow& row : switchRows) {
-        forms::CheckBox& box = boxes.emplace_back(*this, row.name, row.caption, [this, &row] {
-            const auto place = static_cast<std::size_t>(&row - switchRows);
-            Choices::inForce().setSwitch(row, boxes.at(place).isChecked());
-        });
-        box.setChecked(Choices::inForce().switches().*row.isOn);
-    }
+    for (const SwitchRow& row : switchRows)
+        addBox(row);
     layOut();
     buildMenus();
     onHelpKey([this] { openHelp(); });
@@ -38,6 +33,15 @@ ChartWindow::ChartWindow()
 
 ChartWindow::~ChartWindow() { Choices::inForce().leave(this); }
 
+void ChartWindow::addBox(const SwitchRow& row)
+{
+    const std::size_t place = boxes.size();
+    forms::CheckBox& box = boxes.emplace_back(*this, row.name, row.caption, [this, &row, place] {
+        Choices::inForce().setSwitch(row, boxes.at(place).isChecked());
+    });
+    box.setChecked(Choices::inForce().switches().*row.isOn);
+}
+
 void ChartWindow::layOut()
 {
     picChart.setAccessibleName("Psychrometric chart");
@@ -46,6 +50,19 @@ void ChartWindow::layOut()
     forms::SetLeastHeight(picChart, 200);
     forms::SetLeastHeight(tblStates, 80);
 
+    auto* const column = new forms::Column(*this, {12, 10, 12, 12}, 8);
+    column->addLayout(switchGrid());
+    column->add(sides, 1);
+    std::vector<const Control*> order{&picChart, &tblStates};
+    for (const forms::CheckBox& box : boxes)
+        order.push_back(&box);
+    order.push_back(&btnWhole);
+    forms::SetTabOrder(order);
+}
+
+/// The check boxes, and the button behind the last of them.
+forms::Grid* ChartWindow::switchGrid()
+{
     constexpr int boxesInARow = 4;
     auto* const switches = new forms::Grid;
     switches->setHorizontalSpacing(20);
@@ -56,15 +73,7 @@ void ChartWindow::layOut()
     }
     switches->add(btnWhole, place / boxesInARow, place % boxesInARow);
     switches->setColumnStretch(boxesInARow, 1);
-
-    auto* const column = new forms::Column(*this, {12, 10, 12, 12}, 8);
-    column->addLayout(switches);
-    column->add(sides, 1);
-    std::vector<const Control*> order{&picChart, &tblStates};
-    for (const forms::CheckBox& box : boxes)
-        order.push_back(&box);
-    order.push_back(&btnWhole);
-    forms::SetTabOrder(order);
+    return switches;
 }
 
 void ChartWindow::buildMenus()

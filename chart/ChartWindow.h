@@ -25,12 +25,14 @@ protected:
     void Form_Load() override;
 
 private:
+    void addBox(const SwitchRow& row);
     void layOut();
+    forms::Grid* switchGrid();
     void buildMenus();
     void refresh();
     void openHelp();
 
-    ZoomPicture* contents; // owned by the picture
+    ZoomPicture* contents = nullptr; // owned by the picture
     Picture picChart;
     forms::Table tblStates{*this, "tblStates"};
     forms::Sides sides{*this, "sides", picChart, tblStates};

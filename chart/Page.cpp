@@ -95,35 +95,54 @@ private:
     double scale = 1;
 };
 
+/// How many rows are printed, and the height that they need.
+struct Portion
+{
+    std::size_t rows = 0;
+    std::size_t leftOut = 0;
+    double height = 0;
+};
+
+Portion portionOf(std::size_t allRows, double pageHeight, double line)
+{
+    constexpr double largestPart = 0.4; // of the page, for the table
+    const auto fitting = static_cast<std::size_t>(std::max(0.0, pageHeight * largestPart / line - 4));
+    Portion portion;
+    portion.rows = std::min(allRows, fitting);
+    portion.leftOut = allRows - portion.rows;
+    portion.height = line * (static_cast<double>(portion.rows) + (portion.leftOut > 0 ? 3.3 : 2.3));
+    return portion;
+}
+
+QFont tableFont()
+{
+    constexpr int pixels = 12;
+    QFont font = PaperFont();
+    font.setPixelSize(pixels);
+    return font;
+}
+
 } // namespace
 
 void PaintPage(QPainter& painter, const QSizeF& size, const View& view)
 {
-    QFont font = PaperFont();
-    constexpr int pixels = 12;
-    font.setPixelSize(pixels);
     const forms::TableContents states = StateTable(Choices::inForce().pins());
-    const PaperTable table(states, font, size.width());
+    const PaperTable table(states, tableFont(), size.width());
     const double line = table.lineHeight();
-    constexpr double largestPart = 0.4; // of the page, for the table
-    const auto fitting = static_cast<std::size_t>(std::max(0.0, size.height() * largestPart / line - 4));
-    const std::size_t rows = std::min(states.rows.size(), fitting);
-    const std::size_t leftOut = states.rows.size() - rows;
-    const double tableHeight = line * (static_cast<double>(rows) + (leftOut > 0 ? 3.3 : 2.3));
-    const double chartHeight = size.height() - tableHeight - line;
+    const Portion portion = portionOf(states.rows.size(), size.height(), line);
+    const double chartHeight = size.height() - portion.height - line;
 
     View ofChart = view;
     ofChart.hasPinTable = false;
     PaintOnPaper(painter, {size.width(), chartHeight}, ofChart);
-    painter.setFont(font);
+    table.paint(painter, {0, chartHeight + line / 2}, portion.rows);
+    painter.setFont(tableFont());
     painter.setPen(Qt::black);
-    const QRectF date(0, 0, size.width(), line);
-    painter.drawText(date, Qt::AlignRight | Qt::AlignTop, QString::fromStdString(ShortDate()));
-    table.paint(painter, {0, chartHeight + line / 2}, rows);
-    if (leftOut > 0) {
-        const QRectF note(0, size.height() - line * 1.2, size.width(), line * 1.2);
-        painter.drawText(note, Qt::AlignLeft, QString("%1 more states are not shown.").arg(leftOut));
-    }
+    const QRectF page({0, 0}, size);
+    painter.drawText(page, Qt::AlignRight | Qt::AlignTop, QString::fromStdString(ShortDate()));
+    if (portion.leftOut > 0)
+        painter.drawText(page, Qt::AlignLeft | Qt::AlignBottom,
+                         QString("%1 more states are not shown.").arg(portion.leftOut));
 }
 
 } // namespace chart

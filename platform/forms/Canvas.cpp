@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QToolTip>
 
+#include <algorithm>
 #include <utility>
 
 namespace forms {
@@ -166,13 +167,14 @@ void Canvas::keyPressEvent(QKeyEvent* event)
 bool Canvas::runCommand(const QKeyEvent& event)
 {
     const QKeySequence pressed(event.keyCombination());
-    for (const PictureCommand& command : contents->commands()) {
-        if (QKeySequence::listFromString(QString::fromStdString(command.keys)).contains(pressed)) {
-            run(command.run);
-            return true;
-        }
-    }
-    return false;
+    const std::vector<PictureCommand> commands = contents->commands();
+    const auto command = std::ranges::find_if(commands, [&pressed](const PictureCommand& each) {
+        return QKeySequence::listFromString(QString::fromStdString(each.keys)).contains(pressed);
+    });
+    if (command == commands.end())
+        return false;
+    run(command->run);
+    return true;
 }
 
 /// Describes the place that the keys moved to assistive technology.

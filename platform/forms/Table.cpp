@@ -43,14 +43,20 @@ protected:
 private:
     void copy() const
     {
+        const TableContents part = selected();
+        if (!part.rows.empty())
+            QGuiApplication::clipboard()->setText(QString::fromStdString(TabSeparated(part)));
+    }
+
+    /// The rows and columns with selected cells. The others among them are empty.
+    TableContents selected() const
+    {
         std::set<int> rows;
         std::set<int> columns;
         for (const QModelIndex& cell : selectedIndexes()) {
             rows.insert(cell.row());
             columns.insert(cell.column());
         }
-        if (rows.empty())
-            return;
         TableContents part;
         for (const int column : columns)
             part.headings.push_back(
@@ -58,11 +64,12 @@ private:
         for (const int row : rows) {
             std::vector<std::string>& cells = part.rows.emplace_back();
             for (const int column : columns)
-                cells.push_back(item(row, column)->isSelected() ? item(row, column)->text().toStdString()
-                                                                : "");
+                cells.push_back(item(row, column)->isSelected() ? textAt(row, column) : "");
         }
-        QGuiApplication::clipboard()->setText(QString::fromStdString(TabSeparated(part)));
+        return part;
     }
+
+    std::string textAt(int row, int column) const { return item(row, column)->text().toStdString(); }
 };
 
 TableView* asView(const Table* table) { return static_cast<TableView*>(table->widget()); }
