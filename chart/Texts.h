@@ -36,6 +36,6 @@ struct Figure
 };
 
 /// All properties of a reading, in the order of the calculators, without the pressure.
-std::vector<Figure> FiguresOf(const Reading& reading);
+std::vector<Figure> FiguresOf(const Reading& air);
 
 } // namespace chart
