@@ -49,6 +49,16 @@ double Air::onWetBulb(double twb, double tdb) const
     });
 }
 
+double Air::enthalpy(double tdb, double w) const
+{
+    return orInfinite([&] { return EnthalpyOf(single(tdb), single(w)); });
+}
+
+double Air::tdbOfEnthalpy(double h, double w) const
+{
+    return orInfinite([&] { return DryBulbFromEnthalpy(single(h), single(w)); });
+}
+
 double Air::specificVolume(double tdb, double w) const
 {
     return orInfinite([&] { return SpecificVolumeOf(ToAbsolute(single(tdb)), single(w), P); });

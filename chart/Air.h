@@ -26,6 +26,9 @@ public:
     double atRelativeHumidity(double rh, double tdb) const;
     /// Humidity ratio at a wet bulb; negative if the dry bulb is too far above it.
     double onWetBulb(double twb, double tdb) const;
+    double enthalpy(double tdb, double w) const;
+    /// The dry bulb at which air with humidity ratio w has that enthalpy.
+    double tdbOfEnthalpy(double h, double w) const;
     double specificVolume(double tdb, double w) const;
     /// The dry bulb at which air with humidity ratio w has that specific volume.
     double tdbOfVolume(double volume, double w) const;

@@ -1,72 +1,166 @@
 #include "chart/ChartPicture.h"
 
+#include "chart/Keeping.h"
 #include "chart/Painter.h"
-#include "chart/Texts.h"
-#include "core/StatePoint.h"
+#include "chart/Reading.h"
+#include "chart/Steps.h"
+#include "chart/Tips.h"
 
 #include <QLineF>
 #include <QPainter>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace chart {
-namespace {
 
-constexpr double tipReach = 8; // distance from a mark, in pixels
-
-/// With all digits of the single.
-QString exactly(Single value) { return QString::number(value, 'g', 9); }
-
-QString describe(const Air& air, double tdb, double w)
+ChartPicture::~ChartPicture()
 {
-    return TdbText(tdb) + " dry bulb\n" + HumidityRatioText(w) + " humidity ratio\n" +
-           RelativeHumidityText(air.relativeHumidity(tdb, w)) + " relative humidity";
+    if (painted)
+        Choices::inForce().leave(this);
 }
 
-/// At the state's own pressure.
-QString describe(const Mark& mark)
+View ChartPicture::view() const
 {
-    const RunState& state = mark.state;
-    return QString(TitleOf(mark.calculator)) + ", " + QString::fromStdString(state.name) + "\n" +
-           describe(Air(state.P), state.Tdb, state.W) + "\nat " + PressureText(state.P);
-}
-
-} // namespace
-
-std::string ChartPicture::version() const
-{
-    QStringList parts{QString::number(UnitSystem), exactly(BaroPressure)};
-    for (const Run& run : ShownRuns()) {
-        parts << TitleOf(run.calculator);
-        for (const RunState& state : run.states)
-            parts << QString::fromStdString(state.name) << exactly(state.Tdb) << exactly(state.W)
-                  << exactly(state.P);
+    View shown{.switches = Choices::inForce().switches(), .pins = Choices::inForce().pins()};
+    if (isPresent()) {
+        shown.crossHair = crossHair;
+        shown.zoom = zoom;
     }
-    return parts.join(' ').toStdString();
+    return shown;
 }
+
+std::string ChartPicture::version() const { return VersionOf(view()).toStdString(); }
 
 void ChartPicture::paint(QPainter& painter, const QSize& size, const QWidget& on)
 {
-    painted.emplace(size, on.font());
+    Choices::inForce().listen(this, [this] { changed(); });
+    layOut(size, on.font());
     Paint(painter, *painted, on.palette());
-    painted->curves.clear(); // not needed for tips
+    painted->curves.clear(); // not needed for readings
+}
+
+/// The plot of another part can have another size, because its legend and scales need more or less space.
+void ChartPicture::layOut(const QSize& size, const QFont& font)
+{
+    const QRectF before = painted ? painted->plane.plot : QRectF();
+    painted.emplace(size, font, view());
+    if (atRest && painted->plane.plot != before) {
+        const auto& [point, place] = *atRest;
+        zoom = painted->plane.moved(point - painted->plane.at(place));
+        painted.emplace(size, font, view());
+    }
+    atRest.reset();
 }
 
 std::string ChartPicture::tipAt(const QPoint& place) const
 {
     if (!painted)
         return {};
-    QStringList tips;
-    for (const Mark& mark : painted->marks) {
-        if (QLineF(mark.place, place).length() <= tipReach)
-            tips.append(describe(mark));
+    const bool isCrossHair = keyPlace() == place;
+    return TipAt(*painted, place, isCrossHair ? crossHair : std::nullopt).toStdString();
+}
+
+std::vector<forms::PictureCommand> ChartPicture::commands()
+{
+    std::vector<forms::PictureCommand> all;
+    if (openWindow)
+        all.push_back({"mnuOpenChart", "&Open Chart", "Ctrl+O", openWindow});
+    all.push_back({"mnuCopyPicture", "&Copy Picture", "Ctrl+C; Ctrl+Ins", [this] { CopyPicture(view()); }});
+    all.push_back({"mnuCopyFigures", "Copy &Figures", "Ctrl+Shift+C", [] { CopyFigures(); }});
+    all.push_back({"mnuSavePicture", "&Save Picture as...", "Ctrl+S", [this] { SavePicture(form, view()); }});
+    all.push_back({"mnuPrintPicture", "&Print...", "Ctrl+P", [this] { PrintPicture(form, view()); }});
+    return all;
+}
+
+void ChartPicture::click(const QPoint& place)
+{
+    pinsBeforeClick = Choices::inForce().pins();
+    if (!painted || !painted->plane.plot.contains(place))
+        return;
+    const Place pointed = painted->plane.placeAt(place);
+    if (IsAir(painted->air, pointed))
+        pin(pointed);
+}
+
+/// Pins a reading, or lets go the pins that are there already.
+void ChartPicture::pin(const Place& place)
+{
+    std::vector<Place> pins = Choices::inForce().pins();
+    const QPointF point = painted->plane.at(place);
+    const auto letGo = std::erase_if(pins, [&](const Place& other) {
+        return QLineF(painted->plane.at(other), point).length() <= MarkReach;
+    });
+    if (letGo == 0)
+        pins.push_back(place);
+    Choices::inForce().setPins(std::move(pins));
+}
+
+/// Opens the window, and undoes its first click.
+void ChartPicture::doubleClick(const QPoint& /*place*/)
+{
+    Choices::inForce().setPins(pinsBeforeClick);
+    if (openWindow)
+        openWindow();
+}
+
+bool ChartPicture::pressKey(int key, Qt::KeyboardModifiers modifiers)
+{
+    modifiers &= ~Qt::KeypadModifier;
+    const bool isShifted = modifiers == Qt::ShiftModifier;
+    if (!painted || (modifiers != Qt::NoModifier && !isShifted))
+        return false;
+    if (const auto step = StepOf(key, isShifted, painted->plane.isMollier)) {
+        moveCrossHair(*step);
+        return true;
     }
-    if (!tips.isEmpty())
-        return tips.join("\n\n").toStdString();
-    const double tdb = painted->plane.tdbAt(place.x());
-    const double w = painted->plane.wAt(place.y());
-    const bool isAir =
-        painted->air.isDefined() && painted->plane.span.holds(tdb, w) && w <= painted->air.saturated(tdb);
-    return isAir ? describe(painted->air, tdb, w).toStdString() : std::string();
+    if (key == Qt::Key_Escape)
+        return clear();
+    const bool isPinned = (key == Qt::Key_Return || key == Qt::Key_Enter) && keyPlace();
+    if (isPinned)
+        pin(*crossHair);
+    return isPinned;
+}
+
+void ChartPicture::moveCrossHair(const Step& step)
+{
+    if (!isPresent())
+        zoom.reset();
+    crossHair = Moved(view().crossHair, step, painted->air, painted->plane);
+    lookedAt = Conditions::inForce();
+}
+
+/// Returns false if there is nothing to clear.
+bool ChartPicture::clear()
+{
+    const bool isAnything = view().crossHair || !Choices::inForce().pins().empty();
+    crossHair.reset();
+    Choices::inForce().setPins({});
+    return isAnything;
+}
+
+void ChartPicture::zoomTo(const Span& span, const QPointF& point)
+{
+    if (!isPresent())
+        crossHair.reset();
+    zoom = span;
+    lookedAt = Conditions::inForce();
+    painted->plane.span = span; // for a movement that comes before the next picture
+    atRest.emplace(point, painted->plane.placeAt(point));
+    changed();
+}
+
+void ChartPicture::zoomOut()
+{
+    zoom.reset();
+    changed();
+}
+
+std::optional<QPoint> ChartPicture::keyPlace() const
+{
+    if (!painted || !view().crossHair)
+        return std::nullopt;
+    return painted->plane.at(*crossHair).toPoint();
 }
 
 } // namespace chart

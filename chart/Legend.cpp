@@ -12,29 +12,34 @@ constexpr double runGap = 22; // between the runs of a line
 
 } // namespace
 
-Legend::Legend(const Air& air, const Span& shown, const std::vector<Run>& runs, const QFontMetricsF& font)
-    : pressure(air.pressure()), span(shown), metrics(font)
+Legend::Legend(const Layout& chart, const Lettering& inLetters)
+    : air(chart.air),
+      plane(chart.plane),
+      isWhole(!chart.view.zoom),
+      letters(inLetters),
+      lineHeight(letters.height() * 1.3)
 {
-    lines.push_back({entry("At " + PressureText(pressure), std::nullopt)});
+    lines.push_back({entry("At " + PressureText(air.pressure()), std::nullopt)});
     int number = 1;
-    for (const Run& run : runs)
+    for (const Run& run : chart.runs)
         lines.push_back(lineOf(run, number));
 }
 
 Label Legend::entry(const QString& text, std::optional<Calculator> calculator) const
 {
-    return {
-        .text = text, .size = {metrics.horizontalAdvance(text), metrics.height()}, .calculator = calculator};
+    Label label = letters.label(text);
+    label.calculator = calculator;
+    return label;
 }
 
-/// Adds a note if the state is off the chart, or at another pressure: its wet bulb and relative humidity
-/// can't be read off this chart.
+/// Adds a note if the state is off the whole chart, or at another pressure: its wet bulb and relative
+/// humidity can't be read off this chart.
 QString Legend::nameOf(const RunState& state) const
 {
     QString name = QString::fromStdString(state.name);
-    if (state.P != pressure)
+    if (state.P != air.pressure())
         name += " (at " + PressureText(state.P) + ")";
-    if (!span.holds(state.Tdb, state.W))
+    if (isWhole && !plane.holds({state.Tdb, state.W}))
         name += " (off the chart)";
     return name;
 }
@@ -55,7 +60,7 @@ double Legend::widthOf(const Line& line) const
     return width;
 }
 
-void Legend::place(const Line& line, QPointF topLeft, std::vector<Label>& labels) const
+void Legend::append(const Line& line, QPointF topLeft, std::vector<Label>& labels) const
 {
     for (Label label : line) {
         label.center = topLeft + QPointF(label.size.width(), label.size.height()) / 2;
@@ -64,24 +69,30 @@ void Legend::place(const Line& line, QPointF topLeft, std::vector<Label>& labels
     }
 }
 
-bool Legend::fitsCorner(const Air& air, const Plane& plane) const
+/// In the psychrometric form from the top left corner on, in Mollier's above the bottom right one.
+QPointF Legend::cornerStart(std::size_t index) const
 {
-    const double beside = metrics.horizontalAdvance("00000"); // for the labels at the saturation curve
-    double bottom = plane.plot.top() + lineHeight;
-    return std::all_of(lines.begin(), lines.end(), [&](const Line& line) {
-        bottom += lineHeight;
-        const double saturated = SaturatedTdb(air, plane.span.tdb, plane.wAt(bottom));
-        return plane.plot.left() + widthOf(line) + beside < plane.at(saturated, 0).x();
-    });
+    const QRectF& plot = plane.plot;
+    const auto above = static_cast<double>(index);
+    if (!plane.isMollier)
+        return plot.topLeft() + QPointF(0, above * lineHeight);
+    const auto count = static_cast<double>(lines.size());
+    return plot.bottomRight() - QPointF(widthOf(lines[index]), (count - above) * lineHeight);
 }
 
-std::vector<Label> Legend::inCorner(const QRectF& plot) const
+std::vector<Label> Legend::inCorner(const Rim& rim, double least) const
 {
     std::vector<Label> labels;
-    QPointF start = plot.topLeft();
-    for (const Line& line : lines) {
-        place(line, start, labels);
-        start.ry() += lineHeight;
+    for (std::size_t index = 0; index < lines.size(); ++index) {
+        const QPointF start = cornerStart(index);
+        const QPointF inner =
+            plane.isMollier ? start : start + QPointF(widthOf(lines[index]), letters.height());
+        const Place place = plane.placeAt(inner);
+        const bool isFree =
+            plane.plot.contains(inner) && place.W > air.saturated(place.Tdb) && rim.distanceTo(inner) > least;
+        if (!isFree)
+            return {};
+        append(lines[index], start, labels);
     }
     return labels;
 }
@@ -93,7 +104,7 @@ std::vector<Label> Legend::inStrip(const QRectF& strip) const
     for (const Line& line : lines) {
         if (start.x() > strip.left() && start.x() + widthOf(line) > strip.right())
             start = {strip.left(), start.y() + lineHeight};
-        place(line, start, labels);
+        append(line, start, labels);
         start.rx() += widthOf(line) + runGap;
     }
     return labels;
@@ -101,7 +112,7 @@ std::vector<Label> Legend::inStrip(const QRectF& strip) const
 
 double Legend::stripHeight(double width) const
 {
-    return inStrip({0, 0, width, 0}).back().center.y() + metrics.height();
+    return inStrip({0, 0, width, 0}).back().center.y() + letters.height();
 }
 
 } // namespace chart

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "chart/Labels.h"
-#include "chart/Plane.h"
-#include "chart/Runs.h"
-
-#include <QFontMetricsF>
+#include "chart/Layout.h"
+#include "chart/Lettering.h"
+#include "chart/Scales.h"
 
 #include <vector>
 
@@ -15,11 +13,10 @@ namespace chart {
 class Legend
 {
 public:
-    Legend(const Air& air, const Span& shown, const std::vector<Run>& runs, const QFontMetricsF& font);
+    Legend(const Layout& chart, const Lettering& letters);
 
-    /// True if the corner of the plot has enough space beside the saturation curve and its labels.
-    bool fitsCorner(const Air& air, const Plane& plane) const;
-    std::vector<Label> inCorner(const QRectF& plot) const;
+    /// The labels in the corner, or none if one of them would be nearer to the rim of the air than `least`.
+    std::vector<Label> inCorner(const Rim& rim, double least) const;
 
     /// Fills the strip line by line and keeps each run on one line.
     std::vector<Label> inStrip(const QRectF& strip) const;
@@ -32,13 +29,15 @@ private:
     Line lineOf(const Run& run, int& number) const;
     QString nameOf(const RunState& state) const;
     double widthOf(const Line& line) const;
+    QPointF cornerStart(std::size_t index) const;
     /// Appends the line's labels, placed from topLeft on.
-    void place(const Line& line, QPointF topLeft, std::vector<Label>& labels) const;
+    void append(const Line& line, QPointF topLeft, std::vector<Label>& labels) const;
 
-    Single pressure;
-    Span span;
-    QFontMetricsF metrics;
-    double lineHeight = metrics.height() * 1.3;
+    const Air& air;
+    const Plane& plane;
+    bool isWhole; // not zoomed
+    const Lettering& letters;
+    double lineHeight;
     std::vector<Line> lines;
 };
 

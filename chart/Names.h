@@ -1,14 +1,34 @@
 #pragma once
 
 #include "chart/Layout.h"
-
-#include <QFontMetricsF>
+#include "chart/Lettering.h"
+#include "chart/Scales.h"
 
 namespace chart {
 
-constexpr double axisGap = 4; ///< between an axis and its figures
+/// Adds the figures and titles of the two axes, and the scale of grains.
+void AddAxisNames(Layout& chart, const Lettering& letters);
 
-/// Numbers the marks, and adds the figures of the axes and the names of the curves.
-void AddNames(Layout& chart, const QFontMetricsF& metrics);
+/// Traces the wet bulb lines in the closest steps at which all of them can be named, and names them. If that
+/// is not possible, none has a name.
+std::vector<Curve> NamedWetBulbs(Layout& chart, const Tracer& tracer, const Rim& rim,
+                                 const Lettering& letters);
+
+/// Adds the enthalpy scale outside the rim.
+void AddEnthalpyScale(Layout& chart, const std::vector<Curve>& enthalpies, const Rim& rim,
+                      const Lettering& letters);
+
+/// Adds the figures and titles of the families along their curves.
+void AddCurveNames(Layout& chart, const Lettering& letters);
+
+/// Adds the names of the comfort zones and the values of the heat ratios.
+void AddOverlayNames(Layout& chart, const Lettering& letters);
+
+/// Adds the names of the marks. Marks at the same place share a label.
+void AddMarkNames(Layout& chart, const Lettering& letters);
+
+/// The label on a line at these parts of its length, as candidates. Only those inside the plot.
+std::vector<Label> Along(const QPolygonF& line, Label label, const QRectF& plot,
+                         std::initializer_list<double> parts);
 
 } // namespace chart

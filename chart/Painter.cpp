@@ -1,6 +1,7 @@
 #include "chart/Painter.h"
 
 #include "chart/Layout.h"
+#include "chart/Lettering.h"
 #include "chart/Theme.h"
 
 #include <QPaintDevice>
@@ -15,6 +16,24 @@ namespace {
 
 constexpr double markRadius = 4;
 
+/// Paints without smooth edges, which is several times faster, where nobody sees them: on upright lines and
+/// on areas whose edges have a line or the color of their ground.
+class Rough
+{
+public:
+    explicit Rough(QPainter& on) : painter(on), wasSmooth(on.testRenderHint(QPainter::Antialiasing))
+    {
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    }
+    ~Rough() { painter.setRenderHint(QPainter::Antialiasing, wasSmooth); }
+    Rough(const Rough&) = delete;
+    Rough& operator=(const Rough&) = delete;
+
+private:
+    QPainter& painter;
+    bool wasSmooth;
+};
+
 class Painter
 {
 public:
@@ -25,46 +44,25 @@ public:
     void paint()
     {
         painter.setFont(chart.font);
-        painter.save();
-        painter.setClipRect(chart.plane.plot.adjusted(-1, -1, 1, 1));
-        painter.fillPath(airArea(), theme.paper());
+        paintPaper();
+        paintZones();
         for (const Curve& curve : chart.curves)
             paintCurve(curve);
-        painter.restore();
         paintFrame();
+        paintScales();
+        for (const HeatRatio& ratio : chart.heatRatios)
+            paintHeatRatio(ratio);
         paintHalos();
-        for (const Run& run : chart.runs) {
-            if (run.isJoined)
-                paintProcess(run);
-        }
+        for (const Process& process : chart.processes)
+            paintProcess(process);
         for (const Mark& mark : chart.marks)
             paintMark(mark);
         for (const Label& label : chart.labels.all())
             paintLabel(label);
+        paintCrossHair();
     }
 
 private:
-    /// The area below the saturation curve.
-    QPainterPath airArea() const
-    {
-        const QRectF& plot = chart.plane.plot;
-        QPolygonF area;
-        for (const Curve& curve : chart.curves) {
-            if (curve.family == Family::Saturation)
-                area = curve.line;
-        }
-        if (area.isEmpty())
-            area << plot.topLeft();
-        area << QPointF(area.back().x(), plot.top()) << plot.topRight() << plot.bottomRight()
-             << plot.bottomLeft();
-        if (area.back().y() < plot.bottom())
-            area.pop_back();
-        QPainterPath path;
-        path.addPolygon(area);
-        path.closeSubpath();
-        return path;
-    }
-
     /// The center of the device pixel at that place, where thin lines are sharp.
     QPointF sharp(const QPointF& place) const
     {
@@ -73,60 +71,96 @@ private:
         return {middle(place.x()), middle(place.y())};
     }
 
+    /// One path for each curve.
     void paintCurve(const Curve& curve)
     {
-        painter.setPen(theme.pen(curve.family));
         const bool isGrid = curve.family == Family::DryBulb || curve.family == Family::HumidityRatio;
-        if (isGrid)
-            painter.drawLine(sharp(curve.line.front()), sharp(curve.line.back()));
-        else
-            painter.drawPolyline(curve.line);
+        const bool isUpright = curve.line.front().x() == curve.line.back().x() ||
+                               curve.line.front().y() == curve.line.back().y();
+        QPainterPath path;
+        if (isGrid && isUpright) {
+            const Rough rough(painter);
+            path.addPolygon(QPolygonF{sharp(curve.line.front()), sharp(curve.line.back())});
+            painter.strokePath(path, theme.pen(curve.family));
+            return;
+        }
+        path.addPolygon(curve.line);
+        painter.strokePath(path, theme.pen(curve.family));
     }
 
     /// The two axes with figures.
     void paintFrame()
     {
         const QRectF& plot = chart.plane.plot;
-        painter.setPen(theme.axis());
-        painter.drawLine(sharp(plot.bottomLeft()), sharp(plot.bottomRight()));
-        painter.drawLine(sharp(plot.bottomRight()), sharp(plot.topRight()));
+        const bool isMollier = chart.plane.isMollier;
+        QPainterPath path;
+        path.addPolygon(QPolygonF{sharp(plot.bottomLeft()),
+                                  sharp(isMollier ? plot.topLeft() : plot.bottomRight()),
+                                  sharp(plot.topRight())});
+        painter.strokePath(path, theme.axis());
+    }
+
+    void paintScales()
+    {
+        QPainterPath ratios;
+        QPainterPath enthalpies;
+        for (const Curve& scale : chart.scales)
+            (scale.family == Family::Enthalpy ? enthalpies : ratios).addPolygon(scale.line);
+        painter.strokePath(ratios, theme.axis());
+        painter.strokePath(enthalpies, theme.scale(Family::Enthalpy));
+    }
+
+    void paintPaper()
+    {
+        const Rough rough(painter);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(theme.paper());
+        painter.drawPolygon(chart.airArea);
+    }
+
+    void paintZones()
+    {
+        for (const ComfortZone& zone : chart.zones) {
+            painter.setPen(theme.zonePen());
+            painter.setBrush(theme.zone());
+            painter.drawPolygon(zone.area);
+        }
     }
 
     /// Clears the lines behind the names on them.
     void paintHalos()
     {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(theme.paper());
+        const Rough rough(painter);
         for (const Label& label : chart.labels.all()) {
-            const bool isInPlot = label.angle != 0 || label.calculator;
-            if (isInPlot && chart.plane.plot.contains(label.center) && isBelowSaturation(label)) {
-                QPainterPath path;
-                path.addPolygon(label.outline());
-                painter.fillPath(path, theme.paper());
-            }
+            if (label.hasHalo && isBelowSaturation(label))
+                painter.drawPolygon(label.outline());
         }
     }
 
     bool isBelowSaturation(const Label& label) const
     {
-        const Plane& plane = chart.plane;
-        const auto isBelow = [&](const QPointF& corner) {
-            return plane.wAt(corner.y()) < chart.air.saturated(plane.tdbAt(corner.x()));
-        };
         const QPolygonF outline = label.outline();
-        return std::all_of(outline.begin(), outline.end(), isBelow);
+        return std::all_of(outline.begin(), outline.end(), [&](const QPointF& corner) {
+            const Place place = chart.plane.placeAt(corner);
+            return chart.plane.plot.contains(corner) && place.W < chart.air.saturated(place.Tdb);
+        });
     }
 
-    void paintProcess(const Run& run)
+    void paintHeatRatio(const HeatRatio& ratio)
     {
-        const QPointF from = chart.placeOf(run.states[0]);
-        const QPointF to = chart.placeOf(run.states[1]);
-        const QColor color = theme.run(run.calculator);
-        painter.save();
-        painter.setClipRect(chart.plane.plot);
+        painter.setPen(QPen(theme.run(ratio.calculator), 1, Qt::DashLine));
+        painter.drawLine(ratio.line);
+    }
+
+    void paintProcess(const Process& process)
+    {
+        const QColor color = theme.run(process.calculator);
         painter.setPen(QPen(color, 1.8));
-        painter.drawLine(from, to);
-        if (run.isDirected())
-            paintArrow(from, to, color);
-        painter.restore();
+        painter.drawLine(process.line);
+        if (process.isDirected)
+            paintArrow(process.line.p1(), process.line.p2(), color);
     }
 
     /// At the middle of the line, if there is enough space between the marks.
@@ -144,26 +178,55 @@ private:
         painter.drawPolygon(corners, 3);
     }
 
-    /// Hollow if the state's pressure differs from the chart's.
+    /// A disc, or a diamond for a pin. Hollow if the state's pressure differs from the chart's.
     void paintMark(const Mark& mark)
     {
-        const QColor color = theme.run(mark.calculator);
+        const QColor color = mark.calculator ? theme.run(*mark.calculator) : theme.text({});
         const bool isOfThisPressure = mark.state.P == chart.air.pressure();
         painter.setPen(QPen(isOfThisPressure ? theme.paper() : color, 1.5));
         painter.setBrush(isOfThisPressure ? color : theme.paper());
-        painter.drawEllipse(mark.place, markRadius, markRadius);
+        if (mark.calculator) {
+            painter.drawEllipse(mark.place, markRadius, markRadius);
+            return;
+        }
+        const QPointF across(markRadius + 1, 0);
+        const QPointF up(0, markRadius + 1);
+        const QPointF corners[] = {mark.place - across, mark.place - up, mark.place + across,
+                                   mark.place + up};
+        painter.drawPolygon(corners, 4);
     }
 
     void paintLabel(const Label& label)
     {
-        painter.save();
         painter.setPen(label.calculator ? theme.run(*label.calculator) : theme.text(label.family));
-        painter.translate(label.center);
-        painter.rotate(label.angle);
-        const QSizeF& size = label.size;
-        painter.drawText(QRectF(QPointF(-size.width(), -size.height()) / 2, size), Qt::AlignCenter,
-                         label.text);
-        painter.restore();
+        const QFontMetricsF metrics(label.isTitle ? FontOfTitle(chart.font) : chart.font);
+        const QPointF start(-label.textWidth / 2, (metrics.ascent() - metrics.descent()) / 2);
+        if (label.isTitle)
+            painter.setFont(FontOfTitle(chart.font));
+        if (label.angle == 0) {
+            painter.drawText(label.center + start, label.text);
+        } else {
+            const QTransform before = painter.transform();
+            painter.translate(label.center);
+            painter.rotate(label.angle);
+            painter.drawText(start, label.text);
+            painter.setTransform(before);
+        }
+        if (label.isTitle)
+            painter.setFont(chart.font);
+    }
+
+    void paintCrossHair()
+    {
+        if (chart.crossHairReading.empty())
+            return;
+        painter.setPen(theme.axis());
+        for (const QLineF& line : chart.crossHair)
+            painter.drawLine(line);
+        painter.setBrush(theme.paper());
+        painter.drawRect(chart.crossHairPanel);
+        for (const Label& label : chart.crossHairReading)
+            paintLabel(label);
     }
 
     QPainter& painter;

@@ -33,6 +33,15 @@ const char* TitleOf(Calculator calculator)
     return titles.at(static_cast<std::size_t>(calculator));
 }
 
+QString NextLetter(const QString& letter)
+{
+    const QString front = letter.chopped(1);
+    const QChar last = letter.back();
+    if (last != 'Z')
+        return front + QChar(last.unicode() + 1);
+    return (front.isEmpty() ? QString("A") : NextLetter(front)) + "A";
+}
+
 std::vector<Run> ShownRuns()
 {
     std::vector<Run> runs;

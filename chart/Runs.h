@@ -2,6 +2,8 @@
 
 #include "core/LastRuns.h"
 
+#include <QString>
+
 #include <vector>
 
 namespace chart {
@@ -18,6 +20,9 @@ struct Run
 };
 
 const char* TitleOf(Calculator calculator);
+
+/// The name of the next pin: "A" to "Z", then "AA".
+QString NextLetter(const QString& letter);
 
 /// The last runs in the current units, in the order of the main menu.
 std::vector<Run> ShownRuns();

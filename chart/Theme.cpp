@@ -18,6 +18,8 @@ struct Pair
 const Pair saturation{{16, 62, 120}, {130, 195, 255}};
 const Pair humidity{{72, 118, 176}, {96, 148, 205}};
 const Pair wetBulb{{46, 128, 92}, {92, 176, 136}};
+const Pair enthalpy{{138, 72, 112}, {214, 150, 190}};
+const Pair comfort{{70, 160, 90}, {110, 200, 130}};
 const Pair volume{{160, 112, 48}, {196, 152, 92}};
 
 /// In the order of the main menu.
@@ -27,16 +29,24 @@ const std::array<Pair, 5> runs{{{{112, 48, 150}, {205, 150, 240}},
                                 {{190, 88, 0}, {255, 170, 85}},
                                 {{0, 118, 104}, {80, 210, 190}}}};
 
-/// How opaque the thin lines are.
-struct Opacity
+/// How strong the thin lines are, from 0 (as the ground) to 1.
+struct Strength
 {
-    int curve;
-    int grid;
-    int axis;
+    float curve;
+    float grid;
+    float axis;
 };
 
-constexpr Opacity calm{.curve = 130, .grid = 40, .axis = 170};
-constexpr Opacity strong{.curve = 255, .grid = 110, .axis = 255};
+constexpr Strength calm{.curve = 0.51F, .grid = 0.16F, .axis = 0.67F};
+constexpr Strength strong{.curve = 1, .grid = 0.43F, .axis = 1};
+
+/// An opaque color: the toolkit paints lines that let the ground through several times slower.
+QColor mixed(const QColor& color, const QColor& ground, float strength)
+{
+    const auto mix = [strength](float one, float other) { return one * strength + other * (1 - strength); };
+    return QColor::fromRgbF(mix(color.redF(), ground.redF()), mix(color.greenF(), ground.greenF()),
+                            mix(color.blueF(), ground.blueF()));
+}
 
 } // namespace
 
@@ -48,21 +58,38 @@ Theme::Theme(const QPalette& desktop)
 
 QColor Theme::axis() const
 {
-    QColor color = palette.color(QPalette::WindowText);
-    color.setAlpha((isStrong ? strong : calm).axis);
-    return color;
+    return mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window),
+                 (isStrong ? strong : calm).axis);
 }
 
 QPen Theme::pen(Family family) const
 {
-    QColor color = text(family);
+    const QColor color = text(family);
     if (family == Family::Saturation)
         return {color, 2.2};
     const bool isGrid = family == Family::DryBulb || family == Family::HumidityRatio;
-    const Opacity& opacity = isStrong ? strong : calm;
-    color.setAlpha(isGrid ? opacity.grid : opacity.curve);
-    return {color, 1};
+    const Strength& strength = isStrong ? strong : calm;
+    QPen pen(mixed(color, paper(), isGrid ? strength.grid : strength.curve), 1);
+    if (family == Family::WetBulb)
+        pen.setDashPattern({7, 3});
+    if (family == Family::Enthalpy)
+        pen.setDashPattern({1, 3});
+    return pen;
 }
+
+QPen Theme::scale(Family family) const
+{
+    return {mixed(text(family), palette.color(QPalette::Window), (isStrong ? strong : calm).axis), 1};
+}
+
+QColor Theme::zone() const
+{
+    QColor color = comfort.on(isDark);
+    color.setAlpha(38); // the zones overlap
+    return color;
+}
+
+QPen Theme::zonePen() const { return {comfort.on(isDark), 1}; }
 
 QColor Theme::text(const std::optional<Family>& family) const
 {
@@ -72,6 +99,8 @@ QColor Theme::text(const std::optional<Family>& family) const
         return humidity.on(isDark);
     if (family == Family::WetBulb)
         return wetBulb.on(isDark);
+    if (family == Family::Enthalpy)
+        return enthalpy.on(isDark);
     if (family == Family::SpecificVolume)
         return volume.on(isDark);
     return palette.color(QPalette::WindowText);

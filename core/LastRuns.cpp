@@ -6,4 +6,5 @@ void KeepLastRun(Calculator calculator, std::initializer_list<NamedAir> states)
     run = {calculator, UnitSystem, {}};
     for (const auto& [name, air] : states)
         run.states.push_back({name, air.Tdb, air.W, air.P});
+    LastRunKept();
 }

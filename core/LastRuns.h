@@ -46,5 +46,8 @@ struct NamedAir
     const AirSnapshot& air;
 };
 
+/// Called after a record was replaced, so that a chart on the screen follows. Does nothing by default.
+inline void (*LastRunKept)() = [] {};
+
 /// Replaces a calculator's record and nothing else. Called by the step that completes a run.
 void KeepLastRun(Calculator calculator, std::initializer_list<NamedAir> states);

@@ -11,7 +11,6 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QPrintDialog>
-#include <QPrintEngine>
 #include <QStandardPaths>
 
 namespace {
@@ -19,17 +18,6 @@ namespace {
 std::string upperCase(const std::string& name)
 {
     return QString::fromStdString(name).toUpper().toStdString();
-}
-
-/// Print system options that have no setting of their own: pages per sheet, cover sheets, options of one
-/// printer model. The toolkit's print engine keeps them under this key.
-constexpr auto printSystemOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
-
-void copyPrintSystemOptions(QPrinter& from, QPrinter& to)
-{
-    const QVariant options = from.printEngine()->property(printSystemOptions);
-    if (options.isValid()) // another version of the toolkit may not know the key
-        to.printEngine()->setProperty(printSystemOptions, options);
 }
 
 // The next two functions and PropertiesWatch have no public API in the toolkit. They find its widgets by
@@ -53,32 +41,6 @@ void proposeFile(QPrintDialog& dialog)
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QDir folder(QFileInfo(documents).isDir() ? documents : QDir::homePath());
     file->setText(folder.filePath("Dunmoor.pdf"));
-}
-
-/// Each setting on its own: a printer that refuses one still gets the others.
-void copySettings(QPrinter& from, QPrinter& to)
-{
-    to.setCopyCount(from.copyCount());
-    to.setDuplex(from.duplex());
-    to.setPageOrientation(from.pageLayout().orientation());
-    to.setPageSize(from.pageLayout().pageSize());
-    to.setResolution(from.resolution());
-    to.setColorMode(from.colorMode());
-    to.setPaperSource(from.paperSource());
-    to.setPageMargins(from.pageLayout().margins(), from.pageLayout().units());
-    to.setCollateCopies(from.collateCopies());
-    to.setPageOrder(from.pageOrder());
-    copyPrintSystemOptions(from, to);
-}
-
-/// A separate device for the dialog, which may change it while it is open.
-std::unique_ptr<QPrinter> deviceForDialog(const Printer& current)
-{
-    std::unique_ptr<QPrinter> device = OpenDevice(current.deviceName());
-    if (current.deviceName() == FilePrinter && !current.port().empty())
-        device->setOutputFileName(QString::fromStdString(current.port()));
-    copySettings(current.device(), *device);
-    return device;
 }
 
 /// Waits for the properties page that the dialog opens on request. The toolkit fills it with the printer's
@@ -125,7 +87,7 @@ void keepProperties(const Printer& current, QPrinter& chosen)
     chosen.setPaperSource(source.paperSource());
     if (current.deviceName() != FilePrinter) // the file printer's color mode is on the dialog itself
         chosen.setColorMode(source.colorMode());
-    copyPrintSystemOptions(source, chosen);
+    CopyPrintSystemOptions(source, chosen);
 }
 
 void chooseDevice(Printer& current, const QPrinter& chosen)
@@ -156,7 +118,8 @@ bool ShowPrintDialog(const forms::Form& owner)
     if (!owner.isVisible())
         return false; // closed in the meantime
     Printer& current = CurrentPrinter();
-    const std::unique_ptr<QPrinter> device = deviceForDialog(current);
+    const std::unique_ptr<QPrinter> device =
+        current.copyOfDevice(); // the dialog may change it while it is open
     QPrintDialog dialog(device.get(), owner.window());
     dialog.setObjectName("PrintDialog");
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies |
@@ -171,6 +134,6 @@ bool ShowPrintDialog(const forms::Form& owner)
 
     chooseDevice(current, *device);
     current.setPort(device->outputFileName().toStdString());
-    current.changeSettings([&device](QPrinter& settings) { copySettings(*device, settings); });
+    current.changeSettings([&device](QPrinter& settings) { CopySettings(*device, settings); });
     return true;
 }

@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QLocale>
 #include <QPainter>
+#include <QPrintEngine>
 #include <QPrinterInfo>
 #include <QTextLayout>
 
@@ -48,6 +49,10 @@ bool isRegularOrNew(const std::string& path)
     return !path.empty() && (file.isFile() || !file.exists());
 }
 
+/// Print system options that have no setting of their own: pages per sheet, cover sheets, options of one
+/// printer model. The toolkit's print engine keeps them under this key.
+constexpr auto printSystemOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
+
 std::unique_ptr<Printer> currentPrinter;
 
 } // namespace
@@ -72,6 +77,28 @@ std::unique_ptr<QPrinter> OpenDevice(const std::string& name)
 std::string DeviceName(const QPrinter& device)
 {
     return device.outputFormat() == QPrinter::PdfFormat ? FilePrinter : device.printerName().toStdString();
+}
+
+void CopyPrintSystemOptions(QPrinter& from, QPrinter& to)
+{
+    const QVariant options = from.printEngine()->property(printSystemOptions);
+    if (options.isValid()) // another version of the toolkit may not know the key
+        to.printEngine()->setProperty(printSystemOptions, options);
+}
+
+void CopySettings(QPrinter& from, QPrinter& to)
+{
+    to.setCopyCount(from.copyCount());
+    to.setDuplex(from.duplex());
+    to.setPageOrientation(from.pageLayout().orientation());
+    to.setPageSize(from.pageLayout().pageSize());
+    to.setResolution(from.resolution());
+    to.setColorMode(from.colorMode());
+    to.setPaperSource(from.paperSource());
+    to.setPageMargins(from.pageLayout().margins(), from.pageLayout().units());
+    to.setCollateCopies(from.collateCopies());
+    to.setPageOrder(from.pageOrder());
+    CopyPrintSystemOptions(from, to);
 }
 
 std::vector<std::string> PrinterNames()
@@ -144,6 +171,36 @@ void Printer::setFont(const PrinterFont& font)
     lineFont.setFamilies(families);
     lineFont.setPointSize(font.size);
     lineFont.setBold(font.bold);
+}
+
+std::unique_ptr<QPrinter> Printer::copyOfDevice() const
+{
+    std::unique_ptr<QPrinter> copy = OpenDevice(deviceName());
+    if (deviceName() == FilePrinter && !port().empty())
+        copy->setOutputFileName(QString::fromStdString(port()));
+    CopySettings(*openDevice, *copy);
+    return copy;
+}
+
+bool Printer::printPage(const std::string& title, QPageLayout::Orientation orientation,
+                        const std::function<void(QPainter&, const QSizeF&)>& paint) const
+{
+    const std::unique_ptr<QPrinter> copy = copyOfDevice();
+    if (deviceName() == FilePrinter) {
+        copy->setOutputFormat(QPrinter::PdfFormat); // whatever the extension
+        if (!isRegularOrNew(port()))
+            return false;
+    }
+    copy->setDocName(QString::fromStdString(title));
+    copy->setPageOrientation(orientation);
+    QPainter page;
+    if (!page.begin(copy.get()))
+        return false;
+    constexpr double unitsPerInch = 96;
+    const double dotsPerUnit = copy->resolution() / unitsPerInch;
+    page.scale(dotsPerUnit, dotsPerUnit);
+    paint(page, QSizeF(copy->pageLayout().paintRectPixels(copy->resolution()).size()) / dotsPerUnit);
+    return page.end();
 }
 
 bool Printer::printLine(const std::string& line)

@@ -47,6 +47,14 @@ public:
     PrinterFont font() const;
     void setFont(const PrinterFont& font);
 
+    /// Another device with all these settings.
+    std::unique_ptr<QPrinter> copyOfDevice() const;
+    /// Prints a document of one page on a copy of the device, which keeps its settings; the lines of an
+    /// unfinished document are not touched. Returns false if the device refuses.
+    /// @param paint  paints on a page of that size, in units of 1/96 inch
+    [[nodiscard]] bool printPage(const std::string& title, QPageLayout::Orientation orientation,
+                                 const std::function<void(QPainter&, const QSizeF&)>& paint) const;
+
     /// Prints a line and wraps it if it is too wide for the page. The first line starts the document. Returns
     /// false if the device refuses.
     [[nodiscard]] bool printLine(const std::string& line);
@@ -73,6 +81,10 @@ inline const std::string FilePrinter = "Print to File (PDF)";
 /// Opens a device by name, with that device's settings.
 std::unique_ptr<QPrinter> OpenDevice(const std::string& name);
 std::string DeviceName(const QPrinter& device);
+/// Copies all settings but the file's name.
+void CopySettings(QPrinter& from, QPrinter& to);
+/// Copies the print system's own options, such as pages per sheet.
+void CopyPrintSystemOptions(QPrinter& from, QPrinter& to);
 
 /// The names of all printers: the system's, in its order, then the file printer.
 std::vector<std::string> PrinterNames();

@@ -13,3 +13,14 @@ class Form;
 /// @return        the path without blanks around it; empty on Cancel and on any failure
 std::string ShowSaveDialog(const forms::Form& owner, std::string_view filter, const std::string& title,
                            const std::string& folder);
+
+/// The answer to a save dialog.
+struct SaveChoice
+{
+    std::string path;       ///< empty on Cancel
+    std::size_t filter = 0; ///< the index of the pair that was chosen
+};
+
+/// The same, with a proposed name. Tells which filter was chosen.
+SaveChoice AskWhereToSave(const forms::Form& owner, std::string_view filter, const std::string& title,
+                          const std::string& proposal);

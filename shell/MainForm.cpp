@@ -1,6 +1,7 @@
 #include "shell/MainForm.h"
 
 #include "chart/ChartPicture.h"
+#include "chart/ChartWindow.h"
 #include "core/MainMod.h"
 #include "screens/AirPropertiesCalc.h"
 #include "screens/CoolingLoad1.h"
@@ -18,7 +19,9 @@ void ShowMainForm() { form<MainForm>().Show(); }
 void ShowAbout() { form<About>().ShowModal(); }
 
 MainForm::MainForm()
-    : Form("MainForm", FormKind::Screen), Image1(*this, "Image1", std::make_unique<chart::ChartPicture>())
+    : Form("MainForm", FormKind::Screen),
+      Image1(*this, "Image1",
+             std::make_unique<chart::ChartPicture>(*this, [] { form<chart::ChartWindow>().Show(); }))
 {
     setCaption("Dunmoor");
     layOut();
@@ -112,5 +115,5 @@ void MainForm::leave()
 void MainForm::mnuOptions_Click()
 {
     form<Settings>().ShowModal();
-    Image1.repaint(); // the units or the pressure may have changed
+    chart::Choices::inForce().tellOfChange(); // the units or the pressure may have changed
 }

@@ -2,9 +2,9 @@
 
 #include "core/NumberText.h"
 #include "core/RunTimeError.h"
+#include "core/StandardAtmosphere.h"
 #include "table/TableError.h"
 
-#include <cmath>
 #include <utility>
 
 const char* const UsageText =
@@ -31,15 +31,6 @@ Single numberOption(const std::string& name, const std::string& text)
     } catch (const RunTimeError&) {
         throw TableError(name + " needs a number, not \"" + text + "\"");
     }
-}
-
-/// The standard atmosphere, P = P0 (1 - a Z)^5.2559, as given in the ASHRAE Handbook of Fundamentals.
-/// @param Z  altitude, ft or m
-/// @return   psi or kPa
-Single pressureAtAltitude(Single Z, bool isMetric)
-{
-    const double base = 1.0 - (isMetric ? 2.25577e-5 : 6.8754e-6) * Z;
-    return RoundToSingle((isMetric ? 101.325 : 14.696) * std::pow(std::fmax(base, 0.0), 5.2559));
 }
 
 /// Takes "--name value" and "--name=value" apart.
@@ -104,7 +95,7 @@ void completePressure(TableOptions& options, const PressureOptions& given)
         throw TableError("give --pressure or --altitude, not both");
     options.pressure = given.pressure;
     if (given.altitude)
-        options.pressure = pressureAtAltitude(*given.altitude, options.isMetric);
+        options.pressure = RoundToSingle(StandardPressure(*given.altitude, options.isMetric));
     if (options.pressure && !(*options.pressure > 0.0F))
         throw TableError("the pressure must be above 0");
 }

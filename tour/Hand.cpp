@@ -43,6 +43,8 @@ QWidget* windowInUse()
 {
     if (QWidget* modal = QApplication::activeModalWidget())
         return modal;
+    if (QWidget* active = QApplication::activeWindow(); qobject_cast<QMainWindow*>(active) != nullptr)
+        return active;
     for (QWidget* top : QApplication::topLevelWidgets()) {
         if (qobject_cast<QMainWindow*>(top) != nullptr && top->isVisible())
             return top;

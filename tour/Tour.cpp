@@ -20,7 +20,8 @@ struct Walk
     const char* heated;
     const char* winter;
     const char* humidifiedVolume;
-    bool prints; ///< only once: the second time, the dialog would ask whether to replace the file
+    bool isMollier; ///< the chart's form
+    bool prints;    ///< only once: the second time, the dialog would ask whether to replace the file
 };
 
 constexpr Walk english{
@@ -37,6 +38,7 @@ constexpr Walk english{
     .heated = "90",
     .winter = "30",
     .humidifiedVolume = "500",
+    .isMollier = false,
     .prints = true,
 };
 
@@ -54,6 +56,7 @@ constexpr Walk metric{
     .heated = "35",
     .winter = "0",
     .humidifiedVolume = "850",
+    .isMollier = true,
     .prints = false,
 };
 
@@ -223,6 +226,22 @@ void changeToMetric(Hand& hand)
     hand.click("btnOK");
 }
 
+/// Pins the middle of the chart, opens its window, and clears the pin.
+void visitChart(Hand& hand, const Walk& walk)
+{
+    hand.click("Image1");
+    hand.key("ctrl+o");
+    if (walk.isMollier)
+        hand.click("chkMollier");
+    hand.click("chkComfort");
+    hand.picture(QString(walk.units) + "chart-window");
+    hand.click("chkComfort");
+    if (walk.isMollier)
+        hand.click("chkMollier");
+    hand.key("ctrl+w");
+    hand.click("Image1"); // a second click lets the pin go
+}
+
 void visitCalculators(Hand& hand, const Walk& walk)
 {
     visitAirProperties(hand, walk);
@@ -231,6 +250,7 @@ void visitCalculators(Hand& hand, const Walk& walk)
     visitHeating(hand, walk);
     visitHumidification(hand, walk);
     hand.picture(QString(walk.units) + "main-menu-last-runs");
+    visitChart(hand, walk);
 }
 
 } // namespace

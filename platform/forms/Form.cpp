@@ -123,6 +123,8 @@ std::string Form::caption() const { return frame->windowTitle().toStdString(); }
 
 void Form::setSize(Twips width, Twips height) { frame->setLeastSize({ToPixels(width), ToPixels(height)}); }
 
+void Form::enlargeTo(Twips width, Twips height) { frame->enlargeTo({ToPixels(width), ToPixels(height)}); }
+
 void Form::fitToControls() { setSize(0, 0); }
 void Form::keepTogether() { frame->keepTogether(); }
 void Form::moveTo(Twips left, Twips top) { frame->place({ToPixels(left), ToPixels(top)}); }

@@ -74,6 +74,8 @@ public:
     /// Sets the window's size, which is also its minimum. The window grows if its controls need more. If the
     /// screen has less room, the window takes the room and its content scrolls.
     void setSize(Twips width, Twips height);
+    /// Enlarges the window to this size, or as far as the screen has room. Call it after setSize.
+    void enlargeTo(Twips width, Twips height);
     /// Makes the window as large as its controls need.
     void fitToControls();
     /// Keeps the controls together, in the middle, when the window is enlarged. Call it after setSize.

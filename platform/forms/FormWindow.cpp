@@ -75,12 +75,16 @@ void FormWindow::keepRoom()
     const int menuHeight = minimumSizeHint().height() - view()->minimumSizeHint().height();
     const QSize menu(0, menuHeight);
     const QSize wanted = leastSize.expandedTo(neededByContent() + menu);
-    const QSize room = screen()->availableSize() - frameSizeOf(*this);
-    setMinimumSize(wanted.boundedTo(room));
+    setMinimumSize(wanted.boundedTo(freeRoom()));
     constexpr int percent = 125; // of the size that the content is designed for
     if (isKeptTogether)
         content()->setMaximumSize((wanted - menu) * percent / 100);
 }
+
+/// The largest size of the window on its screen.
+QSize FormWindow::freeRoom() const { return screen()->availableSize() - frameSizeOf(*this); }
+
+void FormWindow::enlargeTo(QSize size) { resize(size.boundedTo(freeRoom()).expandedTo(minimumSize())); }
 
 /// The upper left corner has precedence where the window is larger than the screen.
 void FormWindow::place(QPoint corner)

@@ -21,6 +21,8 @@ public:
 
     /// Sets the window to this size, or larger if the controls need it, now and later.
     void setLeastSize(QSize size);
+    /// Makes the window larger, within its screen.
+    void enlargeTo(QSize size);
     /// Keeps the content at about its first size, in the middle, when the window is larger.
     void keepTogether();
     /// Places the window's frame, counted from the origin of the primary screen, or as near as this screen
@@ -36,6 +38,7 @@ protected:
 private:
     QSize neededByContent() const;
     void keepRoom();
+    QSize freeRoom() const;
 
     Form& owner;
     QSize leastSize;

@@ -9,7 +9,7 @@ void AddCells(Grid& grid, int row, std::initializer_list<const Control*> cells)
         grid.add(*cell, row, column++);
 }
 
-void SetTabOrder(std::initializer_list<const Control*> controls)
+void SetTabOrder(const std::vector<const Control*>& controls)
 {
     const Control* before = nullptr;
     for (const Control* const next : controls) {

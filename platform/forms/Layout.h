@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <initializer_list>
+#include <vector>
 
 namespace forms {
 
@@ -60,6 +61,6 @@ inline void SetLeastHeight(const Control& control, int height) { control.widget(
 inline void SetLeastWidth(const Control& control, int width) { control.widget()->setMinimumWidth(width); }
 
 /// Sets the tab order.
-void SetTabOrder(std::initializer_list<const Control*> controls);
+void SetTabOrder(const std::vector<const Control*>& controls);
 
 } // namespace forms

@@ -32,4 +32,14 @@ void MsgBox(const std::string& text, const std::string& title)
     box.exec();
 }
 
+bool AskYesNo(const std::string& question)
+{
+    QMessageBox box(QMessageBox::NoIcon, QCoreApplication::applicationName(),
+                    QString::fromStdString(question), QMessageBox::Yes | QMessageBox::No, shownWindow());
+    box.setObjectName("QuestionBox");
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
 } // namespace forms

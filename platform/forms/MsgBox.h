@@ -8,4 +8,7 @@ namespace forms {
 /// the application's.
 void MsgBox(const std::string& text, const std::string& title = {});
 
+/// Asks a question and returns true for Yes. No is the default, and Esc and the close box answer it.
+bool AskYesNo(const std::string& question);
+
 } // namespace forms

@@ -30,8 +30,8 @@ void Outlines::drawPrimitive(PrimitiveElement element, const QStyleOption* optio
 {
     if (element != PE_Frame) // at 150 % the toolkit leaves out sides of this one
         QProxyStyle::drawPrimitive(element, option, painter, widget);
-    const bool isOutlined =
-        element == PE_FrameLineEdit || element == PE_PanelButtonCommand || element == PE_FrameGroupBox;
+    const bool isOutlined = element == PE_FrameLineEdit || element == PE_PanelButtonCommand ||
+                            element == PE_FrameGroupBox || element == PE_IndicatorCheckBox;
     if (element == PE_Frame || (isOutlined && HasHighContrast(option->palette)))
         outline(*option, *painter);
 }

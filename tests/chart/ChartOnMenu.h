@@ -1,5 +1,6 @@
 #pragma once
 
+#include "chart/Choices.h"
 #include "chart/Layout.h"
 #include "tests/chart/Modes.h"
 #include "tests/screens/CalculatorFixture.h"
@@ -17,6 +18,30 @@ class ChartOnMenu : public CalculatorTest
 {
 protected:
     QWidget* picture() const { return User::findWindow("MainForm")->findChild<QWidget*>("Image1"); }
+
+    void clickAt(QPointF place) const
+    {
+        shown();
+        QTest::mouseClick(picture(), Qt::LeftButton, Qt::NoModifier, place.toPoint());
+    }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        shown();
+        picture()->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(picture(), key, modifiers);
+    }
+
+    /// Two clicks of a real mouse.
+    void doubleClickAt(QPointF place) const
+    {
+        shown();
+        QWidget& window = *picture()->window();
+        QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                           picture()->mapTo(&window, place.toPoint()));
+    }
+
+    static const std::vector<chart::Place>& pins() { return chart::Choices::inForce().pins(); }
 
     /// What the menu shows with the chart, which is painted after the window's first frame.
     QImage shown() const
@@ -38,7 +63,13 @@ protected:
         return image == ground;
     }
 
-    chart::Layout layout() const { return {picture()->size(), picture()->font()}; }
+    chart::Layout layout() const
+    {
+        chart::View view;
+        view.switches = chart::Choices::inForce().switches();
+        view.pins = chart::Choices::inForce().pins();
+        return {picture()->size(), picture()->font(), view};
+    }
 
     /// True if the menu shows a mark for the state: a dot in one strong color.
     bool isMarked(double tdb, double w) const
@@ -72,9 +103,14 @@ protected:
     std::string tipAt(QPointF place) const
     {
         shown();
+        return tipAt(*picture(), place);
+    }
+
+    static std::string tipAt(QWidget& widget, QPointF place)
+    {
         const QPoint there = place.toPoint();
-        QHelpEvent event(QEvent::ToolTip, there, picture()->mapToGlobal(there));
-        QApplication::sendEvent(picture(), &event);
+        QHelpEvent event(QEvent::ToolTip, there, widget.mapToGlobal(there));
+        QApplication::sendEvent(&widget, &event);
         std::string tip = QToolTip::isVisible() ? QToolTip::text().toStdString() : "";
         QToolTip::hideText();
         EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));

@@ -8,6 +8,8 @@ from DesktopProgram import DesktopProgram, descendants, is_showing, role
 
 ENGLISH = {
     "choice": "English, I-P",
+    "sign": "°F",
+    "heat": "Btu/lb",
     "degrees": "Deg. F",
     "ratio": "lb. water/lb. dry air",
     "moisture ratio": "lb. water/lb. dry air",
@@ -38,6 +40,8 @@ ENGLISH = {
 }
 METRIC = {
     "choice": "Metric, SI",
+    "sign": "°C",
+    "heat": "kJ/kg",
     "degrees": "Deg. C",
     "ratio": "g water/kg dry air",
     "moisture ratio": "g moisture/kg dry air",
@@ -203,12 +207,39 @@ class Walk:
         self.program.gone(desired)
         self.leave(title)
 
+    def chart(self):
+        """The chart's window by the keyboard alone: a pin's reading is a row of its table."""
+        title = "Psychrometric Chart"
+        self.program.focus("Dunmoor", "Psychrometric chart")
+        self.program.keys("ctrl+o")
+        self.program.wait_until_active(title)
+        self.program.keys("Right", "Return")
+        table = self.program.find(title, "States of the last runs and pins")
+        assert table.get_role_name() == "table", table.get_role_name()
+        cells = self.cells(table)
+        headings = [name for name in cells if name.startswith(("Dry bulb, ", "Enthalpy, "))]
+        assert headings == [f"Dry bulb, {self.units['sign']}", f"Enthalpy, {self.units['heat']}"], cells
+        pin = cells.index("A Pin")
+        chart = self.program.find(title, "Psychrometric chart")
+        reading = chart.get_description().split()
+        assert reading[:2] == [cells[pin + 1], self.units["sign"]], (reading, cells[pin:])
+        for box in ("Relative humidity", "Wet bulb", "Enthalpy", "Specific volume", "Mollier's form"):
+            assert self.program.find(title, box, "check box") is not None, box
+        self.program.keys("Escape", "ctrl+w")
+        self.program.gone(title)
+        self.program.wait_until_active("Dunmoor")
+
+    @staticmethod
+    def cells(table):
+        return [table.get_child_at_index(place).get_name() for place in range(table.get_child_count())]
+
     def leave(self, title):
         self.program.click(title, "Main Menu", "menu item")
         self.program.gone(title)
 
     def whole_program(self):
         self.main_menu()
+        self.chart()
         self.air_properties()
         self.mixed_air()
         self.cooling()

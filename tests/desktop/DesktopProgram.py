@@ -109,6 +109,9 @@ class DesktopProgram:
         subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
         time.sleep(0.1)
 
+    def focus(self, title, name):
+        Atspi.Component.grab_focus(self.find(title, name))
+
     def choose(self, title, menu, entry):
         self.click(title, menu, "menu item")
         self.click(title, entry, "menu item")

@@ -14,9 +14,6 @@ set(reports_knows reports core platform)
 set(screens_knows screens chart reports core platform)
 set(shell_knows shell screens chart reports core platform)
 
-# The only header of platform/ that the chart may include.
-set(chart_knows_of_platform platform/forms/Picture.h)
-
 # The core and the tables may include only the standard library. For the other floors, the linker checks the libraries.
 set(standard_library
     algorithm any array atomic barrier bit bitset charconv chrono codecvt compare complex concepts
@@ -53,11 +50,6 @@ function(fault_of floor include result)
   if(include MATCHES "^[<\"]([a-z]+)/" AND CMAKE_MATCH_1 IN_LIST floors)
     if(NOT CMAKE_MATCH_1 IN_LIST ${floor}_knows)
       set(fault "${floor} must not know ${CMAKE_MATCH_1}")
-    elseif(floor STREQUAL "chart" AND CMAKE_MATCH_1 STREQUAL "platform")
-      string(REGEX REPLACE "[<>\"]" "" header "${include}")
-      if(NOT header IN_LIST chart_knows_of_platform)
-        set(fault "chart knows the picture of the platform alone")
-      endif()
     endif()
   elseif(include MATCHES "^<(.*)>$")
     if((floor STREQUAL "core" OR floor STREQUAL "table") AND NOT CMAKE_MATCH_1 IN_LIST standard_library)

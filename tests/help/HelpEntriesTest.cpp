@@ -1,8 +1,10 @@
 // Every help entry of every form opens the real help file at its topic.
 
+#include "chart/ChartWindow.h"
 #include "tests/screens/CalculatorFixture.h"
 
 #include <QDir>
+#include <QTest>
 #include <QTextBrowser>
 
 namespace {
@@ -140,4 +142,17 @@ TEST_F(HelpEntries, SayThatTheFileIsNotFoundUntilTheAirPropertiesCalculatorWasOp
     user.choose("mnuMain1");
     EXPECT_EQ(pageOf("mnuHSearch"), "index.html") << "the folder stays";
     EXPECT_EQ(user.messages.size(), 2U);
+}
+
+TEST_F(HelpEntries, OfTheChartsWindowOpenItsPage)
+{
+    start();
+    form<chart::ChartWindow>().Show();
+    QWidget* const window = User::findWindow("ChartWindow");
+    QTest::keyClick(window, Qt::Key_F1);
+    EXPECT_EQ(page(), "chart.html");
+    User::findWindow("HelpWindow")->close();
+    QApplication::processEvents();
+    window->findChild<QAction*>("mnuHelpChart")->trigger();
+    EXPECT_EQ(page(), "chart.html");
 }

@@ -14,7 +14,7 @@ namespace {
 QString programSources()
 {
     QString all;
-    for (const QString floor : {"core", "platform", "reports", "screens", "shell"}) {
+    for (const QString floor : {"core", "platform", "chart", "reports", "screens", "shell"}) {
         QDirIterator files(DUNMOOR_SOURCES "/" + floor, {"*.cpp", "*.h"}, QDir::Files,
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {

@@ -22,6 +22,10 @@ public:
     std::string version() const override { return "1"; }
     void paint(QPainter& /*painter*/, const QSize& /*size*/, const QWidget& /*on*/) override {}
     std::string tipAt(const QPoint& /*place*/) const override { return "a tip"; }
+    std::vector<PictureCommand> commands() override
+    {
+        return {{"mnuNothing", "&Nothing", "", [] {}}};
+    }
 };
 
 class PopupForm : public TestForm

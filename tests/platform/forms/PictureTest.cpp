@@ -3,8 +3,10 @@
 #include "platform/forms/Picture.h"
 #include "tests/platform/forms/TestForms.h"
 
+#include <QContextMenuEvent>
 #include <QFont>
 #include <QImage>
+#include <QMenu>
 #include <QPainter>
 #include <QPalette>
 #include <QTest>
@@ -22,7 +24,31 @@ struct Drawing : PictureContents
         painter.fillRect(QRect(QPoint(0, 0), size).adjusted(2, 2, -2, -2), Qt::red);
     }
     std::string tipAt(const QPoint& /*place*/) const override { return "a tip"; }
+    std::vector<PictureCommand> commands() override
+    {
+        return {{"mnuFirst", "&First", "Ctrl+D; Ctrl+Ins", [] { events += "first "; }}};
+    }
+    void click(const QPoint& place) override { events += "click " + std::to_string(place.x()) + " "; }
+    void doubleClick(const QPoint& /*place*/) override { events += "double "; }
+    void drag(const QPoint& from, const QPoint& to) override { dragged += to - from; }
+    bool turnWheel(const QPoint& /*place*/, double steps) override
+    {
+        events += "wheel " + std::to_string(static_cast<int>(steps)) + " ";
+        return true;
+    }
+    bool pressKey(int key, Qt::KeyboardModifiers /*modifiers*/) override
+    {
+        keyIsThere = key == Qt::Key_Up;
+        return keyIsThere;
+    }
+    std::optional<QPoint> keyPlace() const override
+    {
+        return keyIsThere ? std::optional(QPoint(5, 5)) : std::nullopt;
+    }
 
+    static inline std::string events;
+    static inline QPoint dragged;
+    bool keyIsThere = false;
     static inline std::string shown = "first";
     static inline int paints = 0;
 };
@@ -73,6 +99,56 @@ protected:
 };
 
 } // namespace
+
+TEST_F(PictureControl, PassesClicksAndDoubleClicksToItsContents)
+{
+    show();
+    QWidget* const canvas = form<PictureScreen>().Image1.widget();
+    QTest::mouseClick(canvas, Qt::LeftButton, Qt::NoModifier, {20, 20});
+    QTest::mouseClick(canvas, Qt::RightButton, Qt::NoModifier, {30, 20});
+    EXPECT_EQ(Drawing::events, "click 20 ");
+    QTest::mouseDClick(canvas->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                       canvas->mapTo(canvas->window(), QPoint(40, 20)));
+    EXPECT_EQ(Drawing::events, "click 20 click 40 double ") << "the second click of two is none";
+}
+
+TEST_F(PictureControl, TellsADragFromAClick)
+{
+    show();
+    QWidget* const canvas = form<PictureScreen>().Image1.widget();
+    QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, {20, 20});
+    QTest::mouseMove(canvas, {21, 21});
+    EXPECT_EQ(Drawing::dragged, QPoint());
+    QTest::mouseMove(canvas, {60, 50});
+    QTest::mouseMove(canvas, {70, 90});
+    QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, {70, 90});
+    EXPECT_EQ(Drawing::dragged, QPoint(50, 70));
+    EXPECT_EQ(Drawing::events, "");
+}
+
+TEST_F(PictureControl, RunsItsCommandsByTheirKeysAndByTheContextMenu)
+{
+    show();
+    QWidget* const canvas = form<PictureScreen>().Image1.widget();
+    QTest::keyClick(canvas, Qt::Key_D, Qt::ControlModifier);
+    QTest::keyClick(canvas, Qt::Key_Insert, Qt::ControlModifier);
+    QTest::keyClick(canvas, Qt::Key_D);
+    EXPECT_EQ(Drawing::events, "first first ");
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5}, canvas->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(canvas, &event);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    User::chooseFromMenu(*menu, menu->findChild<QAction*>("mnuFirst"));
+    EXPECT_EQ(Drawing::events, "first first first ");
+}
+
+TEST_F(PictureControl, DescribesThePlaceThatTheKeysMoved)
+{
+    show();
+    QWidget* const canvas = form<PictureScreen>().Image1.widget();
+    QTest::keyClick(canvas, Qt::Key_Up);
+    EXPECT_EQ(canvas->accessibleDescription(), "a tip");
+}
 
 TEST_F(PictureControl, IsPaintedAfterTheFirstPictureOfItsWindow)
 {
