@@ -2,6 +2,7 @@
 // failures by number.
 
 #include "core/WetBulbBracket.h"
+#include "tests/core/AccuracyDocument.h"
 #include "tests/core/CoreTest.h"
 #include "tests/core/PlainForms.h"
 #include "tests/core/Thoroughness.h"
@@ -50,13 +51,17 @@ protected:
                           << plain.error;
     }
 
-    template <typename Draw>
-    void compareRandom(int millions, Draw draw)
+    /// Compares random states of one kind, which the member function draws.
+    void compareRandom(int millions, const std::string& kind, Air (Searches::*draw)())
     {
         const long count = millions * 1000000L * ProofFactor() / OneOf("searches", 1, 50);
         for (long i = 0; i < count; ++i)
-            compare(draw());
+            compare((this->*draw)());
         EXPECT_EQ(different, 0);
+        if (IsProof())
+            ExpectInAccuracyDocument("| " + std::string(IsMetric() ? "Metric" : "English") + " | " + kind +
+                                     " | " + std::to_string(count) + " | " + std::to_string(different) +
+                                     " |");
     }
 
     Single uniform(double least, double most)
@@ -82,6 +87,7 @@ protected:
 
     Single anySign(Single value) { return random() % 2 == 0 ? value : -value; }
 
+public:
     /// Air that the screens accept, up to slightly above saturation.
     Air ofScreens()
     {
@@ -118,6 +124,8 @@ protected:
         return {uniform(-600, 3000), anySign(magnitude(1e-30, 1e12)), anySign(magnitude(1e-30, 1e12))};
     }
 
+    Air anyThree() { return {anySingle(), anySingle(), anySingle()}; }
+
     /// A pressure close to a candidate's saturation pressure.
     Air boiling()
     {
@@ -127,6 +135,7 @@ protected:
         return {tdb, anySign(magnitude(1e-6, 1e6)), RoundToSingle(p * uniform(0.999, 1.02))};
     }
 
+protected:
     std::mt19937_64 random{2024};
     int failures = 0;
     int different = 0;
@@ -192,57 +201,45 @@ const std::vector<Single>& Edges()
 
 TEST_F(EnglishSearches, AirOfTheScreensIsTheSame)
 {
-    compareRandom(5, [this] { return ofScreens(); });
+    compareRandom(5, "air of the screens", &Searches::ofScreens);
 }
 TEST_F(MetricSearches, AirOfTheScreensIsTheSame)
 {
-    compareRandom(5, [this] { return ofScreens(); });
+    compareRandom(5, "air of the screens", &Searches::ofScreens);
 }
 
 TEST_F(EnglishSearches, AirAboutZeroDegreesIsTheSame)
 {
-    compareRandom(1, [this] { return aboutZero(); });
+    compareRandom(1, "a wet bulb near 0 degrees", &Searches::aboutZero);
 }
 TEST_F(MetricSearches, AirAboutZeroDegreesIsTheSame)
 {
-    compareRandom(1, [this] { return aboutZero(); });
+    compareRandom(1, "a wet bulb near 0 degrees", &Searches::aboutZero);
 }
 
 TEST_F(EnglishSearches, AirAboutFreezingIsTheSame)
 {
-    compareRandom(1, [this] { return aboutFreezing(); });
+    compareRandom(1, "a wet bulb near freezing", &Searches::aboutFreezing);
 }
 TEST_F(MetricSearches, AirAboutFreezingIsTheSame)
 {
-    compareRandom(1, [this] { return aboutFreezing(); });
+    compareRandom(1, "a wet bulb near freezing", &Searches::aboutFreezing);
 }
 
-TEST_F(EnglishSearches, AirFarOutIsTheSame)
-{
-    compareRandom(1, [this] { return farOut(); });
-}
-TEST_F(MetricSearches, AirFarOutIsTheSame)
-{
-    compareRandom(1, [this] { return farOut(); });
-}
+TEST_F(EnglishSearches, AirFarOutIsTheSame) { compareRandom(1, "air beyond all limits", &Searches::farOut); }
+TEST_F(MetricSearches, AirFarOutIsTheSame) { compareRandom(1, "air beyond all limits", &Searches::farOut); }
 
-TEST_F(EnglishSearches, BoilingAirIsTheSame)
-{
-    compareRandom(1, [this] { return boiling(); });
-}
-TEST_F(MetricSearches, BoilingAirIsTheSame)
-{
-    compareRandom(1, [this] { return boiling(); });
-}
+TEST_F(EnglishSearches, BoilingAirIsTheSame) { compareRandom(1, "air near boiling", &Searches::boiling); }
+TEST_F(MetricSearches, BoilingAirIsTheSame) { compareRandom(1, "air near boiling", &Searches::boiling); }
 
 TEST_F(EnglishSearches, AnyThreeSinglesAreTheSame)
 {
-    compareRandom(1, [this] { return Air{anySingle(), anySingle(), anySingle()}; });
+    compareRandom(1, "any three singles", &Searches::anyThree);
 }
 
 TEST_F(MetricSearches, AnyThreeSinglesAreTheSame)
 {
-    compareRandom(1, [this] { return Air{anySingle(), anySingle(), anySingle()}; });
+    compareRandom(1, "any three singles", &Searches::anyThree);
 }
 
 TEST_F(Searches, FailAlikeAtEveryEdge)

@@ -27,3 +27,6 @@ inline int ProofFactor()
     const char* const factor = std::getenv("DUNMOOR_PROOF_FACTOR");
     return factor == nullptr ? 1 : std::atoi(factor);
 }
+
+/// True if ranges that take minutes are covered without a gap. "./dev prove" sets it.
+inline bool IsProof() { return ProofFactor() > 1; }
