@@ -3,7 +3,8 @@
     python3 tests/tools/Mutants.py [--sample N] [--seed S] [FILE...]
 
 A change that no test notices survives, and is printed. EquivalentMutants.txt lists the survivors that change no result,
-each with the reason. Ends with status 1 if any other survives. Builds in build/mutants.
+each with the reason. Ends with status 1 if any other survives. Builds in build/mutants. For a changed header, the sources
+of the core that include it are compiled again, but not the tests.
 """
 
 import argparse
