@@ -4,7 +4,7 @@
 
 A change that no test notices survives, and is printed. EquivalentMutants.txt lists the survivors that change no result,
 each with the reason. Ends with status 1 if any other survives. Builds in build/mutants. For a changed header, the sources
-of the core that include it are compiled again, but not the tests.
+of the core that include it are compiled again, but of the tests only its own.
 """
 
 import argparse
@@ -66,22 +66,24 @@ def build():
 
 
 def compile_commands():
-    """The arguments that compile each source file of the core, without its output."""
+    """The arguments that compile each source file of the core and of its tests, without its output."""
     commands = {}
     for entry in json.loads((BUILD / "compile_commands.json").read_text()):
         file = pathlib.Path(entry["file"]).relative_to(ROOT)
-        if file.parts[0] == "core":
+        if "core" in file.parts[:2]:
             arguments = shlex.split(entry["command"])
             commands[str(file)] = arguments[:arguments.index("-o")]
     return commands
 
 
 def users_of(file, commands):
-    """The source files of the core that a change of this file concerns."""
+    """The source files that a change of this file concerns. Of the tests, only the header's own."""
     if file.endswith(".cpp"):
         return [file]
-    users = []
+    users = [test for test in [f"tests/core/{pathlib.Path(file).stem}Test.cpp"] if test in commands]
     for source, command in commands.items():
+        if not source.startswith("core/"):
+            continue
         needed = subprocess.run([*command, "-MM", ROOT / source], check=True, capture_output=True, text=True).stdout
         if f"/{file}" in needed:
             users.append(source)
@@ -116,7 +118,8 @@ def survives(mutant, commands, users):
             command = [commands[source][0], f"-I{folder}", *commands[source][1:], "-w", "-o", objects[-1], "-c", origin]
             if subprocess.run(command, stderr=subprocess.DEVNULL).returncode != 0:
                 return None
-        tests = sorted((BUILD / "tests/CMakeFiles/test_core.dir/core").glob("*.o"))
+        compiled = {f"{pathlib.Path(source).name}.o" for source in users[file]}
+        tests = [test for test in sorted((BUILD / "tests/CMakeFiles/test_core.dir/core").glob("*.o")) if test.name not in compiled]
         subprocess.run([commands[users[file][0]][0], *objects, *tests, BUILD / "core/libdunmoor_core.a", "-lgtest_main",
                         "-lgtest", "-o", f"{folder}/test"], check=True)
         return run_tests(f"{folder}/test") == 0
