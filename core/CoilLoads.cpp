@@ -20,17 +20,34 @@ struct Band
 constexpr Band less(Single low, Single high, double offset) { return {low, high, 0.0, 1.0, offset}; }
 
 constexpr Band english[] = {
-    less(32, 33, 31.98),   less(33, 34, 31.97),  less(34, 35, 31.96),   less(35, 37, 31.95),
-    less(37, 39, 31.94),   less(39, 40, 31.93),  less(40, 42, 31.92),   less(42, 45, 31.91),
-    less(45, 49, 31.90),   less(49, 75, 31.89),  less(75, 82, 31.90),   less(82, 89, 31.91),
-    less(89, 95, 31.92),   less(95, 101, 31.93), less(101, 107, 31.94), less(107, 113, 31.95),
+    less(32, 33, 31.98),
+    less(33, 34, 31.97),
+    // Never used, see CondensateEnthalpy.
+    less(34, 35, 31.96),
+    less(35, 37, 31.95),
+    less(37, 39, 31.94),
+    less(39, 40, 31.93),
+    less(40, 42, 31.92),
+    less(42, 45, 31.91),
+    less(45, 49, 31.90),
+    less(49, 75, 31.89),
+    less(75, 82, 31.90),
+    less(82, 89, 31.91),
+    less(89, 95, 31.92),
+    less(95, 101, 31.93),
+    less(101, 107, 31.94),
+    less(107, 113, 31.95),
     less(113, 120, 31.96),
 };
 constexpr Band englishOtherwise = less(0, 0, 31.90);
 
 constexpr Band metric[] = {
-    {0, 1, 0.06, 4.22, 0},   {1, 5, 4.28, 4.21, 1},     {5, 9, 21.12, 4.20, 5},
-    {9, 16, 37.92, 4.19, 9}, {16, 49, 67.26, 4.18, 16},
+    {0, 1, 0.06, 4.22, 0},
+    {1, 5, 4.28, 4.21, 1},
+    // Never used.
+    {5, 9, 21.12, 4.20, 5},
+    {9, 16, 37.92, 4.19, 9},
+    {16, 49, 67.26, 4.18, 16},
 };
 constexpr Band metricOtherwise = {0, 0, 205.24, 4.18, 49};
 

@@ -17,6 +17,10 @@ Single WetBulbResidual(Single candidate, Single tdb, Single p, Single w)
 // outcome depends only on their signs and on a product of 0. So this form substitutes 1 or -1 for a residual
 // of known sign, and keeps the lower residual from the pass that moved the lower end. The first pass computes
 // the lower one first, so that failures are the same, too.
+//
+// The search always ends: each pass returns, throws or is counted by narrow(), which ends the search with the
+// 21st, whatever the numbers. narrow() throws at a midpoint of exactly 0, but no dry bulb leads to one: from
+// each, a test takes the only way there (tests/core/SearchEndsTest.cpp).
 Single SolveWetBulb(Single tdb, Single w, Single p)
 {
     const WetBulbSigns signs = FindWetBulbSigns(tdb, w, p);

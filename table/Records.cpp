@@ -6,7 +6,10 @@
 #include <cstring>
 #include <string>
 
-Records::Records(std::FILE* file) : source(file), buffer(Longest + 2) { skipByteOrderMark(); }
+Records::Records(std::FILE* file, std::size_t longest) : source(file), buffer(longest + 2)
+{
+    skipByteOrderMark();
+}
 
 /// The next byte, or EndOfFile.
 int Records::peek()

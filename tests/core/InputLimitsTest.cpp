@@ -51,4 +51,5 @@ TEST_F(InputLimits, CompareTheRatiosWithDoubles)
     StatePoint.Grains = 0.0F;
     EXPECT_STREQ(ClipGrains(), "grains clipped at 0.1");
     EXPECT_EQ(StatePoint.Grains.asDouble(), 0.1);
+    EXPECT_STREQ(ClipGrains(), "grains clipped at 0.1"); // the double 0.1 itself is clipped again
 }

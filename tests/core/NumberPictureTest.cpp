@@ -135,6 +135,8 @@ TEST_F(NumberPicture, TakesFifteenDigitsOfADouble)
 
 TEST_F(NumberPicture, PadsToThePlacesThatMustStand)
 {
+    EXPECT_EQ(FormatNumber(5, "0#"), "05");        // from the first 0 on, every place shows a digit
+    EXPECT_EQ(FormatNumber(1234, "#,0"), "1,234"); // a place on each side of the comma is enough
     EXPECT_EQ(FormatNumber(5, "000"), "005");
     EXPECT_EQ(FormatNumber(5, "0,000"), "0,005");
     EXPECT_EQ(FormatNumber(0.5, "#.#0#"), ".50");

@@ -59,57 +59,45 @@ const std::vector<Single>& Edges()
 
 TEST_F(EnglishSearches, AirOfTheScreensIsTheSame)
 {
-    compareRandom(5, [this] { return ofScreens(); });
+    compareRandom(5, "air of the screens", &Searches::ofScreens);
 }
 TEST_F(MetricSearches, AirOfTheScreensIsTheSame)
 {
-    compareRandom(5, [this] { return ofScreens(); });
+    compareRandom(5, "air of the screens", &Searches::ofScreens);
 }
 
 TEST_F(EnglishSearches, AirAboutZeroDegreesIsTheSame)
 {
-    compareRandom(1, [this] { return aboutZero(); });
+    compareRandom(1, "a wet bulb near 0 degrees", &Searches::aboutZero);
 }
 TEST_F(MetricSearches, AirAboutZeroDegreesIsTheSame)
 {
-    compareRandom(1, [this] { return aboutZero(); });
+    compareRandom(1, "a wet bulb near 0 degrees", &Searches::aboutZero);
 }
 
 TEST_F(EnglishSearches, AirAboutFreezingIsTheSame)
 {
-    compareRandom(1, [this] { return aboutFreezing(); });
+    compareRandom(1, "a wet bulb near freezing", &Searches::aboutFreezing);
 }
 TEST_F(MetricSearches, AirAboutFreezingIsTheSame)
 {
-    compareRandom(1, [this] { return aboutFreezing(); });
+    compareRandom(1, "a wet bulb near freezing", &Searches::aboutFreezing);
 }
 
-TEST_F(EnglishSearches, AirFarOutIsTheSame)
-{
-    compareRandom(1, [this] { return farOut(); });
-}
-TEST_F(MetricSearches, AirFarOutIsTheSame)
-{
-    compareRandom(1, [this] { return farOut(); });
-}
+TEST_F(EnglishSearches, AirFarOutIsTheSame) { compareRandom(1, "air beyond all limits", &Searches::farOut); }
+TEST_F(MetricSearches, AirFarOutIsTheSame) { compareRandom(1, "air beyond all limits", &Searches::farOut); }
 
-TEST_F(EnglishSearches, BoilingAirIsTheSame)
-{
-    compareRandom(1, [this] { return boiling(); });
-}
-TEST_F(MetricSearches, BoilingAirIsTheSame)
-{
-    compareRandom(1, [this] { return boiling(); });
-}
+TEST_F(EnglishSearches, BoilingAirIsTheSame) { compareRandom(1, "air near boiling", &Searches::boiling); }
+TEST_F(MetricSearches, BoilingAirIsTheSame) { compareRandom(1, "air near boiling", &Searches::boiling); }
 
 TEST_F(EnglishSearches, AnyThreeSinglesAreTheSame)
 {
-    compareRandom(1, [this] { return Air{anySingle(), anySingle(), anySingle()}; });
+    compareRandom(1, "any three singles", &Searches::anyThree);
 }
 
 TEST_F(MetricSearches, AnyThreeSinglesAreTheSame)
 {
-    compareRandom(1, [this] { return Air{anySingle(), anySingle(), anySingle()}; });
+    compareRandom(1, "any three singles", &Searches::anyThree);
 }
 
 TEST_F(Searches, FailAlikeAtEveryEdge)

@@ -93,32 +93,6 @@ TEST_F(SameState, FromEveryItemInMetric)
     }
 }
 
-TEST_F(SameState, InBothUnitSystems)
-{
-    for (int celsius = 5; celsius <= 45; celsius += 5) {
-        UnitSystem = True16;
-        StatePoint.Tdb = static_cast<Single>(celsius);
-        StatePoint.P = 101325.0F;
-        StatePoint.RH = 40.0F;
-        SolveFromRH();
-        const MoistAirState metric = StatePoint;
-
-        UnitSystem = False16;
-        StatePoint.Tdb = static_cast<Single>(celsius) * 1.8F + 32.0F;
-        StatePoint.P = 14.6959F;
-        StatePoint.RH = 40.0F;
-        SolveFromRH();
-
-        EXPECT_NEAR(StatePoint.W.asDouble(), metric.W.asDouble(), metric.W.asDouble() * 0.001);
-        EXPECT_NEAR(StatePoint.Pws.asDouble() * 6894.757, metric.Pws.asDouble(),
-                    metric.Pws.asDouble() * 0.0005);
-        EXPECT_NEAR(StatePoint.td.asDouble(), metric.td.asDouble() * 1.8 + 32.0, 0.02);
-        EXPECT_NEAR(StatePoint.Twb.asDouble(), metric.Twb.asDouble() * 1.8 + 32.0, 0.1);
-        EXPECT_NEAR(StatePoint.SpVol.asDouble() * 0.0624280, metric.SpVol.asDouble(),
-                    metric.SpVol.asDouble() * 0.0005);
-    }
-}
-
 TEST_F(SameState, IsOrderedByItsTemperatures)
 {
     for (const bool metric : {false, true}) {

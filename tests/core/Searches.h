@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/core/AccuracyDocument.h"
 #include "tests/core/CoreTest.h"
 #include "tests/core/PlainForms.h"
 #include "tests/core/Thoroughness.h"
@@ -47,13 +48,17 @@ protected:
                           << plain.error;
     }
 
-    template <typename Draw>
-    void compareRandom(int millions, Draw draw)
+    /// Compares random states of one kind, which the member function draws.
+    void compareRandom(int millions, const std::string& kind, Air (Searches::*draw)())
     {
         const long count = millions * 1000000L * ProofFactor() / OneOf("searches", 1, 50);
         for (long i = 0; i < count; ++i)
-            compare(draw());
+            compare((this->*draw)());
         EXPECT_EQ(different, 0);
+        if (IsProof())
+            ExpectInAccuracyDocument("| " + std::string(IsMetric() ? "Metric" : "English") + " | " + kind +
+                                     " | " + std::to_string(count) + " | " + std::to_string(different) +
+                                     " |");
     }
 
     Single uniform(double least, double most)
@@ -79,6 +84,7 @@ protected:
 
     Single anySign(Single value) { return random() % 2 == 0 ? value : -value; }
 
+public:
     /// Air that the screens accept, up to slightly above saturation.
     Air ofScreens()
     {
@@ -115,6 +121,8 @@ protected:
         return {uniform(-600, 3000), anySign(magnitude(1e-30, 1e12)), anySign(magnitude(1e-30, 1e12))};
     }
 
+    Air anyThree() { return {anySingle(), anySingle(), anySingle()}; }
+
     /// A pressure close to a candidate's saturation pressure.
     Air boiling()
     {
@@ -124,6 +132,7 @@ protected:
         return {tdb, anySign(magnitude(1e-6, 1e6)), RoundToSingle(p * uniform(0.999, 1.02))};
     }
 
+protected:
     std::mt19937_64 random{2024};
     int failures = 0;
     int different = 0;

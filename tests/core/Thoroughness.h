@@ -3,9 +3,10 @@
 #include <cstdlib>
 #include <iostream>
 
-/// True if tests of whole ranges cover them without a gap. Builds that run many times slower use samples and
-/// say so.
-#if defined(__OPTIMIZE__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+/// True if tests of whole ranges cover them without a gap. Builds that run many times slower or often use
+/// samples and say so.
+#if defined(__OPTIMIZE__) && !defined(DUNMOOR_SAMPLES) && !defined(__SANITIZE_ADDRESS__) &&                  \
+    !defined(__SANITIZE_THREAD__)
 constexpr bool IsThorough = true;
 #else
 constexpr bool IsThorough = false;
@@ -27,3 +28,6 @@ inline int ProofFactor()
     const char* const factor = std::getenv("DUNMOOR_PROOF_FACTOR");
     return factor == nullptr ? 1 : std::atoi(factor);
 }
+
+/// True if ranges that take minutes are covered without a gap. "./dev prove" sets it.
+inline bool IsProof() { return ProofFactor() > 1; }

@@ -144,7 +144,7 @@ TEST_F(MetricWetBulb, TakesAProductThatUnderflowsForZero)
     EXPECT_EQ(SolveWetBulb(tdb, dry, pressure), bracket.mid);
 }
 
-// No dry bulb from 0.005 to 125 degrees gives such a midpoint, so the test sets up the bracket.
+// No dry bulb gives such a midpoint (SearchEndsTest.cpp), so the test sets up the bracket.
 TEST_F(EnglishWetBulb, FaultsAtAMidpointOfExactlyZero)
 {
     WetBulbBracket bracket(50.0F);
