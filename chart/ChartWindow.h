@@ -1,8 +1,8 @@
 #pragma once
 
 #include "chart/ZoomPicture.h"
-#include "platform/forms/Controls.h"
 #include "platform/forms/CheckBox.h"
+#include "platform/forms/Controls.h"
 #include "platform/forms/Layout.h"
 #include "platform/forms/Menu.h"
 #include "platform/forms/Sides.h"

@@ -76,8 +76,8 @@ protected:
     {
         user.inDialog("SaveDialog", [as, filter] {
             auto& dialog = *qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            child<QComboBox>(dialog, "fileTypeCombo").setCurrentIndex(filter);
-            saveAs(as)(dialog);
+            Child<QComboBox>(dialog, "fileTypeCombo").setCurrentIndex(filter);
+            SaveAs(as)(dialog);
         });
         if (button) {
             user.inDialog("QuestionBox", [this, button] {
@@ -92,7 +92,7 @@ protected:
     void print(const QString& to)
     {
         user.inDialog("PrintDialog",
-                      [to] { printTo(to)(*qobject_cast<QDialog*>(QApplication::activeModalWidget())); });
+                      [to] { PrintToFile(to)(*qobject_cast<QDialog*>(QApplication::activeModalWidget())); });
         press(Qt::Key_P, Qt::ControlModifier);
     }
 
@@ -123,13 +123,13 @@ TEST_F(KeptChart, IsAPdfOfOnePageWithText)
     start();
     runCooling();
     save(path("chart.pdf"));
-    EXPECT_EQ(pagesOf(path("chart.pdf")), 1);
-    const QString text = sayOf("pdftotext", {"-raw", path("chart.pdf"), "-"});
+    EXPECT_EQ(PagesOf(path("chart.pdf")), 1);
+    const QString text = OutputOf("pdftotext", {"-raw", path("chart.pdf"), "-"});
     for (const char* words : {title, "Dry bulb, °F", "entering", "leaving", "At 14.696 psi"})
         EXPECT_TRUE(text.contains(words)) << words << " is not in " << text.toStdString();
-    EXPECT_TRUE(sayOf("pdfinfo", {path("chart.pdf")}).contains(title));
-    EXPECT_TRUE(sayOf("pdfinfo", {path("chart.pdf")}).contains("720 x 504 pts"));
-    EXPECT_EQ(sayOf("pdfimages", {"-list", path("chart.pdf")}).split('\n', Qt::SkipEmptyParts).size(), 2)
+    EXPECT_TRUE(OutputOf("pdfinfo", {path("chart.pdf")}).contains(title));
+    EXPECT_TRUE(OutputOf("pdfinfo", {path("chart.pdf")}).contains("720 x 504 pts"));
+    EXPECT_EQ(OutputOf("pdfimages", {"-list", path("chart.pdf")}).split('\n', Qt::SkipEmptyParts).size(), 2)
         << "no picture, only the heading of the list";
 }
 
@@ -191,11 +191,11 @@ TEST_F(KeptChart, IsPrintedOnOneLandscapePageWithTheTable)
     runCooling();
     clickAt(layout().plane.at(75, 0.0093));
     print(path("chart.pdf"));
-    EXPECT_EQ(pagesOf(path("chart.pdf")), 1);
-    const QStringList size = sayOf("pdfinfo", {path("chart.pdf")}).split('\n').filter("Page size");
+    EXPECT_EQ(PagesOf(path("chart.pdf")), 1);
+    const QStringList size = OutputOf("pdfinfo", {path("chart.pdf")}).split('\n').filter("Page size");
     const QStringList numbers = size.value(0).section(':', 1).simplified().split(' ');
     EXPECT_GT(numbers.value(0).toDouble(), numbers.value(2).toDouble()) << size.join("").toStdString();
-    const QString text = sayOf("pdftotext", {"-layout", path("chart.pdf"), "-"});
+    const QString text = OutputOf("pdftotext", {"-layout", path("chart.pdf"), "-"});
     for (const char* words : {title, "State", "Dry bulb", "Specific volume", "1 Mixed air, outside",
                               "5 Cooling, leaving", "A Pin"})
         EXPECT_TRUE(text.contains(words)) << words << " is not in " << text.toStdString();
@@ -215,7 +215,7 @@ TEST_F(KeptChart, LeavesThePrinterAsTheReportsSetIt)
     CurrentPrinter().setPort(path("chart.pdf").toStdString());
     const std::string before = printerSettings();
     print(path("chart.pdf"));
-    EXPECT_EQ(pagesOf(path("chart.pdf")), 1);
+    EXPECT_EQ(PagesOf(path("chart.pdf")), 1);
     EXPECT_EQ(printerSettings(), before);
     EXPECT_NE(CurrentPrinter().device().docName(), title);
     EXPECT_FALSE(CurrentPrinter().isPrinting());

@@ -89,12 +89,12 @@ TEST(ChartOverlays, HaveTheSensibleHeatRatioOfEachCoil)
     for (const Mode& mode : modes) {
         for (const bool isMollier : {false, true}) {
             mode.putInForce();
-            const AirSnapshot warm = airAt(IsMetric() ? 30 : 86, 50);
-            const AirSnapshot cool = airAt(IsMetric() ? 13 : 55, 95);
+            const AirSnapshot warm = AirAt(IsMetric() ? 30 : 86, 50);
+            const AirSnapshot cool = AirAt(IsMetric() ? 13 : 55, 95);
             KeepLastRun(Calculator::Cooling, {{"entering", warm}, {"leaving", cool}});
-            const AirSnapshot cold = airAt(IsMetric() ? 5 : 41, 50);
+            const AirSnapshot cold = AirAt(IsMetric() ? 5 : 41, 50);
             KeepLastRun(Calculator::Heating,
-                        {{"entering", cold}, {"leaving", airOfRatio(IsMetric() ? 35 : 95, cold.W)}});
+                        {{"entering", cold}, {"leaving", AirOfRatio(IsMetric() ? 35 : 95, cold.W)}});
             const chart::Layout chart = layoutOf(isMollier);
             ASSERT_EQ(chart.heatRatios.size(), 2U);
             const double latent = IsMetric() ? 2501 + 1.805 * warm.Tdb : 1061 + 0.444 * warm.Tdb;
@@ -116,9 +116,9 @@ TEST(ChartOverlays, HaveNoRatioWithoutALoad)
 {
     modes.front().putInForce();
     LastRuns = {};
-    const AirSnapshot air = airAt(70, 50);
+    const AirSnapshot air = AirAt(70, 50);
     KeepLastRun(Calculator::Heating, {{"entering", air}, {"leaving", air}});
-    KeepLastRun(Calculator::MixedAir, {{"outside", airAt(90, 50)}, {"return", air}});
+    KeepLastRun(Calculator::MixedAir, {{"outside", AirAt(90, 50)}, {"return", air}});
     EXPECT_TRUE(layoutOf(false).heatRatios.empty());
     EXPECT_EQ(chart::SensibleHeatRatio({"", 70, 0.01F, 14}, {"", 70, 0.01F, 14}), std::nullopt);
     EXPECT_EQ(chart::SensibleHeatRatio({"", 70, 0.01F, 14}, {"", 70, 0.008F, 14}), 0.0);

@@ -62,7 +62,7 @@ private:
     AirSnapshot air()
     {
         const chart::Place picked = place();
-        return airOfRatio(static_cast<Single>(picked.Tdb), static_cast<Single>(picked.W));
+        return AirOfRatio(static_cast<Single>(picked.Tdb), static_cast<Single>(picked.W));
     }
 
     void keepRuns()
@@ -75,11 +75,11 @@ private:
         if (isOdd()) {
             const AirSnapshot entering = air();
             KeepLastRun(Calculator::Heating, {{"entering", entering},
-                                              {"leaving", airOfRatio(IsMetric() ? 120 : 250, entering.W)}});
+                                              {"leaving", AirOfRatio(IsMetric() ? 120 : 250, entering.W)}});
         }
         if (isOdd())
             KeepLastRun(Calculator::Humidification,
-                        {{"outside", airAt(IsMetric() ? -38 : -36, 70)}, {"desired", air()}});
+                        {{"outside", AirAt(IsMetric() ? -38 : -36, 70)}, {"desired", air()}});
     }
 
     chart::Span zoomed()

@@ -31,7 +31,7 @@ chart::Place randomPlace(std::mt19937& random, Boolean16 units)
 
 AirSnapshot solved(const chart::Place& place)
 {
-    return airOfRatio(static_cast<Single>(place.Tdb), static_cast<Single>(place.W));
+    return AirOfRatio(static_cast<Single>(place.Tdb), static_cast<Single>(place.W));
 }
 
 QString valueOf(const chart::Reading& reading, const QString& name)
@@ -137,8 +137,8 @@ TEST(ChartReading, WritesNothing)
 {
     for (const Mode& mode : modes) {
         mode.putInForce();
-        const AirSnapshot air = airAt(IsMetric() ? 25 : 77, 50);
-        KeepLastRun(Calculator::Cooling, {{"entering", air}, {"leaving", airAt(IsMetric() ? 12 : 54, 95)}});
+        const AirSnapshot air = AirAt(IsMetric() ? 25 : 77, 50);
+        KeepLastRun(Calculator::Cooling, {{"entering", air}, {"leaving", AirAt(IsMetric() ? 12 : 54, 95)}});
         chart::View view;
         view.switches = {true, true, true, true, true, true, false};
         view.pins = {{air.Tdb, air.W}};

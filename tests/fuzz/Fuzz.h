@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/NumberLocale.h"
+#include "core/NumberText.h"
 
 #include <array>
 #include <cstddef>

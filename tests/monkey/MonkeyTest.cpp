@@ -3,7 +3,7 @@
 
 #include "tests/monkey/Monkey.h"
 #include "platform/SettingsStore.h"
-#include "platform/forms/Form.h"
+#include "platform/forms/Forms.h"
 #include "shell/Program.h"
 
 #include <gtest/gtest.h>
