@@ -11,7 +11,7 @@
 namespace chart {
 namespace {
 
-constexpr double leastForScales = 330; // pixels; smaller pictures have only the required axes
+constexpr double leastForScales = 330; // pixels; smaller pictures have only the two axes
 constexpr double curveGap = 3;
 
 /// The part of the cold edge of the plot that is below saturation: there the oblique lines enter the plot.
