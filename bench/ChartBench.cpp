@@ -54,7 +54,7 @@ void paint(QImage& image, const chart::View& view)
 void fillPlain(benchmark::State& state)
 {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    for (auto pass : state)
+    for ([[maybe_unused]] auto _ : state)
         image.fill(Qt::lightGray);
 }
 BENCHMARK(fillPlain)->Unit(benchmark::kMillisecond);
@@ -62,7 +62,7 @@ BENCHMARK(fillPlain)->Unit(benchmark::kMillisecond);
 void layOut(benchmark::State& state)
 {
     const chart::View view = viewOf(state);
-    for (auto pass : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(chart::Layout(size, QApplication::font(), view));
 }
 BENCHMARK(layOut)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
@@ -71,7 +71,7 @@ void layOutAndPaint(benchmark::State& state)
 {
     const chart::View view = viewOf(state);
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    for (auto pass : state)
+    for ([[maybe_unused]] auto _ : state)
         paint(image, view);
 }
 BENCHMARK(layOutAndPaint)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
@@ -84,7 +84,7 @@ void zoomStep(benchmark::State& state)
     const chart::Layout whole(size, QApplication::font(), view);
     chart::Plane plane = whole.plane;
     int step = 0;
-    for (auto pass : state) {
+    for ([[maybe_unused]] auto _ : state) {
         plane.span = plane.zoomed({1500, 900}, step++ % 40 < 20 ? 1.1 : 1 / 1.1);
         view.zoom = plane.span;
         paint(image, view);
@@ -99,7 +99,7 @@ void panStep(benchmark::State& state)
     chart::Plane plane = chart::Layout(size, QApplication::font(), view).plane;
     plane.span = plane.zoomed({1500, 900}, 2);
     int step = 0;
-    for (auto pass : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const double way = step++ % 40 < 20 ? 12 : -12;
         plane.span = plane.moved({way, way});
         view.zoom = plane.span;
@@ -112,7 +112,7 @@ void readOnePlace(benchmark::State& state)
 {
     const chart::Air air = chart::Air::inForce();
     double tdb = 60;
-    for (auto pass : state) {
+    for ([[maybe_unused]] auto _ : state) {
         tdb = tdb > 110 ? 60 : tdb + 0.1;
         benchmark::DoNotOptimize(chart::ReadingAt(air, {tdb, 0.008}));
     }

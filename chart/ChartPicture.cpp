@@ -76,11 +76,27 @@ std::vector<forms::PictureCommand> ChartPicture::commands()
 void ChartPicture::click(const QPoint& place)
 {
     pinsBeforeClick = Choices::inForce().pins();
-    if (!painted || !painted->plane.plot.contains(place))
+    if (letGoLast(place) || !painted || !painted->plane.plot.contains(place))
         return;
     const Place pointed = painted->plane.placeAt(place);
     if (IsAir(painted->air, pointed))
         pin(pointed);
+    if (Choices::inForce().pins().size() > pinsBeforeClick.size())
+        lastPinned.emplace(place, pointed);
+}
+
+/// Lets go the last pin if the click is where it was pinned. Its mark may be elsewhere now, because the table
+/// of the pins takes space.
+bool ChartPicture::letGoLast(const QPointF& click)
+{
+    if (!lastPinned || QLineF(lastPinned->first, click).length() > MarkReach)
+        return false;
+    std::vector<Place> pins = Choices::inForce().pins();
+    const bool wasPinned = std::erase(pins, lastPinned->second) > 0;
+    lastPinned.reset();
+    if (wasPinned)
+        Choices::inForce().setPins(std::move(pins));
+    return wasPinned;
 }
 
 /// Pins a reading, or lets go the pins that are there already.
@@ -144,6 +160,7 @@ void ChartPicture::zoomTo(const Span& span, const QPointF& point)
     if (!isPresent())
         crossHair.reset();
     zoom = span;
+    lastPinned.reset();
     lookedAt = Conditions::inForce();
     painted->plane.span = span; // for a movement that comes before the next picture
     atRest.emplace(point, painted->plane.placeAt(point));
@@ -153,6 +170,7 @@ void ChartPicture::zoomTo(const Span& span, const QPointF& point)
 void ChartPicture::zoomOut()
 {
     zoom.reset();
+    lastPinned.reset();
     changed();
 }
 

@@ -46,6 +46,7 @@ private:
     bool isPresent() const { return lookedAt == Conditions::inForce(); }
     void moveCrossHair(const Step& step);
     void pin(const Place& place);
+    bool letGoLast(const QPointF& click);
     bool clear();
 
     forms::Form& form;
@@ -55,7 +56,8 @@ private:
     std::optional<Place> crossHair;
     std::optional<Span> zoom;
     std::optional<std::pair<QPointF, Place>> atRest; // in the next picture, though its plot may be another
-    std::vector<Place> pinsBeforeClick;              // a double click restores them
+    std::optional<std::pair<QPointF, Place>> lastPinned; // where it was clicked
+    std::vector<Place> pinsBeforeClick;                  // a double click restores them
 };
 
 } // namespace chart

@@ -6,6 +6,7 @@
 #include "chart/PinTable.h"
 
 #include <cmath>
+#include <utility>
 
 namespace chart {
 namespace {
@@ -156,10 +157,11 @@ private:
         append(chart.curves, tracer.humidityRatios());
         if (!chart.air.isDefined())
             return;
-        std::vector<Curve> enthalpies = isOn.enthalpy ? tracer.enthalpies() : std::vector<Curve>();
+        const bool hasEnthalpy = chart.frame.hasEnthalpy; // lines without their scale can't be read
+        std::vector<Curve> enthalpies = hasEnthalpy ? tracer.enthalpies() : std::vector<Curve>();
         std::vector<Curve> wetBulbs =
             isOn.wetBulb ? NamedWetBulbs(chart, tracer, rim, letters) : std::vector<Curve>();
-        if (chart.frame.hasEnthalpy)
+        if (hasEnthalpy)
             AddEnthalpyScale(chart, enthalpies, rim, letters);
         if (isOn.specificVolume)
             append(chart.curves, tracer.volumes());
@@ -189,9 +191,9 @@ private:
 
 } // namespace
 
-Layout::Layout(const QSizeF& ofPicture, const QFont& widgetFont, const View& lookedAt)
+Layout::Layout(const QSizeF& ofPicture, const QFont& widgetFont, View lookedAt)
     : size(ofPicture),
-      view(lookedAt),
+      view(std::move(lookedAt)),
       air(Air::inForce()),
       runs(ShownRuns()),
       font(FontOfChart(widgetFont)),

@@ -35,7 +35,7 @@ struct Process
 struct Layout
 {
     /// The chart of the last runs, in the current units and at the current pressure.
-    Layout(const QSizeF& ofPicture, const QFont& widgetFont, const View& lookedAt = {});
+    Layout(const QSizeF& ofPicture, const QFont& widgetFont, View lookedAt = {});
 
     QSizeF size;
     View view;

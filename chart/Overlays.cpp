@@ -1,5 +1,6 @@
 #include "chart/Overlays.h"
 
+#include "chart/Texts.h"
 #include "chart/Tracing.h"
 #include "core/Relations.h"
 #include "core/ThermalComfort.h"
@@ -87,14 +88,15 @@ std::vector<ComfortZone> ComfortZones(const Air& air, const Plane& plane, const 
 {
     std::vector<ComfortZone> zones;
     for (const auto& [name, clo, isWinter] :
-         {std::tuple{"Winter, 1.0 clo", 1.0, true}, std::tuple{"Summer, 0.5 clo", 0.5, false}}) {
+         {std::tuple{"Winter, %1 clo", 1.0, true}, std::tuple{"Summer, %1 clo", 0.5, false}}) {
         const QPolygonF cool = edgeOf(-comfortable, clo, air, plane);
         const QPolygonF warm = edgeOf(comfortable, clo, air, plane);
         QPolygonF zone = cool;
         std::copy(warm.rbegin(), warm.rend(), std::back_inserter(zone));
         zone = zone.intersected(airArea);
         if (!zone.isEmpty())
-            zones.push_back({name, zone, upwards(isWinter ? cool : warm, plane)});
+            zones.push_back(
+                {QString(name).arg(FormatFigure(clo, 1)), zone, upwards(isWinter ? cool : warm, plane)});
     }
     return zones;
 }

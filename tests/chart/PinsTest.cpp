@@ -34,6 +34,18 @@ TEST_F(ChartOnMenu, PinsAReadingByAClickAndLetsItGoByAnother)
     EXPECT_EQ(PixelsThatDiffer(before, shown()), 0);
 }
 
+TEST_F(ChartOnMenu, LetsAPinGoByASecondClickAtTheSamePlaceThoughThePlotHasShrunk)
+{
+    start();
+    const QPointF place = layout().plane.at(98, 0.0126);
+    clickAt(place);
+    ASSERT_EQ(pins().size(), 1U);
+    shown();
+    ASSERT_GT(QLineF(layout().plane.at(pins().front().Tdb, pins().front().W), place).length(), 10);
+    clickAt(place);
+    EXPECT_TRUE(pins().empty());
+}
+
 TEST_F(ChartOnMenu, KeepsSeveralPinsUntilEsc)
 {
     start();
